@@ -1,0 +1,25 @@
+install(TARGETS hoxqui hoxqsystem EXPORT HoxqUi
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime NAMELINK_COMPONENT Devel)
+install(DIRECTORY ui DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui COMPONENT Devel
+  FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE PATTERN resources EXCLUDE)
+install(FILES system/vexologging.h ${PROJECT_BINARY_DIR}/system/hoxqsystem_export.h
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui/system COMPONENT Devel)
+install(FILES ${PROJECT_BINARY_DIR}/ui/hoxqui_export.h
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui/ui COMPONENT Devel)
+get_property(forwards GLOBAL PROPERTY HOXQ_FORWARDS)
+install(FILES ${forwards} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui COMPONENT Devel)
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/HoxqUi)
+install(EXPORT HoxqUi NAMESPACE Hoxq:: FILE HoxqUiTargets.cmake
+  DESTINATION ${package_dir} COMPONENT Devel)
+configure_package_config_file(cmake/HoxqUiConfig.cmake.in HoxqUiConfig.cmake
+  INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(HoxqUiConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/HoxqUiConfig.cmake ${PROJECT_BINARY_DIR}/HoxqUiConfigVersion.cmake
+  DESTINATION ${package_dir} COMPONENT Devel)
+
+# Relative to its own folder, so that the installed tree can be moved.
+file(RELATIVE_PATH up_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+configure_file(cmake/hoxqui.pc.in hoxqui.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/hoxqui.pc
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Devel)

@@ -1,0 +1,131 @@
+#include "ui/buttons/measuredpushbutton.h"
+
+#include "ui/buttons/tone_p.h"
+#include "ui/foundation/visiblebuddies_p.h"
+
+#include <QMouseEvent>
+#include <QPointer>
+
+#include <limits>
+
+namespace vexo::hox::qt::ui {
+
+MeasuredPushButton::MeasuredPushButton(QWidget *parent)
+    : QToolButton(parent)
+    , VexoLogging("B")
+    , m_visible_buddies(std::make_unique<VisibleBuddies>())
+{
+    connectTone(this, &QAbstractButton::pressed);
+    m_long_press_timer.setSingleShot(true);
+    m_long_press_timer.setTimerType(Qt::PreciseTimer);
+    m_long_press_timer.setInterval(int(m_long_press_ms));
+    connect(&m_long_press_timer, &QTimer::timeout, this, &MeasuredPushButton::longPressed);
+    m_pulse_timer.setTimerType(Qt::PreciseTimer);
+}
+
+MeasuredPushButton::~MeasuredPushButton() = default;
+
+void MeasuredPushButton::pulse(unsigned int interval_ms, const QObject *receiver, const char *slot)
+{
+    const unsigned int longest = std::numeric_limits<int>::max();
+    m_pulse_timer.setInterval(int(qMin(interval_ms, longest)));
+    m_pulse_timer.setSingleShot(false);
+    if (receiver && slot)
+        connect(&m_pulse_timer, SIGNAL(timeout()), receiver, slot);
+}
+
+void MeasuredPushButton::enablePulse(bool enable)
+{
+    m_pulse_enabled = enable;
+    if (!enable)
+        m_pulse_timer.stop();
+}
+
+void MeasuredPushButton::addVisibleBuddy(QWidget *buddy)
+{
+    m_visible_buddies->add(buddy);
+}
+
+void MeasuredPushButton::clearVisibleBuddies()
+{
+    m_visible_buddies->clear();
+}
+
+void MeasuredPushButton::setVisible(bool visible)
+{
+    QToolButton::setVisible(visible);
+    m_visible_buddies->setVisible(visible);
+}
+
+void MeasuredPushButton::changeEvent(QEvent *event)
+{
+    QToolButton::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange && !isEnabled())
+        stopMeasuring();
+}
+
+void MeasuredPushButton::hideEvent(QHideEvent *event)
+{
+    QToolButton::hideEvent(event);
+    if (m_press_time.isValid())
+        setDown(false);
+    stopMeasuring();
+}
+
+void MeasuredPushButton::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton) {
+        QToolButton::mousePressEvent(event);
+        return;
+    }
+    const QPointer<MeasuredPushButton> self(this);
+    m_press_time.start(); // a slot of pressed() that hides or disables the button ends the press
+    QToolButton::mousePressEvent(event);
+    if (self && m_press_time.isValid())
+        startMeasuring();
+}
+
+void MeasuredPushButton::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (!m_press_time.isValid() || event->button() != Qt::LeftButton) {
+        QToolButton::mouseReleaseEvent(event);
+        return;
+    }
+    const auto elapsed = static_cast<unsigned int>(m_press_time.elapsed());
+    // Stopped before the slots run: they may open a dialog, whose event loop would still report a
+    // long press.
+    stopMeasuring();
+    const QPointer<MeasuredPushButton> self(this);
+    QToolButton::mouseReleaseEvent(event);
+    if (self)
+        mouseReleaseEvent(elapsed);
+    if (self)
+        Q_EMIT keyPressHandling(elapsed, elapsed < m_long_press_ms, false);
+}
+
+void MeasuredPushButton::mouseReleaseEvent(unsigned int elapsed_ms)
+{
+    Q_EMIT pressedDelayed(elapsed_ms);
+}
+
+void MeasuredPushButton::longPressed()
+{
+    Q_EMIT keyPressHandling(static_cast<unsigned int>(m_press_time.elapsed()), false, true);
+}
+
+void MeasuredPushButton::startMeasuring()
+{
+    m_press_time.start();
+    if (m_pulse_enabled && m_pulse_timer.interval() > 0)
+        m_pulse_timer.start();
+    m_long_press_timer.start();
+}
+
+void MeasuredPushButton::stopMeasuring()
+{
+    m_press_time.invalidate();
+    m_pulse_timer.stop();
+    m_long_press_timer.stop();
+}
+
+} // namespace vexo::hox::qt::ui

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QPoint>
+
+#include <cstdlib>
+
+namespace vexo::hox::qt::ui {
+
+/// Tells a tap from a swipe: a press that has wandered further than the threshold in x or y is a
+/// swipe until its release, even if the finger comes back.
+class SwipeGuard
+{
+public:
+    explicit SwipeGuard(int threshold_px)
+        : m_threshold(threshold_px)
+    {
+    }
+
+    int threshold() const { return m_threshold; }
+    void setThreshold(int px) { m_threshold = px; }
+    bool isPressed() const { return m_is_pressed; }
+
+    /// Positions are in px, in any one coordinate system.
+    void press(const QPoint &position)
+    {
+        m_is_pressed = true;
+        m_position = position;
+    }
+
+    void move(const QPoint &position)
+    {
+        if (!m_is_pressed)
+            return;
+        const QPoint way = position - m_position;
+        if (std::abs(way.x()) > m_threshold || std::abs(way.y()) > m_threshold)
+            m_is_swipe = true;
+    }
+
+    /// Ends the press; true for a tap.
+    bool release()
+    {
+        const bool is_tap = !m_is_swipe;
+        m_is_pressed = false;
+        m_is_swipe = false;
+        m_position = QPoint();
+        return is_tap;
+    }
+
+private:
+    int m_threshold; // px
+    bool m_is_pressed = false;
+    bool m_is_swipe = false;
+    QPoint m_position;
+};
+
+} // namespace vexo::hox::qt::ui

@@ -1,0 +1,226 @@
+#include "ui/foundation/cachedvectoricon.h"
+
+#include "ui/foundation/imagefile_p.h"
+#include "ui/foundation/pixels_p.h"
+
+#include <stdexcept>
+
+namespace vexo::hox::qt::ui {
+
+namespace {
+
+// NaN fails the comparison and is refused like a negative size.
+void refuseNegative(double first, double second, const char *text)
+{
+    if (!(first >= 0 && second >= 0))
+        throw std::out_of_range(text);
+}
+
+} // namespace
+
+CachedVectorIcon::CachedVectorIcon()
+    : VexoLogging("CVI")
+{
+}
+
+CachedVectorIcon::CachedVectorIcon(const QString &file)
+    : CachedVectorIcon()
+{
+    setFilenameOfImageToCache(file);
+}
+
+CachedVectorIcon::CachedVectorIcon(const QString &file, const QSizeF &mm)
+    : CachedVectorIcon(file)
+{
+    setMmSize(mm);
+}
+
+CachedVectorIcon::CachedVectorIcon(const QString &file, const QSize &px)
+    : CachedVectorIcon(file)
+{
+    setPxSize(px);
+}
+
+CachedVectorIcon::CachedVectorIcon(const CachedVectorIcon &other)
+    : QIcon(other)
+    , VexoLogging(other)
+    , m_must_relayout(true)
+    , m_mm_width(other.m_mm_width)
+    , m_mm_height(other.m_mm_height)
+    , m_px_width(other.m_px_width)
+    , m_px_height(other.m_px_height)
+    , m_filename(other.m_filename)
+{
+    updateSizeCalculations();
+}
+
+CachedVectorIcon &CachedVectorIcon::operator=(const CachedVectorIcon &other)
+{
+    if (this == &other)
+        return *this;
+    m_mm_width = other.m_mm_width;
+    m_mm_height = other.m_mm_height;
+    m_filename = other.m_filename;
+    m_px_width = other.m_px_width;
+    m_px_height = other.m_px_height;
+    m_must_relayout = true;
+    updateSizeCalculations();
+    return *this;
+}
+
+CachedVectorIcon::~CachedVectorIcon() = default;
+
+void CachedVectorIcon::setFilenameOfImageToCache(const QString &file)
+{
+    m_filename = file;
+    m_must_relayout = true;
+}
+
+void CachedVectorIcon::setFilenameOfImageToCache(const QString &file, const QSizeF &mm)
+{
+    setFilenameOfImageToCache(file);
+    setMmSize(mm);
+}
+
+void CachedVectorIcon::setMmWidth(float mm)
+{
+    refuseNegative(double(mm), 0, "Negative width is impossible!");
+    m_must_relayout = true;
+    if (mm == m_mm_width)
+        return;
+    m_mm_width = mm;
+    if (mm > 0.0001f)
+        updateSizeCalculations();
+}
+
+void CachedVectorIcon::setMmHeight(float mm)
+{
+    refuseNegative(0, double(mm), "Negative height is impossible!");
+    m_must_relayout = true;
+    if (mm == m_mm_height)
+        return;
+    m_mm_height = mm;
+    if (mm > 0.0001f)
+        updateSizeCalculations();
+}
+
+void CachedVectorIcon::setMmSize(const QSizeF &mm)
+{
+    refuseNegative(mm.width(), mm.height(), "Negative measurements are impossible!");
+    m_must_relayout = true;
+    if (double(m_mm_width) == mm.width() && double(m_mm_height) == mm.height())
+        return;
+    m_mm_width = float(mm.width());
+    m_mm_height = float(mm.height());
+    updateSizeCalculations();
+}
+
+void CachedVectorIcon::setPxSize(const QSize &px)
+{
+    refuseNegative(px.width(), px.height(), "Negative measurements are impossible!");
+    m_must_relayout = true;
+    const double width = px.width();
+    const double height = px.height();
+    if (qFuzzyCompare(width, m_px_width) && qFuzzyCompare(height, m_px_height))
+        return;
+    m_px_width = width;
+    m_px_height = height;
+    m_mm_width = ScalingInfo::inst()->px2mm_X(float(width));
+    m_mm_height = ScalingInfo::inst()->px2mm_Y(float(height));
+    updateSizeCalculations();
+}
+
+void CachedVectorIcon::updateSizeCalculations()
+{
+    if (mustRelayout()) {
+        m_px_width = double(ScalingInfo::inst()->mm2px_X(m_mm_width));
+        m_px_height = double(ScalingInfo::inst()->mm2px_Y(m_mm_height));
+    }
+    compute();
+}
+
+void CachedVectorIcon::compute()
+{
+    if (m_filename.isEmpty())
+        return;
+    if (isBitmap(m_filename)) {
+        computeBitmap();
+        return;
+    }
+    VectorFile file(m_filename);
+    const QSize natural = file.naturalSize();
+    if (!natural.isValid()) {
+        log("SVG renderer invalid.");
+        computeBitmap();
+        return;
+    }
+    if (!natural.isEmpty())
+        fillMissingMm(fillMissingPx(double(natural.width()) / natural.height()));
+    addPixmap(file.pixmap(pxSize()), QIcon::Normal, QIcon::Off);
+    m_must_relayout = false;
+}
+
+void CachedVectorIcon::computeBitmap()
+{
+    BitmapFile file(m_filename);
+    const QSize natural = file.naturalSize();
+    if (!natural.isValid()) {
+        log("Invalid pixmap");
+        return;
+    }
+    if (!natural.isEmpty())
+        fillMissingPx(double(float(natural.width()) / float(natural.height())));
+    addPixmap(file.pixmap(pxSize()), QIcon::Normal, QIcon::Off);
+}
+
+bool CachedVectorIcon::isBitmap(const QString &file) const
+{
+    return !file.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive);
+}
+
+bool CachedVectorIcon::mustRelayout()
+{
+    return m_must_relayout;
+}
+
+QPixmap CachedVectorIcon::toPixmap()
+{
+    if (!(m_px_width > 0 && m_px_height > 0))
+        return QPixmap();
+    return pixmap(pxSize(), QIcon::Normal, QIcon::Off);
+}
+
+CachedVectorIcon::Dimension CachedVectorIcon::fillMissingPx(double aspect)
+{
+    const float ratio = ScalingInfo::inst()->m_xy_ratio;
+    if (m_px_width == 0 && m_px_height > 0) {
+        m_px_width = double(1 / ratio) * m_px_height * aspect;
+        return Dimension::Width;
+    }
+    if (m_px_height == 0 && m_px_width > 0) {
+        m_px_height = double(ratio) * m_px_width / aspect;
+        return Dimension::Height;
+    }
+    return Dimension::None;
+}
+
+void CachedVectorIcon::fillMissingMm(Dimension filled)
+{
+    if (filled == Dimension::Width)
+        m_mm_width = ScalingInfo::inst()->px2mm_X(float(m_px_width));
+    else if (filled == Dimension::Height)
+        m_mm_height = ScalingInfo::inst()->px2mm_Y(float(m_px_height));
+}
+
+QSize CachedVectorIcon::pxSize() const
+{
+    return QSize(truncated(m_px_width), truncated(m_px_height));
+}
+
+void CachedVectorIcon::log(const char *line) const
+{
+    if (isDebugging())
+        Debug(line);
+}
+
+} // namespace vexo::hox::qt::ui

@@ -1,0 +1,39 @@
+#include "ui/foundation/fontloader.h"
+
+#include "ui/foundation/panelfont_p.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+
+namespace vexo::hox::qt::ui {
+
+namespace {
+
+QFont applicationFont(const QString &family)
+{
+    const int largest_stretch = 4000; // beyond it the toolkit refuses the stretch with a warning
+    QFont font(family);
+    font.setWeight(QFont::Light);
+    font.setStretch(qBound(1, ScalingInfo::inst()->fontStretch(), largest_stretch));
+    setPtSize(font, 7.0);
+    return font;
+}
+
+} // namespace
+
+FontLoader::FontLoader()
+{
+    loadFont(":/fonts/DroidSansFallback.ttf");
+    loadFont(":/fonts/UniversNextW1G-Medium.otf");
+    loadFont(":/fonts/UniversNextW1G-Bold.otf");
+    loadFont(":/fonts/UniversNextW1G-Regular.otf");
+    QApplication::setFont(applicationFont(loadFont(":/fonts/UniversNextW1G-Light.otf")));
+}
+
+QString FontLoader::loadFont(const char *path)
+{
+    const int id = QFontDatabase::addApplicationFont(QString::fromUtf8(path));
+    return QFontDatabase::applicationFontFamilies(id).value(0);
+}
+
+} // namespace vexo::hox::qt::ui

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QPixmap>
+#include <QSize>
+#include <QString>
+
+#include <memory>
+
+class QImageReader;
+class QSvgRenderer;
+
+namespace vexo::hox::qt::ui {
+
+/// An image file on its way to icons: its natural size, and renderings of it at whole pixel sizes.
+/// Both are kept for all icons of the process under path, size and time of the file, so a file is
+/// read again only after it has changed. Whatever cannot be read safely (no regular file, a header
+/// that promises more than MAX_PIXELS, a compressed file that may unpack to hundreds of megabytes)
+/// counts as unreadable; nothing is printed.
+class ImageFile
+{
+public:
+    static constexpr int MAX_SIDE = 32767; ///< px; what the toolkit's painter can address
+    static constexpr qint64 MAX_PIXELS = qint64(64) << 20; ///< 256 MB in memory
+
+    virtual ~ImageFile();
+    ImageFile(const ImageFile &) = delete;
+    ImageFile &operator=(const ImageFile &) = delete;
+
+    /// The size the file gives itself; invalid when it cannot be read.
+    QSize naturalSize();
+    /// The whole image stretched to \a px; null for an empty size and beyond the limits.
+    QPixmap pixmap(const QSize &px);
+
+protected:
+    ImageFile(const QString &path, QLatin1Char kind);
+
+    /// Reads the file and returns its natural size, invalid on failure.
+    virtual QSize read() = 0;
+    /// Renders what read() has read.
+    virtual QPixmap render(const QSize &px) = 0;
+
+    const QString m_path;
+    const bool m_is_safe;
+
+private:
+    QString m_key; // empty when the file may still be changing
+    bool m_is_read = false;
+};
+
+/// An SVG file, plain or gzip-compressed.
+class VectorFile : public ImageFile
+{
+public:
+    explicit VectorFile(const QString &path);
+    ~VectorFile() override;
+
+protected:
+    QSize read() override;
+    QPixmap render(const QSize &px) override;
+
+private:
+    std::unique_ptr<QSvgRenderer> m_renderer;
+};
+
+/// A file of any format that the toolkit reads as an image. Vector formats, which it recognises by
+/// content, are rendered at the asked size and stay crisp.
+class BitmapFile : public ImageFile
+{
+public:
+    explicit BitmapFile(const QString &path);
+    ~BitmapFile() override;
+
+protected:
+    QSize read() override;
+    QPixmap render(const QSize &px) override;
+
+private:
+    std::unique_ptr<QImageReader> m_vector_reader;
+    QPixmap m_pixmap;
+};
+
+} // namespace vexo::hox::qt::ui

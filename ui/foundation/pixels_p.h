@@ -1,0 +1,45 @@
+#pragma once
+
+#include "ui/foundation/scalinginfo.h"
+
+#include <cmath>
+#include <limits>
+
+namespace vexo::hox::qt::ui {
+
+/// Whole pixels, cut toward zero. NaN gives 0 and huge values are clamped: a plain cast of them is
+/// undefined and differs between processors.
+inline int truncated(double px)
+{
+    if (std::isnan(px))
+        return 0;
+    constexpr double lowest = std::numeric_limits<int>::min();
+    constexpr double highest = std::numeric_limits<int>::max();
+    return int(px < lowest ? lowest : px > highest ? highest : px);
+}
+
+/// Whole pixels of a width in mm.
+inline int pxX(const ScalingInfo &scaling, double mm)
+{
+    return truncated(double(scaling.mm2px_X(float(mm))));
+}
+
+/// Whole pixels of a height in mm.
+inline int pxY(const ScalingInfo &scaling, double mm)
+{
+    return truncated(double(scaling.mm2px_Y(float(mm))));
+}
+
+/// Whole pixels of a font height in pt.
+inline int pxPt(const ScalingInfo &scaling, double pt)
+{
+    return truncated(double(scaling.pt2px_Y(float(pt))));
+}
+
+/// Whole pixels of a size in mm.
+inline QSize pxSize(const ScalingInfo &scaling, const QSizeF &mm)
+{
+    return QSize(pxX(scaling, mm.width()), pxY(scaling, mm.height()));
+}
+
+} // namespace vexo::hox::qt::ui

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "ui/hoxqui_export.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace vexo::hox::qt::ui {
+
+/// Reads stylesheet files and gives their joined text to the application. The library brings
+/// ":/css/vexo-AAL.qs" and ":/css/hoxq.qs". Construct one after the application object; the object
+/// need not be kept.
+class HOXQUI_EXPORT VexoStylesheet
+{
+public:
+    /// Reads the file \a name and, if \a apply, calls set().
+    explicit VexoStylesheet(const QString &name, bool apply = true);
+    /// Reads the files in list order and, if \a apply, calls set(). Where two rules weigh the same,
+    /// the later file wins.
+    explicit VexoStylesheet(const QStringList &names, bool apply = true);
+
+    /// Appends the text of the file \a name, a full resource or file path. A file that does not
+    /// exist is named in a warning; one that cannot be opened adds nothing. Nothing is shown before
+    /// set().
+    void setStylesheet(const QString &name);
+    /// Replaces the application's stylesheet by all that was read, and makes fonts and colours of
+    /// a stylesheet reach child widgets (Qt::AA_UseStyleSheetPropagationInWidgetStyles). Without an
+    /// application object only the attribute is set.
+    void set();
+
+private:
+    QString m_stylesheet;
+};
+
+} // namespace vexo::hox::qt::ui

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QPointer>
+#include <QVector>
+#include <QWidget>
+
+namespace vexo::hox::qt::ui {
+
+/// Widgets that are shown and hidden together with their owner. They are not owned: one that has
+/// been destroyed is skipped.
+class VisibleBuddies
+{
+public:
+    VisibleBuddies() = default;
+    ~VisibleBuddies();
+    VisibleBuddies(const VisibleBuddies &) = delete;
+    VisibleBuddies &operator=(const VisibleBuddies &) = delete;
+
+    /// Appends \a buddy; null is ignored, a repeated one is shown and hidden repeatedly.
+    void add(QWidget *buddy);
+    void clear();
+    /// Shows or hides the buddies in the order they were added. The list may change meanwhile, and
+    /// owner and buddies may be destroyed. A call from within ends at once, so that buddies of each
+    /// other make one round.
+    void setVisible(bool visible);
+
+private:
+    QVector<QPointer<QWidget>> m_buddies;
+    bool *m_is_gone = nullptr; // set during a round; told when the owner is destroyed in it
+};
+
+} // namespace vexo::hox::qt::ui
