@@ -32,7 +32,10 @@ FontLoader::FontLoader()
 
 QString FontLoader::loadFont(const char *path)
 {
-    const int id = QFontDatabase::addApplicationFont(QString::fromUtf8(path));
+    const QString file = QString::fromUtf8(path);
+    if (file.isEmpty())
+        return QString();
+    const int id = QFontDatabase::addApplicationFont(file);
     return QFontDatabase::applicationFontFamilies(id).value(0);
 }
 

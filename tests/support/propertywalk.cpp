@@ -1,0 +1,108 @@
+#include "support/propertywalk.h"
+
+#include <MeasuredPushButton>
+
+#include <QColor>
+#include <QMetaProperty>
+#include <QSizeF>
+#include <QVariant>
+
+using namespace vexo::hox::qt::ui;
+
+const std::vector<WalkedClass> &walkedClasses()
+{
+    static const std::vector<WalkedClass> classes = {
+        { "MeasuredPushButton", [](QWidget *parent) { return new MeasuredPushButton(parent); } },
+    };
+    return classes;
+}
+
+namespace {
+
+QVariant otherEnumerator(const QMetaProperty &property, int current)
+{
+    const QMetaEnum keys = property.enumerator();
+    for (int i = 0; i < keys.keyCount(); ++i) {
+        if (keys.value(i) != current)
+            return keys.value(i);
+    }
+    return QVariant();
+}
+
+// \a step keeps the value for the stylesheet apart from the one written by name.
+QVariant otherValue(const QMetaProperty &property, const QVariant &value, int step)
+{
+    if (property.isEnumType())
+        return otherEnumerator(property, value.toInt());
+    switch (property.userType()) {
+    case QMetaType::Bool:
+        return !value.toBool();
+    case QMetaType::Int:
+        return value.toInt() + step;
+    case QMetaType::Double:
+        return value.toDouble() + step;
+    case QMetaType::QString:
+        return QStringLiteral("text %1").arg(step);
+    case QMetaType::QColor:
+        return QColor(10 * step, 20, 30);
+    case QMetaType::QSizeF:
+        return value.toSizeF() + QSizeF(step, step);
+    default:
+        return QVariant();
+    }
+}
+
+QString cssText(const QMetaProperty &property, const QVariant &value)
+{
+    if (property.isEnumType())
+        return QLatin1String(property.enumerator().valueToKeys(value.toInt()));
+    if (value.userType() == QMetaType::QColor)
+        return value.value<QColor>().name();
+    return QLatin1Char('"') + value.toString() + QLatin1Char('"');
+}
+
+bool holds(const QMetaProperty &property, const QWidget *widget, const QVariant &expected)
+{
+    const QVariant value = property.read(widget);
+    return property.isEnumType() ? value.toInt() == expected.toInt() : value == expected;
+}
+
+bool takesByName(const QMetaProperty &property, QWidget *widget)
+{
+    const QVariant other = otherValue(property, property.read(widget), 3);
+    return other.isValid() && widget->setProperty(property.name(), other)
+        && holds(property, widget, other);
+}
+
+bool takesByStylesheet(const QMetaProperty &property, QWidget *widget)
+{
+    const QVariant other = otherValue(property, property.read(widget), 5);
+    // The toolkit's stylesheets know no pair of numbers.
+    if (other.userType() == QMetaType::QSizeF)
+        return true;
+    widget->setStyleSheet(QStringLiteral("* { qproperty-%1: %2; }")
+                              .arg(QLatin1String(property.name()), cssText(property, other)));
+    widget->ensurePolished();
+    return holds(property, widget, other);
+}
+
+} // namespace
+
+QStringList propertyFaults(QWidget *widget)
+{
+    QStringList faults;
+    const QMetaObject *meta = widget->metaObject();
+    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i) {
+        const QMetaProperty property = meta->property(i);
+        const QString name = QLatin1String(property.name());
+        if (!takesByName(property, widget))
+            faults += name + QStringLiteral(" does not keep a value written by name");
+        if (!property.isScriptable(widget) || !property.isStored(widget))
+            faults += name + QStringLiteral(" is not scriptable and stored");
+        if (!property.isDesignable(widget)) // also keeps it out of stylesheets
+            faults += name + QStringLiteral(" is not designable");
+        else if (!takesByStylesheet(property, widget))
+            faults += name + QStringLiteral(" does not take a value from a stylesheet");
+    }
+    return faults;
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+/// A class with properties, and how to make one on a parent.
+struct WalkedClass
+{
+    const char *name;
+    std::function<QWidget *(QWidget *parent)> make;
+};
+
+/// Every exported widget class. A new class adds its line here.
+const std::vector<WalkedClass> &walkedClasses();
+
+/// Walks the properties that the class of \a widget declares itself: each must be designable,
+/// scriptable and stored, take another value by name and give it back, and take one from a
+/// qproperty- rule of a stylesheet. Returns a line per fault.
+QStringList propertyFaults(QWidget *widget);

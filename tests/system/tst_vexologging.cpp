@@ -1,0 +1,56 @@
+#include "support/testcase.h"
+
+#include <VexoLogging>
+
+#include <QLoggingCategory>
+#include <QTest>
+
+using vexo::hox::qt::system::VexoLogging;
+
+class TestVexoLogging : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void writesOneLineOnItsCategory();
+    void debugIsOffUntilARuleSwitchesItOn();
+};
+
+void TestVexoLogging::cleanup()
+{
+    QLoggingCategory::setFilterRules(QString());
+}
+
+void TestVexoLogging::writesOneLineOnItsCategory()
+{
+    const VexoLogging buttons("B");
+    const VexoLogging video("*");
+    const VexoLogging nameless(nullptr);
+    Messages messages;
+    buttons.Info(u8"Grüße %s");
+    video.Error("no picture");
+    nameless.Info("x");
+    const QStringList expected = { QString::fromUtf8("info hoxq.B: Grüße %s"),
+        QStringLiteral("critical hoxq.*: no picture"), QStringLiteral("info hoxq.: x") };
+    QCOMPARE(messages.lines(), expected);
+}
+
+void TestVexoLogging::debugIsOffUntilARuleSwitchesItOn()
+{
+    const VexoLogging icon("CVI");
+    const VexoLogging button("B");
+    Messages messages;
+    QVERIFY(!icon.isDebugging());
+    icon.Debug("dropped");
+
+    QLoggingCategory::setFilterRules(QStringLiteral("hoxq.CVI.debug=true"));
+    const VexoLogging later("CVI");
+    QVERIFY(icon.isDebugging() && later.isDebugging());
+    QVERIFY(!button.isDebugging());
+    icon.Debug("kept");
+    QCOMPARE(messages.lines(), QStringList(QStringLiteral("debug hoxq.CVI: kept")));
+}
+
+QTEST_MAIN(TestVexoLogging)
+#include "tst_vexologging.moc"

@@ -1,0 +1,392 @@
+#include "support/testcase.h"
+
+#include <MeasuredPushButton>
+#include <VexoFeedbackDelegator>
+
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+using namespace vexo::hox::qt::ui;
+
+namespace {
+
+const char *const LONG_STILL_HELD = "long, held";
+
+/// What the button emits, in order, without the times.
+class Log : public QObject
+{
+public:
+    explicit Log(MeasuredPushButton *button)
+    {
+        const auto note = [this](const char *line) { return [this, line] { lines += line; }; };
+        connect(button, &QAbstractButton::pressed, this, note("pressed"));
+        connect(button, &QAbstractButton::released, this, note("released"));
+        connect(button, &QAbstractButton::clicked, this, note("clicked"));
+        connect(button, &MeasuredPushButton::pressedDelayed, this, [this](uint ms) {
+            lines += "delayed";
+            delayed_ms = ms;
+        });
+        connect(button, &MeasuredPushButton::keyPressHandling, this,
+            [this](uint ms, bool short_pressed, bool pressed) {
+                lines += pressed ? LONG_STILL_HELD : short_pressed ? "short" : "long";
+                elapsed_ms = ms;
+            });
+    }
+
+    QByteArray text() const { return lines.join("; "); }
+
+    QByteArrayList lines;
+    uint delayed_ms = 0;
+    uint elapsed_ms = 0;
+};
+
+class Delegator : public VexoFeedbackDelegator
+{
+public:
+    void tone() override { ++tones; }
+    void down() override { }
+    void up() override { }
+    int tones = 0;
+};
+
+/// Counts what the hook for subclasses is told.
+class Hooked : public MeasuredPushButton
+{
+public:
+    QVector<uint> told_ms;
+
+protected:
+    using MeasuredPushButton::mouseReleaseEvent;
+    void mouseReleaseEvent(unsigned int elapsed_ms) override { told_ms += elapsed_ms; }
+};
+
+void press(QWidget *button)
+{
+    QTest::mousePress(button, Qt::LeftButton);
+}
+
+void release(QWidget *button)
+{
+    QTest::mouseRelease(button, Qt::LeftButton);
+}
+
+/// Lets the event loop run for \a count ticks of \a interval_ms.
+void runLoop(int count, int interval_ms)
+{
+    QTimer clock;
+    QSignalSpy ticks(&clock, &QTimer::timeout);
+    clock.start(interval_ms);
+    QTRY_VERIFY(ticks.count() >= count);
+}
+
+} // namespace
+
+class TestMeasuredPushButton : public TestCase
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    void countPulse() { ++m_pulses; }
+
+private Q_SLOTS:
+    void init();
+    void shortPressIsReportedAfterTheClick();
+    void longPressIsReportedWhileHeldAndAtTheRelease();
+    void releaseOffTheButtonIsMeasuredToo();
+    void otherMouseButtonsAreNotMeasured();
+    void hookReceivesTheDurationInsteadOfTheSignal();
+    void pulsesWhileHeld();
+    void pulseConnectionsAddUp();
+    void pulseNeedsIntervalAndPermission_data();
+    void pulseNeedsIntervalAndPermission();
+    void endedPressIsSilent_data();
+    void endedPressIsSilent();
+    void dialogInASlotReportsNoLongPress();
+    void mayBeDeletedInItsSignals_data();
+    void mayBeDeletedInItsSignals();
+    void ringsTheDelegatorOfItsConstruction();
+    void buddiesFollowTheButton();
+
+private:
+    int m_pulses = 0;
+};
+
+void TestMeasuredPushButton::init()
+{
+    TestCase::init();
+    m_pulses = 0;
+}
+
+void TestMeasuredPushButton::shortPressIsReportedAfterTheClick()
+{
+    MeasuredPushButton button;
+    const Log log(&button);
+    press(&button);
+    release(&button);
+    QCOMPARE(log.text(), QByteArray("pressed; released; clicked; delayed; short"));
+    QCOMPARE(log.delayed_ms, log.elapsed_ms);
+    QVERIFY(log.elapsed_ms < 300);
+}
+
+void TestMeasuredPushButton::longPressIsReportedWhileHeldAndAtTheRelease()
+{
+    MeasuredPushButton button;
+    const Log log(&button);
+    press(&button);
+    QTRY_COMPARE(log.text(), QByteArray("pressed; long, held"));
+    QVERIFY2(log.elapsed_ms >= 300, qPrintable(QString::number(log.elapsed_ms)));
+    release(&button);
+    QCOMPARE(log.text(), QByteArray("pressed; long, held; released; clicked; delayed; long"));
+    QCOMPARE(log.delayed_ms, log.elapsed_ms);
+    runLoop(4, 100);
+    QCOMPARE(log.lines.size(), 6);
+}
+
+void TestMeasuredPushButton::releaseOffTheButtonIsMeasuredToo()
+{
+    MeasuredPushButton button;
+    button.resize(100, 50);
+    const Log log(&button);
+    press(&button);
+    QTest::mouseMove(&button, QPoint(150, 25));
+    QMouseEvent away(QEvent::MouseMove, QPointF(150, 25), Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(&button, &away);
+    QTest::mouseRelease(&button, Qt::LeftButton, {}, QPoint(150, 25));
+    QCOMPARE(log.text(), QByteArray("pressed; released; delayed; short"));
+}
+
+void TestMeasuredPushButton::otherMouseButtonsAreNotMeasured()
+{
+    MeasuredPushButton button;
+    const Log log(&button);
+    QTest::mouseClick(&button, Qt::RightButton);
+    QCOMPARE(log.text(), QByteArray());
+    press(&button);
+    QTest::mouseClick(&button, Qt::RightButton);
+    QCOMPARE(log.text(), QByteArray("pressed"));
+    release(&button);
+    QCOMPARE(log.text(), QByteArray("pressed; released; clicked; delayed; short"));
+}
+
+void TestMeasuredPushButton::hookReceivesTheDurationInsteadOfTheSignal()
+{
+    Hooked button;
+    const Log log(&button);
+    press(&button);
+    release(&button);
+    QCOMPARE(button.told_ms, QVector<uint>{ log.elapsed_ms });
+    QCOMPARE(log.text(), QByteArray("pressed; released; clicked; short"));
+}
+
+void TestMeasuredPushButton::pulsesWhileHeld()
+{
+    MeasuredPushButton button;
+    button.pulse(20, this, SLOT(countPulse()));
+    button.enablePulse(true);
+    press(&button);
+    QCOMPARE(m_pulses, 0);
+    QTRY_VERIFY(m_pulses >= 3);
+    release(&button);
+    const int pulses = m_pulses;
+    runLoop(3, 20);
+    QCOMPARE(m_pulses, pulses);
+
+    press(&button);
+    QTRY_VERIFY(m_pulses > pulses);
+    button.enablePulse(false);
+    const int until_switched_off = m_pulses;
+    button.enablePulse(true); // acts at the next press
+    runLoop(3, 20);
+    QCOMPARE(m_pulses, until_switched_off);
+}
+
+void TestMeasuredPushButton::pulseConnectionsAddUp()
+{
+    MeasuredPushButton button;
+    auto receiver = std::make_unique<QObject>();
+    button.pulse(20, receiver.get(), SLOT(deleteLater()));
+    button.pulse(1000000, this, SLOT(countPulse()));
+    button.pulse(20, this, SLOT(countPulse()));
+    receiver.reset();
+    button.enablePulse(true);
+    press(&button);
+    QTRY_VERIFY(m_pulses > 0);
+    QCOMPARE(m_pulses % 2, 0);
+}
+
+void TestMeasuredPushButton::pulseNeedsIntervalAndPermission_data()
+{
+    QTest::addColumn<bool>("set");
+    QTest::addColumn<uint>("interval");
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("not enabled") << true << 1u << false;
+    QTest::newRow("interval of 0 ms") << true << 0u << true;
+    QTest::newRow("interval beyond int") << true << 4000000000u << true;
+    QTest::newRow("pulse() never called") << false << 0u << true;
+}
+
+void TestMeasuredPushButton::pulseNeedsIntervalAndPermission()
+{
+    QFETCH(bool, set);
+    QFETCH(uint, interval);
+    QFETCH(bool, enabled);
+    MeasuredPushButton button;
+    if (set) {
+        button.pulse(interval, this, SLOT(countPulse()));
+        button.pulse(interval, nullptr, SLOT(countPulse()));
+        button.pulse(interval, this, nullptr);
+    }
+    button.enablePulse(enabled);
+    press(&button);
+    runLoop(3, 10);
+    QCOMPARE(m_pulses, 0);
+}
+
+void TestMeasuredPushButton::endedPressIsSilent_data()
+{
+    QTest::addColumn<QByteArray>("by");
+    QTest::addColumn<bool>("in_slot"); // of pressed()
+    QTest::newRow("hidden") << QByteArray("hide") << false;
+    QTest::newRow("disabled") << QByteArray("disable") << false;
+    QTest::newRow("parent hidden") << QByteArray("hide parent") << false;
+    QTest::newRow("hidden by pressed()") << QByteArray("hide") << true;
+    QTest::newRow("disabled by pressed()") << QByteArray("disable") << true;
+}
+
+void TestMeasuredPushButton::endedPressIsSilent()
+{
+    QFETCH(QByteArray, by);
+    QFETCH(bool, in_slot);
+    QWidget parent;
+    MeasuredPushButton button(&parent);
+    parent.show();
+    button.pulse(20, this, SLOT(countPulse()));
+    button.enablePulse(true);
+    const Log log(&button);
+    const auto end = [&] {
+        if (by == "disable")
+            button.setEnabled(false);
+        else if (by == "hide")
+            button.hide();
+        else
+            parent.hide();
+    };
+    if (in_slot)
+        connect(&button, &QAbstractButton::pressed, &parent, end);
+    press(&button);
+    if (!in_slot)
+        end();
+    QVERIFY(!button.isDown());
+    button.setEnabled(true);
+    parent.show();
+    button.show();
+    runLoop(4, 100); // longer than a long press
+    release(&button);
+    // The toolkit itself tells released() when it disables a button that is down.
+    QCOMPARE(log.text(), QByteArray(by == "disable" ? "pressed; released" : "pressed"));
+    QCOMPARE(m_pulses, 0);
+}
+
+void TestMeasuredPushButton::dialogInASlotReportsNoLongPress()
+{
+    MeasuredPushButton button;
+    const Log log(&button);
+    connect(&button, &QAbstractButton::clicked, this, [] { runLoop(4, 100); });
+    press(&button);
+    release(&button);
+    QCOMPARE(log.text(), QByteArray("pressed; released; clicked; delayed; short"));
+}
+
+void TestMeasuredPushButton::mayBeDeletedInItsSignals_data()
+{
+    QTest::addColumn<QByteArray>("signal");
+    QTest::addColumn<bool>("held");
+    QTest::newRow("pressed") << QByteArray(SIGNAL(pressed())) << false;
+    QTest::newRow("released") << QByteArray(SIGNAL(released())) << false;
+    QTest::newRow("clicked") << QByteArray(SIGNAL(clicked())) << false;
+    QTest::newRow("pressedDelayed") << QByteArray(SIGNAL(pressedDelayed(uint))) << false;
+    QTest::newRow("short") << QByteArray(SIGNAL(keyPressHandling(uint, bool, bool))) << false;
+    QTest::newRow("long") << QByteArray(SIGNAL(keyPressHandling(uint, bool, bool))) << true;
+}
+
+/// Deletes its button at once.
+class Killer : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Killer(QWidget *victim)
+        : m_victim(victim)
+    {
+    }
+    bool isDone() const { return !m_victim; }
+
+public Q_SLOTS:
+    void kill() { delete m_victim; }
+
+private:
+    QPointer<QWidget> m_victim;
+};
+
+void TestMeasuredPushButton::mayBeDeletedInItsSignals()
+{
+    QFETCH(QByteArray, signal);
+    QFETCH(bool, held);
+    const QPointer<MeasuredPushButton> button = new MeasuredPushButton;
+    Killer killer(button);
+    connect(button, signal, &killer, SLOT(kill()));
+    press(button);
+    if (held)
+        QTRY_VERIFY(killer.isDone());
+    if (button)
+        release(button);
+    QVERIFY(killer.isDone());
+}
+
+void TestMeasuredPushButton::ringsTheDelegatorOfItsConstruction()
+{
+    MeasuredPushButton silent;
+    auto delegator = std::make_unique<Delegator>();
+    VexoFeedbackDelegator::tone_delegator = delegator.get();
+    MeasuredPushButton button;
+    Delegator later;
+    VexoFeedbackDelegator::tone_delegator = &later;
+    QTest::mouseClick(&silent, Qt::LeftButton);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QCOMPARE(delegator->tones, 1);
+    QCOMPARE(later.tones, 0);
+
+    delegator.reset(); // was not the one installed
+    QCOMPARE(VexoFeedbackDelegator::tone_delegator, &later);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    auto installed = std::make_unique<Delegator>();
+    VexoFeedbackDelegator::tone_delegator = installed.get();
+    installed.reset();
+    QVERIFY(!VexoFeedbackDelegator::tone_delegator);
+}
+
+void TestMeasuredPushButton::buddiesFollowTheButton()
+{
+    QWidget window;
+    MeasuredPushButton button(&window);
+    auto *label = new QWidget(&window);
+    button.addVisibleBuddy(label);
+    QVERIFY(label->testAttribute(Qt::WA_WState_ExplicitShowHide) == false);
+    button.hide();
+    QVERIFY(label->isHidden());
+    button.show();
+    QVERIFY(!label->isHidden());
+    delete label;
+    button.hide();
+    QWidget other(&window);
+    button.addVisibleBuddy(&other);
+    button.clearVisibleBuddies();
+    button.show();
+    QVERIFY(!other.testAttribute(Qt::WA_WState_ExplicitShowHide));
+}
+
+QTEST_MAIN(TestMeasuredPushButton)
+#include "tst_measuredpushbutton.moc"

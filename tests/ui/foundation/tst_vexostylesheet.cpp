@@ -1,0 +1,97 @@
+#include "support/testcase.h"
+
+#include <VexoStylesheet>
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QTest>
+
+using vexo::hox::qt::ui::VexoStylesheet;
+
+namespace {
+
+const QString PRODUCT_SHEET = QStringLiteral(":/css/vexo-AAL.qs");
+const QString WIDGET_SHEET = QStringLiteral(":/css/hoxq.qs");
+
+QString written(const QTemporaryDir &dir, const char *name, const QByteArray &text)
+{
+    QFile file(dir.filePath(QLatin1String(name)));
+    file.open(QIODevice::WriteOnly);
+    file.write(text);
+    return file.fileName();
+}
+
+} // namespace
+
+class TestVexoStylesheet : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void withoutApplyNothingIsShown();
+    void filesAreJoinedInListOrder();
+    void missingFileIsNamedAndTheOthersApply();
+    void unopenableFileAddsNothing();
+    void bundledSheetsParse();
+};
+
+void TestVexoStylesheet::init()
+{
+    TestCase::init();
+    qApp->setStyleSheet(QString());
+    QCoreApplication::setAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles, false);
+}
+
+void TestVexoStylesheet::withoutApplyNothingIsShown()
+{
+    VexoStylesheet sheet(WIDGET_SHEET, false);
+    QCOMPARE(qApp->styleSheet(), QString());
+    QVERIFY(!QCoreApplication::testAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles));
+    sheet.set();
+    QVERIFY(qApp->styleSheet().contains(QStringLiteral("VexoLineEdit")));
+    QVERIFY(QCoreApplication::testAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles));
+}
+
+void TestVexoStylesheet::filesAreJoinedInListOrder()
+{
+    const QTemporaryDir dir;
+    const QString first = written(dir, "1.qs", "QLabel { color: red }");
+    const QString second = written(dir, "2.qs", "QLabel { color: blue }");
+    VexoStylesheet sheet(QStringList{ first, second });
+    QCOMPARE(qApp->styleSheet(), QStringLiteral("QLabel { color: red }QLabel { color: blue }"));
+    sheet.setStylesheet(first);
+    QCOMPARE(qApp->styleSheet().size(), 43); // nothing is shown before set()
+    sheet.set();
+    QVERIFY(qApp->styleSheet().endsWith(QStringLiteral("blue }QLabel { color: red }")));
+}
+
+void TestVexoStylesheet::missingFileIsNamedAndTheOthersApply()
+{
+    Messages messages;
+    const VexoStylesheet sheet(QStringList{ QStringLiteral(":/css/none.qs"), WIDGET_SHEET });
+    QCOMPARE(messages.lines(),
+        QStringList(
+            QStringLiteral("warning default: Stylesheet  \":/css/none.qs\"  does not exist!")));
+    QCOMPARE(qApp->styleSheet().count(QStringLiteral("VexoLineEdit")), 1);
+}
+
+void TestVexoStylesheet::unopenableFileAddsNothing()
+{
+    const QTemporaryDir dir;
+    const VexoStylesheet sheet(dir.path());
+    QCOMPARE(qApp->styleSheet(), QString());
+}
+
+void TestVexoStylesheet::bundledSheetsParse()
+{
+    // The toolkit prints a warning about a sheet that it cannot parse, which fails the test.
+    const VexoStylesheet sheet(QStringList{ PRODUCT_SHEET, WIDGET_SHEET });
+    QWidget widget;
+    widget.ensurePolished();
+    QVERIFY(qApp->styleSheet().indexOf(QStringLiteral("QSlider::groove:horizontal"))
+        < qApp->styleSheet().indexOf(QStringLiteral("VexoPushButton")));
+}
+
+QTEST_MAIN(TestVexoStylesheet)
+#include "tst_vexostylesheet.moc"

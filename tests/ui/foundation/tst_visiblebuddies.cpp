@@ -1,0 +1,121 @@
+#include "support/testcase.h"
+#include "ui/foundation/visiblebuddies_p.h"
+
+#include <QTest>
+
+#include <functional>
+#include <memory>
+
+using vexo::hox::qt::ui::VisibleBuddies;
+
+/// Calls back on each setVisible() and keeps the order of the calls.
+class Buddy : public QWidget
+{
+public:
+    explicit Buddy(QStringList *calls, const char *name = "")
+        : m_calls(calls)
+        , m_name(QLatin1String(name))
+    {
+    }
+
+    void setVisible(bool visible) override
+    {
+        m_calls->append(m_name + (visible ? QLatin1Char('+') : QLatin1Char('-')));
+        QWidget::setVisible(visible);
+        if (then)
+            then(visible);
+    }
+
+    std::function<void(bool)> then;
+
+private:
+    QStringList *const m_calls;
+    const QString m_name;
+};
+
+class TestVisibleBuddies : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void followsInTheOrderOfAdding();
+    void listMayChangeDuringARound();
+    void ownerMayGoDuringARound();
+    void mutualBuddiesMakeOneRound();
+};
+
+void TestVisibleBuddies::followsInTheOrderOfAdding()
+{
+    QStringList calls;
+    Buddy first(&calls, "a");
+    Buddy last(&calls, "c");
+    VisibleBuddies buddies;
+    buddies.add(&first);
+    buddies.add(nullptr);
+    {
+        Buddy gone(&calls, "b");
+        buddies.add(&gone);
+    }
+    buddies.add(&last);
+    buddies.add(&first);
+    buddies.setVisible(true);
+    QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+ c+ a+"));
+    buddies.setVisible(false);
+    QVERIFY(first.isHidden() && last.isHidden());
+    calls.clear();
+    buddies.clear();
+    buddies.setVisible(true);
+    QCOMPARE(calls, QStringList());
+}
+
+void TestVisibleBuddies::listMayChangeDuringARound()
+{
+    QStringList calls;
+    Buddy first(&calls, "a");
+    Buddy added(&calls, "x");
+    auto second = std::make_unique<Buddy>(&calls, "b");
+    VisibleBuddies buddies;
+    buddies.add(&first);
+    buddies.add(second.get());
+    first.then = [&](bool) {
+        second.reset();
+        buddies.clear();
+        buddies.add(&added);
+    };
+    buddies.setVisible(true);
+    QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+"));
+    buddies.setVisible(true);
+    QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+ x+"));
+}
+
+void TestVisibleBuddies::ownerMayGoDuringARound()
+{
+    QStringList calls;
+    Buddy buddy(&calls, "a");
+    auto buddies = std::make_unique<VisibleBuddies>();
+    buddies->add(&buddy);
+    buddy.then = [&](bool) { buddies.reset(); };
+    buddies->setVisible(true);
+    QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+"));
+}
+
+void TestVisibleBuddies::mutualBuddiesMakeOneRound()
+{
+    QStringList calls;
+    Buddy left(&calls, "l");
+    Buddy right(&calls, "r");
+    VisibleBuddies of_left;
+    VisibleBuddies of_right;
+    of_left.add(&right);
+    of_right.add(&left);
+    left.then = [&](bool visible) { of_left.setVisible(visible); };
+    right.then = [&](bool visible) { of_right.setVisible(visible); };
+    left.setVisible(true);
+    QVERIFY(!left.isHidden() && !right.isHidden());
+    QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("l+ r+ l+"));
+    left.setVisible(false);
+    QVERIFY(left.isHidden() && right.isHidden());
+}
+
+QTEST_MAIN(TestVisibleBuddies)
+#include "tst_visiblebuddies.moc"
