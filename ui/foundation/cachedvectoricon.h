@@ -18,7 +18,9 @@ namespace vexo::hox::qt::ui {
 /// rendering. An image beyond 32767 px on a side or 64 Mpx in all is not rendered.
 ///
 /// A file that cannot be read is no error: the icon keeps what it had and writes a Debug line on
-/// the channel "CVI". GUI thread only.
+/// the channel "CVI". Hostile files (no regular file, promising more than 64 Mpx, exploding shapes,
+/// an SVG that refers to other files) count as unreadable; resources are not examined. The toolkit
+/// may warn about flaws in an SVG that is readable. GUI thread only.
 class HOXQUI_EXPORT CachedVectorIcon : public QIcon, private vexo::hox::qt::system::VexoLogging
 {
 public:

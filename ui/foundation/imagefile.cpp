@@ -1,5 +1,7 @@
 #include "ui/foundation/imagefile_p.h"
 
+#include "ui/foundation/svgguard_p.h"
+
 #include <QCache>
 #include <QDateTime>
 #include <QFile>
@@ -43,28 +45,39 @@ QString cacheKey(const QFileInfo &info, QLatin1Char kind)
         .arg(info.absoluteFilePath());
 }
 
-// gzip packs up to 1032 : 1, and neither renderer nor reader stops unpacking.
-bool isCompressed(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.read(2) == QByteArray("\x1f\x8b");
-}
-
 // A pipe would block and a device never end, so only regular files are opened.
 bool isSafe(const QFileInfo &info)
 {
     const qint64 max_bytes = qint64(64) << 20;
-    const qint64 max_compressed_bytes = qint64(64) << 10;
-    if (isResource(info.filePath()))
-        return info.isFile();
-    return info.isFile() && info.size() <= max_bytes
-        && (info.size() <= max_compressed_bytes || !isCompressed(info.filePath()));
+    return info.isFile() && (isResource(info.filePath()) || info.size() <= max_bytes);
 }
 
 bool isHoldable(const QSize &px)
 {
     return !px.isEmpty() && px.width() <= ImageFile::MAX_SIDE && px.height() <= ImageFile::MAX_SIDE
         && qint64(px.width()) * px.height() <= ImageFile::MAX_PIXELS;
+}
+
+// Handed over as bytes: with a path the renderer prints its own warning about a broken file.
+std::unique_ptr<QSvgRenderer> loadSvg(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return nullptr;
+    const QByteArray text = svgText(file.readAll());
+    if (!isResource(path) && !isHarmlessSvg(text))
+        return nullptr;
+    auto renderer = std::make_unique<QSvgRenderer>();
+    return renderer->load(text) ? std::move(renderer) : nullptr;
+}
+
+QPixmap renderSvg(QSvgRenderer *renderer, const QSize &px)
+{
+    QPixmap pixmap(px);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    renderer->render(&painter);
+    return pixmap;
 }
 
 } // namespace
@@ -115,21 +128,13 @@ VectorFile::~VectorFile() = default;
 
 QSize VectorFile::read()
 {
-    // Handed over as bytes: with a path the renderer prints its own warning about a broken file.
-    QFile file(m_path);
-    m_renderer = std::make_unique<QSvgRenderer>();
-    if (!file.open(QIODevice::ReadOnly) || !m_renderer->load(file.readAll()))
-        return QSize();
-    return m_renderer->defaultSize();
+    m_renderer = loadSvg(m_path);
+    return m_renderer ? m_renderer->defaultSize() : QSize();
 }
 
 QPixmap VectorFile::render(const QSize &px)
 {
-    QPixmap pixmap(px);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    m_renderer->render(&painter);
-    return pixmap;
+    return renderSvg(m_renderer.get(), px);
 }
 
 BitmapFile::BitmapFile(const QString &path)
@@ -141,24 +146,22 @@ BitmapFile::~BitmapFile() = default;
 
 QSize BitmapFile::read()
 {
-    auto reader = std::make_unique<QImageReader>(m_path);
-    const QSize size = reader->size();
-    if (reader->format().startsWith("svg")) {
-        m_vector_reader = std::move(reader);
-        return size;
+    QImageReader reader(m_path);
+    if (reader.format().startsWith("svg")) {
+        m_renderer = loadSvg(m_path);
+        return m_renderer ? m_renderer->defaultSize() : QSize();
     }
-    if (!isHoldable(size))
+    if (!isHoldable(reader.size()))
         return QSize();
-    m_pixmap = QPixmap::fromImageReader(reader.get());
+    m_pixmap = QPixmap::fromImageReader(&reader);
     return m_pixmap.isNull() ? QSize() : m_pixmap.size();
 }
 
 QPixmap BitmapFile::render(const QSize &px)
 {
-    if (!m_vector_reader)
-        return m_pixmap.scaled(px, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    m_vector_reader->setScaledSize(px);
-    return QPixmap::fromImageReader(m_vector_reader.get());
+    if (m_renderer)
+        return renderSvg(m_renderer.get(), px);
+    return m_pixmap.scaled(px, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 } // namespace vexo::hox::qt::ui

@@ -6,16 +6,15 @@
 
 #include <memory>
 
-class QImageReader;
 class QSvgRenderer;
 
 namespace vexo::hox::qt::ui {
 
 /// An image file on its way to icons: its natural size, and renderings of it at whole pixel sizes.
 /// Both are kept for all icons of the process under path, size and time of the file, so a file is
-/// read again only after it has changed. Whatever cannot be read safely (no regular file, a header
-/// that promises more than MAX_PIXELS, a compressed file that may unpack to hundreds of megabytes)
-/// counts as unreadable; nothing is printed.
+/// read again only after it has changed. Whatever cannot be read safely (no regular file, more than
+/// 64 MB, a header that promises more than MAX_PIXELS, a hostile SVG) counts as unreadable, without
+/// a message. A resource is the application's own and is not examined.
 class ImageFile
 {
 public:
@@ -75,7 +74,7 @@ protected:
     QPixmap render(const QSize &px) override;
 
 private:
-    std::unique_ptr<QImageReader> m_vector_reader;
+    std::unique_ptr<QSvgRenderer> m_renderer; // of a vector format
     QPixmap m_pixmap;
 };
 
