@@ -2,6 +2,8 @@
 
 #include "ui/foundation/scalinginfo.h"
 
+#include <QWidget>
+
 #include <cmath>
 #include <limits>
 
@@ -40,6 +42,12 @@ inline int pxPt(const ScalingInfo &scaling, double pt)
 inline QSize pxSize(const ScalingInfo &scaling, const QSizeF &mm)
 {
     return QSize(pxX(scaling, mm.width()), pxY(scaling, mm.height()));
+}
+
+/// \a px as a widget's fixed size takes it; beyond these limits the toolkit prints a warning.
+inline int widgetPx(int px)
+{
+    return qBound(0, px, QWIDGETSIZE_MAX);
 }
 
 } // namespace vexo::hox::qt::ui

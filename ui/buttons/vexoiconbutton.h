@@ -1,0 +1,45 @@
+#pragma once
+
+#include "ui/buttons/activevectorbutton.h"
+#include "ui/buttons/easyaccessbutton.h"
+
+namespace vexo::hox::qt::ui {
+
+/// The panel's plain icon button: draws nothing but the icon of its state, centred. While pressed
+/// or checked it shows the icon of "CLICKED", or without one the inverse icon in a one-pixel
+/// outline; while disabled the icon of "INACTIVE" if there is one; otherwise "DEFAULT". A finger
+/// that slides up to 20 px off the button still clicks.
+///
+/// The paint itself sets the state that goes with the look. So another state that an application
+/// sets, and a blink started before the first paint, give way to "DEFAULT" at the next paint of a
+/// button that is enabled and up.
+class HOXQUI_EXPORT VexoIconButton : public ActiveVectorButton, public EasyAccessButton
+{
+    Q_OBJECT
+
+    /// Whether a pressed or checked button looks different. Default true. A change shows with the
+    /// next paint.
+    Q_PROPERTY(bool m_can_background_color_change MEMBER m_can_background_color_change WRITE
+            setCanChangeBackgroundColor)
+
+public:
+    explicit VexoIconButton(QWidget *parent = nullptr);
+
+    void setCanChangeBackgroundColor(bool can_change);
+    /// Sets \a state unless it is current; the first call sets it in any case.
+    void initialize(const QString &state);
+
+protected:
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    using ActiveVectorButton::mouseReleaseEvent;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QIcon takePressedLook(QPainter *painter);
+
+    bool m_is_initialized = false;
+    bool m_can_background_color_change = true;
+};
+
+} // namespace vexo::hox::qt::ui

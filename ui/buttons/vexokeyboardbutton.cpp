@@ -1,0 +1,198 @@
+#include "ui/buttons/vexokeyboardbutton.h"
+
+#include "ui/foundation/cachedvectoricon.h"
+#include "ui/foundation/panelfont_p.h"
+
+#include <QPainterPath>
+#include <QStylePainter>
+#include <QTextOption>
+
+namespace vexo::hox::qt::ui {
+
+const QString VexoKeyboardButton::SHIFT_LEFT_BUTTON_OBJECT_NAME = QStringLiteral("shiftLeftButton");
+const QString VexoKeyboardButton::SHIFT_RIGHT_BUTTON_OBJECT_NAME
+    = QStringLiteral("shiftRightButton");
+const QString VexoKeyboardButton::STANDARD_KEY_OBJECT_NAME = QStringLiteral("key");
+const QString VexoKeyboardButton::SPACE_BUTTON_OBJECT_NAME = QStringLiteral("spaceButton");
+
+VexoKeyboardButton::VexoKeyboardButton(QWidget *parent)
+    : ActiveButton(parent)
+    , m_scaling(ScalingInfo::inst())
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::MinimumExpanding);
+    m_button_font.setWeight(QFont::Light);
+    setCornerRadius(m_corner_radius_mm);
+    setButtonTextFontSizeInPt(m_button_text_font_size_pt);
+    setHeightInMm(m_height_mm);
+}
+
+void VexoKeyboardButton::setBackgroundColor(const QColor &color)
+{
+    m_background_color = color;
+    update();
+}
+
+void VexoKeyboardButton::setBackgroundSpecialKeyColor(const QColor &color)
+{
+    m_background_special_key_color = color;
+    update();
+}
+
+void VexoKeyboardButton::setBackgroundClickedColor(const QColor &color)
+{
+    m_background_clicked_color = color;
+    update();
+}
+
+void VexoKeyboardButton::setBackgroundInactiveColor(const QColor &color)
+{
+    m_background_inactive_color = color;
+    update();
+}
+
+void VexoKeyboardButton::setBorderColor(const QColor &color)
+{
+    m_border_color = color;
+    update();
+}
+
+void VexoKeyboardButton::setTextColor(const QColor &color)
+{
+    m_text_color = color;
+    update();
+}
+
+void VexoKeyboardButton::setTextClickedColor(const QColor &color)
+{
+    m_text_clicked_color = color;
+    update();
+}
+
+void VexoKeyboardButton::setBorderTopColor(const QColor &color)
+{
+    m_border_top_color = color;
+    update();
+}
+
+void VexoKeyboardButton::setBorderBottomExtraColor(const QColor &color)
+{
+    m_border_bottom_extra_color = color;
+    update();
+}
+
+void VexoKeyboardButton::setStandardBorderDrawingDisabled(bool disabled)
+{
+    m_standard_border_drawing_disabled = disabled;
+    update();
+}
+
+void VexoKeyboardButton::setCornerRadius(double mm)
+{
+    m_corner_radius_mm = mm;
+    m_corner_radius_x = m_scaling->mm2px_X(float(mm));
+    m_corner_radius_y = m_scaling->mm2px_Y(float(mm));
+    update();
+}
+
+void VexoKeyboardButton::setButtonTextFontSizeInPt(double pt)
+{
+    m_button_text_font_size_pt = pt;
+    setPtSize(m_button_font, pt);
+    update();
+}
+
+void VexoKeyboardButton::setHeightInMm(double mm)
+{
+    m_height_mm = mm;
+    setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+}
+
+void VexoKeyboardButton::setCommonIconSizeMM(const QSizeF &mm)
+{
+    if (mm.width() >= 0 && mm.height() >= 0)
+        m_common_icon_size_mm = mm;
+}
+
+void VexoKeyboardButton::resetButtonState()
+{
+    setChecked(false);
+}
+
+QBrush VexoKeyboardButton::getStandardBrush()
+{
+    const bool is_standard
+        = objectName() == STANDARD_KEY_OBJECT_NAME || objectName() == SPACE_BUTTON_OBJECT_NAME;
+    return is_standard ? m_background_color : m_background_special_key_color;
+}
+
+QIcon VexoKeyboardButton::compute(const QString &path)
+{
+    const CachedVectorIcon icon(path, m_common_icon_size_mm);
+    const QSize px(truncated(icon.pxWidth()), truncated(icon.pxHeight()));
+    if (!px.isEmpty())
+        setIconSize(px);
+    return icon;
+}
+
+void VexoKeyboardButton::onToggle(bool toggle_state)
+{
+    setChecked(toggle_state);
+}
+
+void VexoKeyboardButton::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRect cap = rect().adjusted(0, 0, 0, m_standard_border_drawing_disabled ? -1 : 0);
+    const bool is_dark = isChecked() || isDown();
+    drawCap(&painter, cap, capBrush(is_dark));
+    if (m_standard_border_drawing_disabled)
+        drawEdges(&painter, cap);
+    const QIcon shown = is_dark && isEnabled() ? inverseIcon() : icon();
+    painter.drawItemPixmap(
+        cap, Qt::AlignCenter, shown.pixmap(iconSize(), QIcon::Normal, QIcon::Off));
+    drawLabel(&painter, cap, is_dark);
+}
+
+QBrush VexoKeyboardButton::capBrush(bool is_dark)
+{
+    if (!isEnabled())
+        return m_background_inactive_color;
+    return is_dark ? QBrush(m_background_clicked_color) : getStandardBrush();
+}
+
+void VexoKeyboardButton::drawCap(QPainter *painter, const QRect &cap, const QBrush &brush) const
+{
+    QPainterPath path;
+    path.addRoundedRect(
+        QRectF(cap), double(m_corner_radius_x), double(m_corner_radius_y), Qt::AbsoluteSize);
+    painter->fillPath(path, brush);
+    painter->strokePath(path, QPen(m_border_color, 1));
+}
+
+void VexoKeyboardButton::drawEdges(QPainter *painter, const QRect &cap) const
+{
+    const float corner_overlap = 4; // px by which the right corner's stroke reaches into the edge
+    const float left = float(cap.left()) + m_corner_radius_x;
+    const float right = float(cap.right()) - m_corner_radius_x;
+    const int shoulder = truncated(double(float(cap.top()) + m_corner_radius_y));
+    const int below = cap.bottom() + 1;
+
+    painter->setPen(QPen(m_border_top_color, 2));
+    painter->drawLine(cap.left(), cap.top(), cap.right(), cap.top());
+    painter->drawLine(truncated(double(left)), cap.top(), cap.left(), shoulder);
+    painter->drawLine(truncated(double(right + corner_overlap)), cap.top(), cap.right(), shoulder);
+    painter->setPen(QPen(m_border_bottom_extra_color, 2));
+    painter->drawLine(truncated(double(left)), below, truncated(double(right)), below);
+}
+
+void VexoKeyboardButton::drawLabel(QPainter *painter, const QRect &cap, bool is_dark) const
+{
+    if (text().isEmpty())
+        return;
+    painter->setPen(is_dark ? m_text_clicked_color : m_text_color);
+    painter->setFont(m_button_font);
+    painter->drawText(QRectF(cap), text(), QTextOption(Qt::AlignCenter));
+}
+
+} // namespace vexo::hox::qt::ui
