@@ -1,18 +1,39 @@
 #include "support/propertywalk.h"
 
+#include <ActiveButton>
+#include <ActiveVectorButton>
 #include <MeasuredPushButton>
+#include <VexoDesignVectorButton>
+#include <VexoIconButton>
+#include <VexoKeyboardButton>
 
 #include <QColor>
 #include <QMetaProperty>
+#include <QPointF>
 #include <QSizeF>
 #include <QVariant>
 
 using namespace vexo::hox::qt::ui;
 
+namespace {
+
+template <typename Widget>
+QWidget *make(QWidget *parent)
+{
+    return new Widget(parent);
+}
+
+} // namespace
+
 const std::vector<WalkedClass> &walkedClasses()
 {
     static const std::vector<WalkedClass> classes = {
-        { "MeasuredPushButton", [](QWidget *parent) { return new MeasuredPushButton(parent); } },
+        { "ActiveButton", make<ActiveButton> },
+        { "ActiveVectorButton", make<ActiveVectorButton> },
+        { "MeasuredPushButton", make<MeasuredPushButton> },
+        { "VexoDesignVectorButton", make<VexoDesignVectorButton> },
+        { "VexoIconButton", make<VexoIconButton> },
+        { "VexoKeyboardButton", make<VexoKeyboardButton> },
     };
     return classes;
 }
@@ -47,6 +68,8 @@ QVariant otherValue(const QMetaProperty &property, const QVariant &value, int st
         return QColor(10 * step, 20, 30);
     case QMetaType::QSizeF:
         return value.toSizeF() + QSizeF(step, step);
+    case QMetaType::QPointF:
+        return value.toPointF() + QPointF(step, step);
     default:
         return QVariant();
     }
@@ -78,7 +101,7 @@ bool takesByStylesheet(const QMetaProperty &property, QWidget *widget)
 {
     const QVariant other = otherValue(property, property.read(widget), 5);
     // The toolkit's stylesheets know no pair of numbers.
-    if (other.userType() == QMetaType::QSizeF)
+    if (other.userType() == QMetaType::QSizeF || other.userType() == QMetaType::QPointF)
         return true;
     widget->setStyleSheet(QStringLiteral("* { qproperty-%1: %2; }")
                               .arg(QLatin1String(property.name()), cssText(property, other)));

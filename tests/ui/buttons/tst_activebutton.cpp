@@ -1,0 +1,467 @@
+#include "support/colorbutton.h"
+#include "support/testcase.h"
+
+#include <ActiveButton>
+
+#include <QAccessible>
+#include <QButtonGroup>
+#include <QElapsedTimer>
+#include <QLoggingCategory>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+using namespace vexo::hox::qt::ui;
+
+namespace {
+
+const QString DEFAULT = QLatin1String(ActiveButton::DEFAULT_STATE_NAME);
+const QString CLICKED = QLatin1String(ActiveButton::CLICKED_STATE_NAME);
+const QString A = QStringLiteral("A");
+const QString B = QStringLiteral("B");
+const QString C = QStringLiteral("C");
+const QString RED = QStringLiteral("#ff0000");
+const QString GREEN = QStringLiteral("#00ff00");
+const QString BLUE = QStringLiteral("#0000ff");
+const QString DARK = QStringLiteral("#102030");
+
+using Button = ColorButton<ActiveButton>;
+
+void addStates(ActiveButton *button)
+{
+    button->addIcon(A, RED);
+    button->addIcon(B, GREEN);
+    button->addIcon(C, BLUE);
+}
+
+/// One tick, without waiting for the clock.
+void tick(QTimer *timer)
+{
+    QVERIFY(QMetaObject::invokeMethod(timer, "timeout"));
+}
+
+/// Notes in which order the hooks are called.
+class Hooked : public Button
+{
+public:
+    QIcon compute(const QString &file) override
+    {
+        calls += QStringLiteral("compute ") + file;
+        return Button::compute(file);
+    }
+    QIcon generateInverseIcon(const QIcon &icon) override
+    {
+        calls += QStringLiteral("invert ") + colorOf(icon);
+        return Button::generateInverseIcon(icon);
+    }
+    void setState(const QString &state) override
+    {
+        calls += QStringLiteral("state ") + state;
+        Button::setState(state);
+    }
+    void createMissingInverseIcons() override
+    {
+        calls += QStringLiteral("missing");
+        Button::createMissingInverseIcons();
+    }
+    void updateStateVisualization(bool checked) override
+    {
+        calls += checked ? QStringLiteral("checked") : QStringLiteral("unchecked");
+        Button::updateStateVisualization(checked);
+    }
+    bool inverseState() const override { return is_inverse; }
+    void timerEvent() override
+    {
+        calls += QStringLiteral("tick");
+        Button::timerEvent();
+    }
+
+    QString takeCalls()
+    {
+        const QString text = calls.join(QStringLiteral(", "));
+        calls.clear();
+        return text;
+    }
+
+    QStringList calls;
+    bool is_inverse = false;
+};
+
+} // namespace
+
+class TestActiveButton : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void defaultIconIsShownWhenAdded();
+    void addedAgainIconWaitsForRerendering();
+    void unknownStateIsIgnored();
+    void inverseFlagPicksTheInverseIcon();
+    void stateWithOnlyAnInverseIconIsNotShown();
+    void removedIconsStayOnScreen();
+    void generatedIconInvertsColoursAndKeepsAlpha();
+    void missingInverseIconsAreGenerated();
+    void hooksAreCalledThroughTheVirtualTable();
+    void toggleIsReportedOnce_data();
+    void toggleIsReportedOnce();
+    void blinkAlternatesInStep();
+    void blinkFollowsTheInverseFlag();
+    void blinkNeedsBothIcons();
+    void tickWithoutIconLeavesThePhase();
+    void oneShotEndsOnTheSecondIcon();
+    void oneShotAgainRestartsTheSecond();
+    void oneShotEndIsCancelled_data();
+    void oneShotEndIsCancelled();
+    void nullTimerAndDeletedTimerAreHarmless();
+    void isNamedForAssistiveTechnology();
+};
+
+void TestActiveButton::defaultIconIsShownWhenAdded()
+{
+    Button button;
+    QCOMPARE(button.focusPolicy(), Qt::NoFocus);
+    button.addIcon(A, RED);
+    QVERIFY(button.icon().isNull());
+    QCOMPARE(button.currentState(), QString());
+    button.addIcon(DEFAULT, GREEN);
+    QCOMPARE(colorOf(button.icon()), GREEN);
+    QCOMPARE(button.currentState(), DEFAULT);
+    QVERIFY(!button.hasState(QStringLiteral("default")));
+}
+
+void TestActiveButton::addedAgainIconWaitsForRerendering()
+{
+    Button button;
+    button.addIcon(A, RED);
+    button.addIcon(A, BLUE);
+    QCOMPARE(colorOf(button.getStateIcon(A)), RED);
+    button.setState(A);
+    button.rerenderAll(false);
+    QCOMPARE(colorOf(button.getStateIcon(A)), BLUE);
+    QCOMPARE(colorOf(button.icon()), BLUE);
+    button.addInverseIcon(A, GREEN);
+    button.addInverseIcon(A, DARK); // an inverse icon is replaced at once
+    QCOMPARE(colorOf(*button.getInverseIconObject(A)), DARK);
+}
+
+void TestActiveButton::unknownStateIsIgnored()
+{
+    Button button;
+    addStates(&button);
+    button.setState(A);
+    button.setState(QStringLiteral("a"));
+    QCOMPARE(button.currentState(), A);
+    QCOMPARE(colorOf(button.icon()), RED);
+    QVERIFY(button.getStateIcon(QStringLiteral("a")).isNull());
+    QVERIFY(!button.getInverseIconObject(QStringLiteral("a")));
+}
+
+void TestActiveButton::inverseFlagPicksTheInverseIcon()
+{
+    Button button;
+    addStates(&button);
+    button.addInverseIcon(A, DARK);
+    button.setState(A);
+    button.setInverseState(true);
+    QCOMPARE(colorOf(button.icon()), RED); // nothing changes by itself
+    button.setState(A);
+    QCOMPARE(colorOf(button.icon()), DARK);
+    button.setState(B);
+    QCOMPARE(colorOf(button.icon()), GREEN);
+    QCOMPARE(colorOf(button.inverseIcon()), GREEN);
+}
+
+void TestActiveButton::stateWithOnlyAnInverseIconIsNotShown()
+{
+    Button button;
+    button.addIcon(B, GREEN);
+    button.addInverseIcon(A, DARK);
+    button.setState(B);
+    QVERIFY(!button.hasState(A));
+    button.setState(A);
+    QCOMPARE(button.currentState(), A);
+    QCOMPARE(colorOf(button.icon()), GREEN);
+    QCOMPARE(colorOf(button.inverseIcon()), DARK);
+}
+
+void TestActiveButton::removedIconsStayOnScreen()
+{
+    Button button;
+    addStates(&button);
+    button.addInverseIcon(A, DARK);
+    button.setState(A);
+    button.removeIcon(A);
+    QVERIFY(!button.hasState(A));
+    QVERIFY(button.hasState(B));
+    button.removeIcons();
+    QCOMPARE(button.currentState(), A);
+    QCOMPARE(colorOf(button.icon()), RED);
+    QVERIFY(button.inverseIcon().isNull());
+    button.rerenderAll(true); // only files of inverse icons are still known
+    QVERIFY(!button.hasState(A));
+    QCOMPARE(colorOf(button.inverseIcon()), DARK);
+}
+
+void TestActiveButton::generatedIconInvertsColoursAndKeepsAlpha()
+{
+    Button button;
+    QVERIFY(button.generateInverseIcon(QIcon()).isNull());
+    QImage image(40, 20, QImage::Format_ARGB32);
+    image.fill(QColor(60, 60, 60));
+    image.setPixelColor(1, 0, Qt::transparent);
+    image.setPixelColor(2, 0, QColor(255, 0, 0, 128));
+    const QIcon icon = button.generateInverseIcon(QIcon(QPixmap::fromImage(image)));
+    QCOMPARE(icon.availableSizes(), QList<QSize>{ QSize(40, 20) });
+    const QImage inverse = icon.pixmap(40, 20).toImage().convertToFormat(QImage::Format_ARGB32);
+    QCOMPARE(inverse.pixelColor(0, 0), QColor(195, 195, 195));
+    QCOMPARE(inverse.pixelColor(1, 0).alpha(), 0);
+    QCOMPARE(inverse.pixelColor(2, 0), QColor(0, 255, 255, 128));
+}
+
+void TestActiveButton::missingInverseIconsAreGenerated()
+{
+    Button button;
+    addStates(&button);
+    button.addInverseIcon(A, DARK);
+    button.addInverseIcon(B, DARK);
+    button.removeIcon(B); // the file of its inverse icon stays known
+    button.addIcon(B, GREEN);
+    button.createMissingInverseIcons();
+    QCOMPARE(colorOf(*button.getInverseIconObject(A)), DARK);
+    QCOMPARE(colorOf(*button.getInverseIconObject(B)), GREEN);
+    QCOMPARE(colorOf(*button.getInverseIconObject(C)), QStringLiteral("#ffff00"));
+}
+
+void TestActiveButton::hooksAreCalledThroughTheVirtualTable()
+{
+    Hooked button;
+    button.setCheckable(true);
+    button.addIcon(DEFAULT, RED);
+    button.addInverseIcon(DEFAULT, DARK);
+    QCOMPARE(button.takeCalls(), QStringLiteral("compute #ff0000, compute #102030"));
+    button.addIcon(CLICKED, GREEN);
+    button.createMissingInverseIcons();
+    QCOMPARE(button.takeCalls(), QStringLiteral("compute #00ff00, missing, invert #00ff00"));
+    button.setChecked(true);
+    QCOMPARE(button.takeCalls(), QStringLiteral("checked, state CLICKED"));
+    button.removeIcon(CLICKED);
+    button.rerenderAll(true);
+    QCOMPARE(button.takeCalls(),
+        QStringLiteral("compute #ff0000, compute #102030, missing, state CLICKED"));
+    button.addIcon(A, RED);
+    button.is_inverse = true; // asked through inverseState(), not through the flag
+    button.blink(DEFAULT, A);
+    QCOMPARE(button.takeCalls(), QStringLiteral("compute #ff0000, tick"));
+    QCOMPARE(colorOf(button.icon()), DARK);
+}
+
+void TestActiveButton::toggleIsReportedOnce_data()
+{
+    QTest::addColumn<QByteArray>("by");
+    QTest::newRow("touch") << QByteArray("touch");
+    QTest::newRow("call") << QByteArray("call");
+    QTest::newRow("group") << QByteArray("group");
+    QTest::newRow("keyboard") << QByteArray("keyboard");
+}
+
+void TestActiveButton::toggleIsReportedOnce()
+{
+    QFETCH(QByteArray, by);
+    Button button;
+    Button other;
+    QButtonGroup group;
+    for (Button *each : { &button, &other }) {
+        each->setCheckable(true);
+        each->addIcon(DEFAULT, RED);
+        each->addIcon(CLICKED, GREEN);
+        group.addButton(each);
+    }
+    QSignalSpy changes(&button, &ActiveButton::stateChanged);
+    if (by == "touch")
+        QTest::mouseClick(&button, Qt::LeftButton);
+    else if (by == "keyboard")
+        QTest::keyClick(&button, Qt::Key_Space);
+    else
+        button.setChecked(true);
+    if (by == "call")
+        button.setChecked(true);
+    QCOMPARE(changes, QList<QVariantList>{ { true } });
+    QCOMPARE(colorOf(button.icon()), GREEN);
+    if (by != "group")
+        return;
+    other.setChecked(true);
+    QCOMPARE(changes.count(), 2);
+    QCOMPARE(changes.last().first(), QVariant(false));
+    QCOMPARE(colorOf(button.icon()), RED);
+}
+
+void TestActiveButton::blinkAlternatesInStep()
+{
+    Button left;
+    Button right;
+    QTimer timer;
+    for (Button *button : { &left, &right }) {
+        addStates(button);
+        button->setState(C);
+        button->setTimer(&timer);
+    }
+    left.blink(A, B);
+    QCOMPARE(colorOf(left.icon()), RED);
+    QCOMPARE(left.currentState(), C);
+    right.blink(B, A);
+    tick(&timer);
+    QCOMPARE(colorOf(left.icon()), GREEN);
+    QCOMPARE(colorOf(right.icon()), RED);
+    tick(&timer);
+    QCOMPARE(colorOf(left.icon()), RED);
+    left.setState(C);
+    tick(&timer);
+    tick(&timer);
+    QCOMPARE(colorOf(left.icon()), BLUE);
+}
+
+void TestActiveButton::blinkFollowsTheInverseFlag()
+{
+    Button button;
+    addStates(&button);
+    button.addInverseIcon(A, DARK);
+    button.setState(C);
+    button.setInverseState(true);
+    button.blink(A, B); // B has no inverse icon
+    QCOMPARE(colorOf(button.icon()), DARK);
+    QCOMPARE(colorOf(button.inverseIcon()), DARK);
+    button.timerEvent();
+    QCOMPARE(colorOf(button.icon()), GREEN);
+    button.setInverseState(false);
+    button.timerEvent();
+    QCOMPARE(colorOf(button.icon()), RED);
+}
+
+void TestActiveButton::blinkNeedsBothIcons()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("hoxq.B.debug=true"));
+    Button button;
+    addStates(&button);
+    button.addInverseIcon(QStringLiteral("Ü"), DARK);
+    button.setState(A);
+    Messages messages;
+    button.blink(B, QStringLiteral("Ü"));
+    button.oneShot(QStringLiteral("Ü"), B);
+    button.timerEvent();
+    QLoggingCategory::setFilterRules(QString());
+    const QStringList expected = { QStringLiteral("debug hoxq.B: Blink B <-> Ü"),
+        QStringLiteral("debug hoxq.B: One shot Ü -> B") };
+    QCOMPARE(messages.lines(), expected);
+    QCOMPARE(colorOf(button.icon()), RED);
+    QCOMPARE(button.currentState(), A);
+}
+
+void TestActiveButton::tickWithoutIconLeavesThePhase()
+{
+    Button button;
+    addStates(&button);
+    button.blink(A, B);
+    button.removeIcon(B);
+    button.timerEvent();
+    button.timerEvent();
+    QCOMPARE(colorOf(button.icon()), RED);
+    button.addIcon(B, BLUE);
+    button.timerEvent();
+    QCOMPARE(colorOf(button.icon()), BLUE);
+}
+
+void TestActiveButton::oneShotEndsOnTheSecondIcon()
+{
+    Button button;
+    addStates(&button);
+    button.addInverseIcon(B, DARK);
+    QElapsedTimer clock;
+    clock.start();
+    button.oneShot(A, B);
+    QCOMPARE(colorOf(button.icon()), RED);
+    QCOMPARE(button.currentState(), A);
+    QCOMPARE(colorOf(button.inverseIcon()), RED);
+    QTRY_COMPARE(colorOf(button.icon()), GREEN);
+    QVERIFY2(clock.elapsed() >= 1000, qPrintable(QString::number(clock.elapsed())));
+    QCOMPARE(button.currentState(), A);
+    QCOMPARE(colorOf(button.inverseIcon()), DARK);
+}
+
+void TestActiveButton::oneShotAgainRestartsTheSecond()
+{
+    Button button;
+    addStates(&button);
+    QTimer again;
+    again.setSingleShot(true);
+    QElapsedTimer clock;
+    connect(&again, &QTimer::timeout, this, [&] {
+        clock.start();
+        button.oneShot(A, C);
+    });
+    button.oneShot(A, B);
+    again.start(500);
+    QTRY_COMPARE(colorOf(button.icon()), BLUE);
+    QVERIFY2(clock.elapsed() >= 1000, qPrintable(QString::number(clock.elapsed())));
+}
+
+void TestActiveButton::oneShotEndIsCancelled_data()
+{
+    QTest::addColumn<bool>("by_blink");
+    QTest::newRow("by a state") << false;
+    QTest::newRow("by a blink") << true;
+}
+
+void TestActiveButton::oneShotEndIsCancelled()
+{
+    QFETCH(bool, by_blink);
+    Button button;
+    Button clock; // its one-shot starts later and so ends later
+    addStates(&button);
+    addStates(&clock);
+    button.oneShot(A, B);
+    clock.oneShot(A, B);
+    if (by_blink)
+        button.blink(C, A);
+    else
+        button.setState(C);
+    QTRY_COMPARE(colorOf(clock.icon()), GREEN);
+    QCOMPARE(colorOf(button.icon()), BLUE);
+    button.timerEvent();
+    QCOMPARE(colorOf(button.icon()), by_blink ? RED : BLUE);
+}
+
+void TestActiveButton::nullTimerAndDeletedTimerAreHarmless()
+{
+    Button button;
+    addStates(&button);
+    auto timer = std::make_unique<QTimer>();
+    button.setTimer(nullptr);
+    button.setTimer(timer.get());
+    button.setTimer(timer.get()); // ticks twice
+    button.blink(A, B);
+    tick(timer.get());
+    timer.reset();
+    QCOMPARE(colorOf(button.icon()), RED);
+}
+
+void TestActiveButton::isNamedForAssistiveTechnology()
+{
+    Button button;
+    button.setCheckable(true);
+    button.setToolTip(QStringLiteral("Volume"));
+    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&button);
+    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Volume"));
+    QCOMPARE(interface->role(), QAccessible::CheckBox);
+    button.setChecked(true);
+    QVERIFY(interface->state().checked);
+    button.setToolTip(QStringLiteral("Mute"));
+    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Mute"));
+    button.setAccessibleName(QStringLiteral("Speaker"));
+    button.setToolTip(QStringLiteral("Other"));
+    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Speaker"));
+}
+
+QTEST_MAIN(TestActiveButton)
+#include "tst_activebutton.moc"
