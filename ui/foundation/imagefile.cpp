@@ -147,6 +147,7 @@ BitmapFile::~BitmapFile() = default;
 QSize BitmapFile::read()
 {
     QImageReader reader(m_path);
+    reader.setDecideFormatFromContent(true); // an SVG may bear any name
     if (reader.format().startsWith("svg")) {
         m_renderer = loadSvg(m_path);
         return m_renderer ? m_renderer->defaultSize() : QSize();
