@@ -3,7 +3,8 @@
 function(hoxq_font variable default package)
   set(${variable} ${default} CACHE FILEPATH "Font file compiled into the library")
   if(NOT EXISTS "${${variable}}")
-    message(FATAL_ERROR "font file ${${variable}} not found: install the package ${package}, or set ${variable}")
+    # The leading space keeps the message on one line.
+    message(FATAL_ERROR " font file ${${variable}} not found: install the package ${package}, or set ${variable}")
   endif()
 endfunction()
 

@@ -3,13 +3,17 @@
 #include "ui/foundation/svgguard_p.h"
 
 #include <QCache>
-#include <QDateTime>
 #include <QFile>
-#include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
 #include <QPixmapCache>
+#include <QResource>
 #include <QSvgRenderer>
+
+#include <ctime>
+#include <initializer_list>
+
+#include <sys/stat.h>
 
 namespace vexo::hox::qt::ui {
 
@@ -26,30 +30,12 @@ bool isResource(const QString &path)
     return path.startsWith(QLatin1Char(':'));
 }
 
-// A file written within the granularity of its time stamp could change once more unnoticed.
-bool isSettled(const QFileInfo &info)
+QString joined(char first, std::initializer_list<qint64> numbers)
 {
-    const qint64 settling_ms = 2000;
-    return isResource(info.filePath())
-        || info.lastModified().msecsTo(QDateTime::currentDateTimeUtc()) > settling_ms;
-}
-
-QString cacheKey(const QFileInfo &info, QLatin1Char kind)
-{
-    if (!isSettled(info))
-        return QString();
-    return QStringLiteral("hoxq %1 %2 %3 %4")
-        .arg(kind)
-        .arg(info.size())
-        .arg(info.lastModified().toMSecsSinceEpoch())
-        .arg(info.absoluteFilePath());
-}
-
-// A pipe would block and a device never end, so only regular files are opened.
-bool isSafe(const QFileInfo &info)
-{
-    const qint64 max_bytes = qint64(64) << 20;
-    return info.isFile() && (isResource(info.filePath()) || info.size() <= max_bytes);
+    QString text = QStringLiteral("hoxq") + QLatin1Char(first);
+    for (const qint64 number : numbers)
+        text += QString::number(number, 36) + QLatin1Char(' ');
+    return text;
 }
 
 bool isHoldable(const QSize &px)
@@ -82,14 +68,39 @@ QPixmap renderSvg(QSvgRenderer *renderer, const QSize &px)
 
 } // namespace
 
-ImageFile::ImageFile(const QString &path, QLatin1Char kind)
+ImageFile::ImageFile(const QString &path, char kind)
     : m_path(path)
-    , m_is_safe(isSafe(QFileInfo(path)))
-    , m_key(cacheKey(QFileInfo(path), kind))
 {
+    if (isResource(path))
+        identifyResource(kind);
+    else
+        identifyFile(kind);
 }
 
 ImageFile::~ImageFile() = default;
+
+void ImageFile::identifyResource(char kind)
+{
+    const QResource resource(m_path);
+    m_is_safe = resource.data() != nullptr; // a folder has none
+    m_key = joined(kind, { qint64(reinterpret_cast<quintptr>(resource.data())), resource.size() });
+}
+
+// A pipe would block and a device never end, so only regular files are opened. A file written
+// within the granularity of its time stamp could change once more unnoticed.
+void ImageFile::identifyFile(char kind)
+{
+    const qint64 max_bytes = qint64(64) << 20;
+    const qint64 settling_s = 2;
+    struct stat info = {};
+    if (stat(QFile::encodeName(m_path).constData(), &info) != 0)
+        return;
+    m_is_safe = S_ISREG(info.st_mode) && info.st_size <= max_bytes;
+    if (info.st_mtim.tv_sec + settling_s < time(nullptr))
+        m_key = joined(kind,
+            { qint64(info.st_dev), qint64(info.st_ino), info.st_size, info.st_mtim.tv_sec,
+                info.st_mtim.tv_nsec });
+}
 
 QSize ImageFile::naturalSize()
 {
@@ -109,7 +120,7 @@ QPixmap ImageFile::pixmap(const QSize &px)
     QPixmap pixmap;
     if (!m_is_safe || !isHoldable(px))
         return pixmap;
-    const QString key = QStringLiteral("%1 %2x%3").arg(m_key).arg(px.width()).arg(px.height());
+    const QString key = m_key + QLatin1Char('x') + joined(' ', { px.width(), px.height() });
     if (!m_key.isEmpty() && QPixmapCache::find(key, &pixmap))
         return pixmap;
     if (m_is_read || read().isValid())
@@ -120,7 +131,7 @@ QPixmap ImageFile::pixmap(const QSize &px)
 }
 
 VectorFile::VectorFile(const QString &path)
-    : ImageFile(path, QLatin1Char('v'))
+    : ImageFile(path, 'v')
 {
 }
 
@@ -138,7 +149,7 @@ QPixmap VectorFile::render(const QSize &px)
 }
 
 BitmapFile::BitmapFile(const QString &path)
-    : ImageFile(path, QLatin1Char('b'))
+    : ImageFile(path, 'b')
 {
 }
 

@@ -11,8 +11,8 @@ class QSvgRenderer;
 namespace vexo::hox::qt::ui {
 
 /// An image file on its way to icons: its natural size, and renderings of it at whole pixel sizes.
-/// Both are kept for all icons of the process under path, size and time of the file, so a file is
-/// read again only after it has changed. Whatever cannot be read safely (no regular file, more than
+/// Both are kept for all icons of the process as long as the file stays the same, so it is read
+/// again only after it has changed. Whatever cannot be read safely (no regular file, more than
 /// 64 MB, a header that promises more than MAX_PIXELS, a hostile SVG) counts as unreadable, without
 /// a message. A resource is the application's own and is not examined.
 class ImageFile
@@ -31,7 +31,8 @@ public:
     QPixmap pixmap(const QSize &px);
 
 protected:
-    ImageFile(const QString &path, QLatin1Char kind);
+    /// \a kind keeps the renderings of both kinds apart.
+    ImageFile(const QString &path, char kind);
 
     /// Reads the file and returns its natural size, invalid on failure.
     virtual QSize read() = 0;
@@ -39,10 +40,13 @@ protected:
     virtual QPixmap render(const QSize &px) = 0;
 
     const QString m_path;
-    const bool m_is_safe;
 
 private:
-    QString m_key; // empty when the file may still be changing
+    void identifyResource(char kind);
+    void identifyFile(char kind);
+
+    bool m_is_safe = false;
+    QString m_key; // stands for the content; empty when the file may still be changing
     bool m_is_read = false;
 };
 

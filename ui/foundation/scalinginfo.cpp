@@ -12,10 +12,9 @@ namespace vexo::hox::qt::ui {
 
 std::unique_ptr<ScalingInfo> ScalingInfo::instance;
 
-ScalingInfo *ScalingInfo::inst()
+ScalingInfo *ScalingInfo::create()
 {
-    if (!instance)
-        instance = std::make_unique<ScalingInfo>();
+    instance = std::make_unique<ScalingInfo>();
     return instance.get();
 }
 
@@ -26,11 +25,6 @@ ScalingInfo::ScalingInfo()
         m_size_mm = screen->physicalSize();
     }
     recalculate();
-}
-
-QSizeF ScalingInfo::mm2px(const QSizeF &mm) const
-{
-    return QSizeF(double(mm2px_X(float(mm.width()))), double(mm2px_Y(float(mm.height()))));
 }
 
 void ScalingInfo::setPixels(const QSize &px)

@@ -23,7 +23,7 @@ public:
     /// The process-wide object, made from the primary screen at the first call. Throws
     /// std::range_error "Display size not defined!" as long as there is no screen or the screen
     /// reports a size of 0 px or 0 mm; the next call tries again.
-    static ScalingInfo *inst();
+    static ScalingInfo *inst() { return instance ? instance.get() : create(); }
 
     /// Reads the primary screen. Throws as inst() does. Applications use inst().
     ScalingInfo();
@@ -33,7 +33,10 @@ public:
     /// Height of \a mm millimetres in px.
     float mm2px_Y(float mm) const { return mm * m_px_per_mm_y; }
     /// Width and height in px, each in float precision.
-    QSizeF mm2px(const QSizeF &mm) const;
+    QSizeF mm2px(const QSizeF &mm) const
+    {
+        return QSizeF(double(mm2px_X(float(mm.width()))), double(mm2px_Y(float(mm.height()))));
+    }
     /// Height of \a pt typographic points (1 pt = 25.4/72 mm) in px.
     float pt2px_Y(float pt) const { return pt * m_px_per_pt; }
     /// Width of \a px pixels in mm.
@@ -70,6 +73,9 @@ public:
 
     /// Holds what inst() returns; empty until its first success.
     static std::unique_ptr<ScalingInfo> instance;
+
+private:
+    static ScalingInfo *create();
 };
 
 } // namespace vexo::hox::qt::ui

@@ -4,10 +4,13 @@
 
 #include <QBuffer>
 #include <QImageReader>
+#include <QPair>
 #include <QSet>
-#include <QStringList>
 #include <QVector>
 #include <QXmlStreamReader>
+
+#include <algorithm>
+#include <cmath>
 
 #include <zlib.h>
 
@@ -15,26 +18,27 @@ namespace vexo::hox::qt::ui {
 
 namespace {
 
-QString linkOf(const QXmlStreamReader &xml)
+// The renderer looks attributes up by their written name, whatever the prefix is bound to.
+QString attribute(const QXmlStreamReader &xml, const char *name)
 {
-    const QString qualified
-        = xml.attributes()
-              .value(QLatin1String("http://www.w3.org/1999/xlink"), QLatin1String("href"))
-              .toString();
-    return qualified.isEmpty() ? xml.attributes().value(QLatin1String("href")).toString()
-                               : qualified;
+    return xml.attributes().value(QLatin1String(name)).toString();
 }
 
 // Only the header is read. Links to other files are refused: the renderer would open whatever they
-// name, be it a pipe.
+// name, be it a pipe. So are vectors, which could hold anything again.
 qint64 embeddedPixels(const QString &link)
 {
-    const int data = link.indexOf(QLatin1String("base64,"));
-    if (!link.startsWith(QLatin1String("data:")) || data < 0)
-        return ImageFile::MAX_PIXELS + 1;
-    QByteArray bytes = QByteArray::fromBase64(link.mid(data + 7).toLatin1());
+    const qint64 refused = ImageFile::MAX_PIXELS + 1;
+    const QLatin1String mark("base64,");
+    const int data = link.lastIndexOf(mark);
+    if (!link.startsWith(QLatin1String("data")) || data < 0)
+        return refused;
+    QByteArray bytes = QByteArray::fromBase64(link.mid(data + mark.size()).toLatin1());
     QBuffer buffer(&bytes);
-    const QSize size = QImageReader(&buffer).size();
+    QImageReader reader(&buffer);
+    if (reader.format().startsWith("svg"))
+        return refused;
+    const QSize size = reader.size();
     return size.isValid() ? qint64(size.width()) * size.height() : 0;
 }
 
@@ -44,12 +48,14 @@ class Census
 public:
     void enter(const QXmlStreamReader &xml)
     {
-        m_ids.append(xml.attributes().value(QLatin1String("id")).toString());
+        ++m_elements;
+        m_ids.append({ attribute(xml, "id"), attribute(xml, "xml:id") });
+        const QString link = attribute(xml, "xlink:href");
         if (xml.name() == QLatin1String("image"))
-            m_pixels = qMin(m_pixels + embeddedPixels(linkOf(xml)), ImageFile::MAX_PIXELS + 1);
+            m_pixels = qMin(m_pixels + embeddedPixels(link), ImageFile::MAX_PIXELS + 1);
         if (xml.name() != QLatin1String("use"))
             return;
-        m_targets.insert(linkOf(xml).mid(1));
+        m_targets.insert(link.mid(1));
         m_places.append(m_ids);
     }
 
@@ -58,18 +64,26 @@ public:
     bool isHarmless() const
     {
         const int max_uses = 1024;
-        const int max_nested_uses = 24; // at worst a shape is drawn 3^8 times through them
+        const double max_shapes = 1e6;
         int nested = 0;
-        for (const QStringList &place : m_places)
-            nested += m_targets.intersects(QSet<QString>(place.cbegin(), place.cend()));
+        for (const auto &place : m_places)
+            nested += std::any_of(place.cbegin(), place.cend(), [this](const auto &ids) {
+                return m_targets.contains(ids.first) || m_targets.contains(ids.second);
+            });
+        // Nested uses multiply most in groups of three, each group using the next: 3^(nested/3).
+        const double shapes
+            = (1 + m_places.size() - nested) * m_elements * std::pow(3, nested / 3.0);
         return m_pixels <= ImageFile::MAX_PIXELS && m_places.size() <= max_uses
-            && nested <= max_nested_uses;
+            && shapes <= max_shapes;
     }
 
 private:
-    QStringList m_ids; // of the open elements, innermost last
+    using Ids = QPair<QString, QString>; // of an element: id and xml:id
+
+    double m_elements = 0;
+    QVector<Ids> m_ids; // of the open elements, innermost last
     QSet<QString> m_targets; // ids that are used somewhere
-    QVector<QStringList> m_places; // of each use: the elements around it
+    QVector<QVector<Ids>> m_places; // of each use: the elements around it
     qint64 m_pixels = 0;
 };
 
