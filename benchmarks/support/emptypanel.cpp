@@ -1,0 +1,7 @@
+#include "benchmarks/support/screen.h"
+
+namespace bench {
+
+void setUpPanel() { }
+
+} // namespace bench

@@ -1,0 +1,19 @@
+#include "benchmarks/support/screen.h"
+
+#include <FontLoader>
+#include <ScalingInfo>
+#include <VexoStylesheet>
+
+using namespace vexo::hox::qt::ui;
+
+namespace bench {
+
+void setUpPanel()
+{
+    ScalingInfo::inst()->setPixels(1280, 800);
+    ScalingInfo::inst()->setSizeMM(128, 80); // 10 px/mm
+    FontLoader();
+    VexoStylesheet(QStringList{ ":/css/vexo-AAL.qs", ":/css/hoxq.qs" });
+}
+
+} // namespace bench

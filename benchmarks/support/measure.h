@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <string>
+
+namespace bench {
+
+/// Makes runs comparable: offscreen, with fonts and hash seed that no machine changes. Call it
+/// first in main().
+void prepareProcess();
+
+/// Whether the process runs under callgrind: then instructions are counted, and times mean nothing.
+bool isCounting();
+/// Instructions are counted from here on; before the first call, from the start of the process.
+void startCounting();
+/// Stops and writes the count as that of \a times runs of \a subject. Outside callgrind both do
+/// nothing.
+void stopCounting(const std::string &subject, int times);
+
+/// CPU time of the whole process since it started, ns.
+qint64 cpuTime();
+/// The most memory the process ever had in RAM, KiB.
+qint64 peakMemory();
+
+/// Writes one result as a line "subject kind value". A subject is "screen what variant", a kind
+/// "cpu" (ns), "memory" (KiB) or "repaints".
+void print(const std::string &subject, const char *kind, double value);
+
+} // namespace bench

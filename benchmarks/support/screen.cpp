@@ -1,0 +1,173 @@
+#include "benchmarks/support/screen.h"
+
+#include "benchmarks/support/measure.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QEventLoop>
+#include <QFile>
+#include <QMouseEvent>
+#include <QTimer>
+#include <QWidget>
+
+#include <algorithm>
+#include <cstdio>
+#include <limits>
+
+namespace bench {
+
+namespace {
+
+// Counts the paint events of all widgets while it lives.
+class PaintCounter : public QObject
+{
+public:
+    PaintCounter() { qApp->installEventFilter(this); }
+    int count() const { return m_count; }
+
+    bool eventFilter(QObject *receiver, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint && receiver->isWidgetType())
+            ++m_count;
+        return false;
+    }
+
+private:
+    int m_count = 0;
+};
+
+std::string subject(const std::string &what)
+{
+    return HOXQ_BENCHMARK_SCREEN " " + what + " " HOXQ_BENCHMARK_VARIANT;
+}
+
+void showFirstFrame(QWidget *window)
+{
+    const PaintCounter painted;
+    window->resize(1280, 800);
+    window->show();
+    while (painted.count() == 0)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void measureStart(QWidget *window)
+{
+    showFirstFrame(window);
+    const qint64 time = cpuTime();
+    stopCounting(subject("start"), 1);
+    if (!isCounting())
+        print(subject("start"), "cpu", double(time));
+}
+
+void repeat(const Action &action, int times)
+{
+    for (int i = 0; i < times; ++i)
+        action.run();
+}
+
+// Of several series the fastest is the least disturbed.
+double fastestSeries(const Action &action, int times)
+{
+    qint64 fastest = std::numeric_limits<qint64>::max();
+    for (int series = 0; series < 5; ++series) {
+        const qint64 start = cpuTime();
+        repeat(action, times);
+        fastest = std::min(fastest, cpuTime() - start);
+    }
+    return double(fastest) / times;
+}
+
+// The first run fills the caches and shows that the action is seen at all.
+void requirePainting(const Action &action)
+{
+    const PaintCounter painted;
+    action.run();
+    if (painted.count() == 0)
+        qFatal("%s paints nothing", action.name.c_str());
+}
+
+void measure(const Action &action)
+{
+    const int times = 20;
+    requirePainting(action);
+    if (isCounting()) {
+        startCounting();
+        repeat(action, times);
+        stopCounting(subject(action.name), times);
+    } else {
+        print(subject(action.name), "cpu", fastestSeries(action, times));
+    }
+}
+
+void measureRest()
+{
+    const int longer_than_a_cursor_blink_ms = 1200;
+    const PaintCounter painted;
+    QEventLoop loop;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
+    timer.start(longer_than_a_cursor_blink_ms);
+    loop.exec();
+    print(subject("rest"), "repaints", painted.count());
+}
+
+void sendMouse(QWidget *widget, QEvent::Type type)
+{
+    const QPointF middle = QRectF(widget->rect()).center();
+    const auto buttons = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+    QMouseEvent event(type, middle, Qt::LeftButton, buttons, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &event);
+    QCoreApplication::processEvents();
+}
+
+void measureScreen(const Screen &screen)
+{
+    for (const Action &action : screen.actions)
+        measure(action);
+    if (isCounting())
+        return;
+    measureRest();
+    print(subject("memory"), "memory", double(peakMemory()));
+}
+
+bool savePicture(QWidget *window, const char *file)
+{
+    showFirstFrame(window);
+    if (auto *button = window->findChild<QAbstractButton *>())
+        sendMouse(button, QEvent::MouseButtonPress);
+    return window->grab().save(QFile::decodeName(file));
+}
+
+} // namespace
+
+Action fullRepaint(QWidget *window)
+{
+    return { "repaint", [window] { window->repaint(); } };
+}
+
+Action pressAndRelease(const std::vector<QWidget *> &buttons)
+{
+    return { "tap", [buttons, next = std::size_t(0)]() mutable {
+                QWidget *button = buttons[next++ % buttons.size()];
+                sendMouse(button, QEvent::MouseButtonPress);
+                sendMouse(button, QEvent::MouseButtonRelease);
+            } };
+}
+
+} // namespace bench
+
+// Arguments: none, or --start to measure the start alone, or the name of a file for a picture of
+// the screen with its first button held.
+int main(int argc, char **argv)
+{
+    bench::prepareProcess();
+    QApplication application(argc, argv);
+    bench::setUpPanel();
+    const bench::Screen screen = bench::makeScreen();
+    if (argc > 1 && qstrcmp(argv[1], "--start") != 0)
+        return bench::savePicture(screen.window.get(), argv[1]) ? 0 : 1;
+    bench::measureStart(screen.window.get());
+    if (argc == 1)
+        bench::measureScreen(screen);
+    return 0;
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+class QWidget;
+
+namespace bench {
+
+/// Something a user does to a screen, measured many times in a row. It ends when everything it
+/// caused is painted; a run that paints nothing is refused.
+struct Action
+{
+    std::string name; ///< one word
+    std::function<void()> run;
+};
+
+/// A screen of 1280 x 800 px, and what is measured on it besides its start, its peak memory and
+/// its repaints at rest.
+struct Screen
+{
+    std::unique_ptr<QWidget> window;
+    std::vector<Action> actions;
+};
+
+/// Defined by the file of each screen, for every variant: the same screen from the library's
+/// widgets when HOXQ_BENCHMARK_LIBRARY is defined, else from stock ones.
+Screen makeScreen();
+/// Defined by the file of each screen for the stock variant: the stylesheet that gives stock
+/// widgets the look of the library's.
+QString stockStyleSheet();
+
+/// Brings fonts and stylesheet into the application; one definition per variant.
+void setUpPanel();
+
+/// Paints the whole window.
+Action fullRepaint(QWidget *window);
+/// Taps the next of \a buttons at each run, for well below the time of a long press.
+Action pressAndRelease(const std::vector<QWidget *> &buttons);
+
+} // namespace bench

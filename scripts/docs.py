@@ -1,0 +1,292 @@
+"""Writes the pages of docs/classes from the headers, or with --check compares; see scripts/docs."""
+
+import re
+import sys
+from dataclasses import dataclass, field
+from pathlib import Path
+from textwrap import indent
+
+PAGES = Path("docs/classes")
+TABLE = PAGES / "classes.txt"
+NOTICE = "<!-- Written by scripts/docs from {}: change it there. -->\n"
+
+CLASS = re.compile(
+    r"(?P<comment>(?:^///[^\n]*\n)+)(?P<key>class|struct|enum class|enum) (?:\w+_EXPORT )?"
+    r"(?P<name>\w+)(?P<bases>[^;{]*?)\s*\{\n(?P<body>.*?)^\};", re.M | re.S)
+SECTION = re.compile(r"(public|protected|private|Q_SIGNALS)( Q_SLOTS)?:")
+PROPERTY = re.compile(r"Q_PROPERTY\(\s*(?P<type>.+?) (?P<name>\w+) (?:READ (?P<get>\w+)|MEMBER \w+)"
+                      r"(?: WRITE (?P<set>\w+))?")
+# What a comment names: an argument, a qualified name, a call, a name with underscores and perhaps
+# its value, a quotation, a class; and what Markdown would take for its own.
+TOKEN = re.compile(r'\\a (\w+)|\w+(?:::\w+)+(?:\(\))?|\w+\([^()]*\)|\w*_\w+(?:="[^"]*")?|"[^"]*"'
+                   r"|\b[A-Z]\w+\b|[<>*|]")
+
+
+@dataclass
+class Item:
+    """Declarations that share a comment."""
+    section: str
+    declarations: list
+    text: str
+
+
+@dataclass
+class Class:
+    name: str
+    header: Path
+    comment: str
+    bases: list
+    items: list = field(default_factory=list)
+
+    def chosen(self, section, test):
+        return [item for item in self.items
+                if item.section == section and test(item.declarations[0])]
+
+
+def is_property(code):
+    return code.startswith("Q_PROPERTY")
+
+
+def is_operation(code):
+    # A parenthesis behind = or { belongs to a default value.
+    return bool(re.match(r"[^={]*\(|.*\boperator\b", code)) and not code.startswith("Q_")
+
+
+def is_implied(code):
+    return not is_operation(code) or bool(re.search(r"~|\boverride\b|= (default|delete);", code))
+
+
+def is_enum(code):
+    return code.startswith("enum ")
+
+
+def is_field(code):
+    return not is_operation(code) and not is_enum(code) and not is_property(code)
+
+
+# --- reading ---
+
+def uncommented(lines):
+    return "\n".join(line.strip()[3:].removeprefix(" ") for line in lines)
+
+
+def is_complete(code):
+    is_balanced = all(code.count(a) == code.count(b) for a, b in ("()", "{}"))
+    return is_balanced and (code[-1] in ";}" or code.startswith("Q_"))
+
+
+def statements(body, section):
+    """Yields section, comment, declaration and whether a blank line stands before it."""
+    comment, code, is_apart = [], "", True
+    for line in map(str.strip, body.splitlines()):
+        switch = SECTION.fullmatch(line)
+        if switch:
+            section, is_apart = switch[1], True
+        elif not line:
+            is_apart = True
+        elif line.startswith("///"):
+            comment.append(line)
+        elif not line.startswith("//"):
+            declaration, _, behind = line.partition("///<")
+            code = f"{code} {declaration.partition(' //')[0].strip()}".strip()
+            if behind:
+                name = "" if is_complete(code) else f"- \\a {re.match(r'[^ ,=]+', line)[0]}:"
+                comment.append(f"///{name}{behind}")
+            if is_complete(code):
+                yield section, uncommented(comment), code, is_apart
+                comment, code, is_apart = [], "", False
+
+
+def without_body(code):
+    if not is_operation(code):
+        return re.sub(r"^(static |constexpr |const(?=expr))+", "", code.rstrip(";"))
+    code = re.sub(r"\s*(\{.*\})?;?$", "", code)
+    return re.sub(r"^explicit | override$", "", code)
+
+
+def items_of(body, section):
+    """An operation without a comment shares that of the operation right above it."""
+    items, above = [], None
+    for part, comment, code, is_apart in statements(body, section):
+        if comment or part == "Q_SIGNALS" or is_enum(code):
+            above = Item(part, [without_body(code)], comment)
+            items.append(above)
+        elif is_apart or not above or not is_operation(above.declarations[0]) or is_implied(code):
+            above = None
+        else:
+            above.declarations.append(without_body(code))
+    return items
+
+
+def read_header(path):
+    for found in CLASS.finditer(path.read_text()):
+        bases = re.findall(r"public ([\w:]+)", found["bases"])
+        entry = Class(found["name"], path, uncommented(found["comment"].splitlines()),
+                      [base.split("::")[-1] for base in bases])
+        if found["key"].startswith("enum"):
+            body = f"{found['key']} {found['name']} {{\n{found['body']}}};"
+            entry.items = items_of(body, "public")
+        else:
+            section = "private" if found["key"] == "class" else "public"
+            entry.items = items_of(found["body"], section)
+        yield entry
+
+
+def headers():
+    paths = [path for folder in ("ui", "util") for path in Path(folder).glob("**/*.h")]
+    paths += Path("system").glob("*.h")
+    return sorted(path for path in paths if not re.search("_(p|export)\\.h$", path.name))
+
+
+def read_table():
+    rows = [line for line in TABLE.read_text().splitlines() if line and not line.startswith("#")]
+    return {name: (need, page) for name, need, page in (re.split(r" *\| *", row) for row in rows)}
+
+
+# --- writing ---
+
+def markdown(text, classes, own=""):
+    def mark(found):
+        token = found[0]
+        if found[1]:
+            return f"`{found[1]}`"
+        if len(token) == 1:
+            return "\\" + token
+        if token in classes and token != own:
+            return f"[{token}]({token}.md)"
+        return f"`{token}`" if re.search(r'[:("_]', token) else token
+    return TOKEN.sub(mark, text)
+
+
+def table(head, rows):
+    lines = [head, ["---"] * len(head), *rows]
+    return "\n".join("| " + " | ".join(cells) + " |" for cells in lines)
+
+
+def cell(text, classes, own):
+    return markdown(" ".join(text.split()), classes, own)
+
+
+def properties(entry, classes):
+    rows = []
+    for item in entry.chosen("private", is_property):
+        found = PROPERTY.match(item.declarations[0])
+        access = "<br>".join(f"`{found[way]}()`" for way in ("get", "set") if found[way])
+        meaning = cell(item.text, classes, entry.name)
+        rows.append([f"`{found['name']}`", f"`{found['type']}`", meaning, access])
+    return table(["Property", "Type", "Meaning", "Read, written by"], rows) if rows else ""
+
+
+def operations(items, entry, classes):
+    blocks = []
+    for item in items:
+        text = markdown(item.text, classes, entry.name)
+        declared = "\\\n".join(f"`{declaration}`" for declaration in item.declarations)
+        separator = "\n" if not text or text.startswith("- ") else "\\\n"
+        blocks.append("- " + indent(declared + separator + text, "  ").strip())
+    return "\n".join(blocks)
+
+
+def fields(entry, classes):
+    rows = [[f"`{item.declarations[0]}`", cell(item.text, classes, entry.name)]
+            for item in entry.chosen("public", is_field)]
+    return table(["Member", "Meaning"], rows) if rows else ""
+
+
+def parts(entry, classes):
+    def listed(section, test=is_operation):
+        return operations(entry.chosen(section, test), entry, classes)
+    return {
+        "Properties": properties(entry, classes),
+        "Signals": listed("Q_SIGNALS"),
+        "Enumerations": listed("public", is_enum),
+        "Operations": listed("public"),
+        "For subclasses": listed("protected"),
+        "Members": fields(entry, classes),
+    }
+
+
+def snippet(entry):
+    return Path(f"docs/snippets/{entry.name.lower()}.cpp").read_text().split("//! [page]\n")[1]
+
+
+def origin(entry, classes):
+    header = f"Header [{entry.header}](../../{entry.header})."
+    if not entry.bases:
+        return header
+    bases = [f"[{base}]({base}.md)" if base in classes else f"`{base}`" for base in entry.bases]
+    return f"Inherits {' and '.join(bases)}. {header}"
+
+
+def page_of(entry, classes, shown_on):
+    blocks = [NOTICE.format("the header and the snippet") + f"# {entry.name}",
+              markdown(entry.comment, classes, entry.name), origin(entry, classes)]
+    if shown_on != "-":
+        blocks.append(f"![The page {shown_on} of the gallery](../images/{shown_on}.png)\n\n"
+                      f"In the gallery: `scripts/gallery --page {shown_on}`.")
+    blocks.append(f"## Example\n\n```cpp\n{snippet(entry)}```")
+    blocks += [f"## {title}\n\n{text}" for title, text in parts(entry, classes).items() if text]
+    return "\n\n".join(blocks) + "\n"
+
+
+def index(rows):
+    lines = [[need, f"[{name}]({name}.md)"] for name, (need, page) in rows.items()]
+    listed = table(["You see or need", "Class"], lines)
+    return f"{NOTICE.format(TABLE.name)}# Classes\n\n{listed}\n"
+
+
+# --- checking ---
+
+def faults(classes, rows):
+    """What is missing for the pages to be written."""
+    for name in sorted(classes.keys() | rows.keys()):
+        if name not in rows:
+            yield f"{TABLE}: no line for {name}"
+        elif name not in classes:
+            yield f"{TABLE}: no header documents a class {name}"
+        elif not Path(f"docs/snippets/{name.lower()}.cpp").exists():
+            yield f"docs/snippets/{name.lower()}.cpp: missing"
+    for path in sorted({*headers()} - {entry.header for entry in classes.values()}):
+        yield f"{path}: documents no class"
+
+
+def missing_pictures(rows):
+    for page in sorted({page for need, page in rows.values()} - {"-"}):
+        if not Path(f"docs/images/{page}.png").exists():
+            yield f"docs/images/{page}.png: missing; scripts/docs --pictures renders it"
+
+
+def write(pages):
+    for stale in PAGES.glob("*.md"):
+        if stale not in pages:
+            stale.unlink()
+    for path, text in pages.items():
+        path.write_text(text)
+
+
+def differences(pages):
+    for path in sorted({*pages, *PAGES.glob("*.md")}):
+        if path not in pages:
+            yield f"{path}: belongs to no class; scripts/docs removes it"
+        elif not path.exists() or path.read_text() != pages[path]:
+            yield f"{path}: not up to date; scripts/docs writes it"
+
+
+def main(mode):
+    classes = {entry.name: entry for path in headers() for entry in read_header(path)}
+    rows = read_table()
+    findings = list(faults(classes, rows))
+    if not findings:
+        pages = {PAGES / f"{name}.md": page_of(classes[name], classes, page)
+                 for name, (need, page) in rows.items()}
+        pages[PAGES / "README.md"] = index(rows)
+        if mode != "--check":
+            write(pages)
+        findings = [*differences(pages), *missing_pictures(rows)]
+    for finding in findings:
+        print(finding)
+    return 1 if findings else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1]))

@@ -1,0 +1,55 @@
+# shellcheck shell=bash
+# Sourced by the scripts beside it: starts in the root of the tree, says what goes on, builds.
+set -euo pipefail
+NAME=scripts/$(basename "$0")
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/packages.sh
+
+# One cache for all build folders: they lie at the same depth, so relative paths in them agree.
+export CCACHE_DIR=${CCACHE_DIR:-${HOME:-$PWD/build}/.cache/ccache}
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+
+# The comment at the head of the script is its help.
+usage() {
+    sed -n '2,/^[^#]/s/^# \{0,1\}//p' "scripts/$(basename "$0")"
+}
+
+phase() {
+    printf '== [%d:%02d] %s\n' $((SECONDS / 60)) $((SECONDS % 60)) "$*"
+}
+
+# The reason is the last line, also where both streams end in one file.
+fail() {
+    printf '%s: %s\n' "$NAME" "$*" >&2
+    exit 1
+}
+
+# build FOLDER TARGET [CMAKE OPTION...]
+build() {
+    local folder=$1 target=$2 log=$1/configure.log
+    shift 2
+    phase "configuring $folder"
+    mkdir -p "$folder"
+    if ! cmake -G Ninja -S . -B "$folder" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@" &>"$log"; then
+        cat "$log"
+        fail "$folder could not be configured: $(cmake_error "$log")"
+    fi
+    phase "building $target in $folder"
+    cmake --build "$folder" --target "$target" \
+        || fail "$folder could not be built: $(build_error "$folder" "$target")"
+}
+
+# The text of the first error, put back on one line.
+cmake_error() {
+    awk '/^CMake Error/ { on = 1; sub(/^CMake Error( at .*)?:/, "") }
+        on && (/^Call Stack/ || (!NF && text)) { exit }
+        on && NF { $1 = $1; text = text (text ? " " : "") $0 }
+        END { print text }' "$1"
+}
+
+# What failed fails again at once; so its output need not be kept, and ninja can draw its status.
+build_error() {
+    { cmake --build "$1" --target "$2" || true; } 2>&1 | awk '/^FAILED:/ && !text { text = $0 }
+        /error: |undefined reference/ && !reason { reason = $0 }
+        END { print reason ? reason : text }'
+}

@@ -1,0 +1,41 @@
+# shellcheck shell=bash
+# Sourced by the scripts beside it: which Debian packages each purpose needs, and need_packages,
+# which installs those that are missing.
+
+BUILD_PACKAGES=(g++ cmake ninja-build ccache qtbase5-dev libqt5svg5-dev librsvg2-bin zlib1g-dev
+    fonts-inter fonts-droid-fallback)
+DESIGNER_PACKAGES=(extra-cmake-modules qttools5-dev)
+STYLE_PACKAGES=(clang-format)
+# The tests read symbols with binutils, link through pkg-config and fall back to DejaVu.
+TEST_PACKAGES=("${BUILD_PACKAGES[@]}" "${DESIGNER_PACKAGES[@]}" "${STYLE_PACKAGES[@]}"
+    binutils pkg-config fonts-dejavu-core)
+BENCHMARK_PACKAGES=("${BUILD_PACKAGES[@]}" libbenchmark-dev valgrind)
+LINT_PACKAGES=("${TEST_PACKAGES[@]}" "${BENCHMARK_PACKAGES[@]}" clang-tidy clazy)
+
+apt_get() {
+    local sudo=()
+    [ "$(id -u)" = 0 ] || sudo=(sudo)
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -y -o Acquire::Retries=3 \
+        -o DPkg::Lock::Timeout=300 "$@" </dev/null
+}
+
+# need_packages PACKAGE...
+need_packages() {
+    local package missing=() log
+    command -v dpkg-query >/dev/null || fail "needs a Debian system with $*"
+    for package; do
+        dpkg-query -W -f '${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed \
+            || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    [ "$(id -u)" = 0 ] || command -v sudo >/dev/null \
+        || fail "run it as root or install sudo; missing packages: ${missing[*]}"
+    phase "installing ${missing[*]}"
+    log=$(mktemp)
+    if ! { apt_get update && apt_get install --no-install-recommends "${missing[@]}"; } &>"$log"; then
+        cat "$log"
+        rm -f "$log"
+        fail "could not install ${missing[*]}"
+    fi
+    rm -f "$log"
+}
