@@ -4,6 +4,7 @@
 #include "ui/foundation/panelfont_p.h"
 
 #include <QPainterPath>
+#include <QPixmapCache>
 #include <QStylePainter>
 #include <QTextOption>
 
@@ -21,6 +22,8 @@ VexoKeyboardButton::VexoKeyboardButton(QWidget *parent)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::MinimumExpanding);
     m_button_font.setWeight(QFont::Light);
+    m_label.setTextFormat(Qt::PlainText);
+    m_label.setTextOption(QTextOption(Qt::AlignCenter));
     setCornerRadius(m_corner_radius_mm);
     setButtonTextFontSizeInPt(m_button_text_font_size_pt);
     setHeightInMm(m_height_mm);
@@ -28,61 +31,53 @@ VexoKeyboardButton::VexoKeyboardButton(QWidget *parent)
 
 void VexoKeyboardButton::setBackgroundColor(const QColor &color)
 {
-    m_background_color = color;
-    update();
+    change(&m_background_color, color);
 }
 
 void VexoKeyboardButton::setBackgroundSpecialKeyColor(const QColor &color)
 {
-    m_background_special_key_color = color;
-    update();
+    change(&m_background_special_key_color, color);
 }
 
 void VexoKeyboardButton::setBackgroundClickedColor(const QColor &color)
 {
-    m_background_clicked_color = color;
-    update();
+    change(&m_background_clicked_color, color);
 }
 
 void VexoKeyboardButton::setBackgroundInactiveColor(const QColor &color)
 {
-    m_background_inactive_color = color;
-    update();
+    change(&m_background_inactive_color, color);
 }
 
 void VexoKeyboardButton::setBorderColor(const QColor &color)
 {
-    m_border_color = color;
-    update();
+    change(&m_border_color, color);
 }
 
 void VexoKeyboardButton::setTextColor(const QColor &color)
 {
-    m_text_color = color;
-    update();
+    change(&m_text_color, color);
 }
 
 void VexoKeyboardButton::setTextClickedColor(const QColor &color)
 {
-    m_text_clicked_color = color;
-    update();
+    change(&m_text_clicked_color, color);
 }
 
 void VexoKeyboardButton::setBorderTopColor(const QColor &color)
 {
-    m_border_top_color = color;
-    update();
+    change(&m_border_top_color, color);
 }
 
 void VexoKeyboardButton::setBorderBottomExtraColor(const QColor &color)
 {
-    m_border_bottom_extra_color = color;
-    update();
+    change(&m_border_bottom_extra_color, color);
 }
 
 void VexoKeyboardButton::setStandardBorderDrawingDisabled(bool disabled)
 {
     m_standard_border_drawing_disabled = disabled;
+    m_cap = QPixmap();
     update();
 }
 
@@ -91,6 +86,7 @@ void VexoKeyboardButton::setCornerRadius(double mm)
     m_corner_radius_mm = mm;
     m_corner_radius_x = m_scaling->mm2px_X(float(mm));
     m_corner_radius_y = m_scaling->mm2px_Y(float(mm));
+    m_cap = QPixmap();
     update();
 }
 
@@ -98,6 +94,7 @@ void VexoKeyboardButton::setButtonTextFontSizeInPt(double pt)
 {
     m_button_text_font_size_pt = pt;
     setPtSize(m_button_font, pt);
+    m_label.setText(QString());
     update();
 }
 
@@ -142,32 +139,66 @@ void VexoKeyboardButton::onToggle(bool toggle_state)
 void VexoKeyboardButton::paintEvent(QPaintEvent *)
 {
     QStylePainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     const QRect cap = rect().adjusted(0, 0, 0, m_standard_border_drawing_disabled ? -1 : 0);
     const bool is_dark = isChecked() || isDown();
-    drawCap(&painter, cap, capBrush(is_dark));
-    if (m_standard_border_drawing_disabled)
-        drawEdges(&painter, cap);
+    painter.drawPixmap(0, 0, capPixmap(ground(is_dark)));
     const QIcon shown = is_dark && isEnabled() ? inverseIcon() : icon();
-    painter.drawItemPixmap(
-        cap, Qt::AlignCenter, shown.pixmap(iconSize(), QIcon::Normal, QIcon::Off));
+    if (!shown.isNull())
+        painter.drawItemPixmap(
+            cap, Qt::AlignCenter, shown.pixmap(iconSize(), QIcon::Normal, QIcon::Off));
     drawLabel(&painter, cap, is_dark);
 }
 
-QBrush VexoKeyboardButton::capBrush(bool is_dark)
+void VexoKeyboardButton::change(QColor *color, const QColor &to)
+{
+    *color = to;
+    m_cap = QPixmap();
+    update();
+}
+
+QColor VexoKeyboardButton::ground(bool is_dark)
 {
     if (!isEnabled())
         return m_background_inactive_color;
-    return is_dark ? QBrush(m_background_clicked_color) : getStandardBrush();
+    return is_dark ? m_background_clicked_color : getStandardBrush().color();
 }
 
-void VexoKeyboardButton::drawCap(QPainter *painter, const QRect &cap, const QBrush &brush) const
+// Caps of the same size and look are drawn once for all keys of a keyboard.
+const QPixmap &VexoKeyboardButton::capPixmap(const QColor &ground)
 {
+    if (m_cap.size() == size() * devicePixelRatioF() && m_cap_ground == ground)
+        return m_cap;
+    const QRect cap = rect().adjusted(0, 0, 0, m_standard_border_drawing_disabled ? -1 : 0);
+    QString key = QStringLiteral("hoxqcap");
+    for (const QColor &color :
+        { ground, m_border_color, m_border_top_color, m_border_bottom_extra_color })
+        key += QString::number(color.rgba(), 36) + QLatin1Char(' ');
+    for (const float number : { float(width()), float(height()), float(devicePixelRatioF()),
+             m_corner_radius_x, m_corner_radius_y, float(m_standard_border_drawing_disabled) })
+        key += QString::number(double(number), 'g', 9) + QLatin1Char(' ');
+    m_cap_ground = ground;
+    if (!QPixmapCache::find(key, &m_cap)) {
+        m_cap = renderCap(cap, ground);
+        QPixmapCache::insert(key, m_cap);
+    }
+    return m_cap;
+}
+
+QPixmap VexoKeyboardButton::renderCap(const QRect &cap, const QColor &ground) const
+{
+    QPixmap pixmap(size() * devicePixelRatioF());
+    pixmap.setDevicePixelRatio(devicePixelRatioF());
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
     QPainterPath path;
     path.addRoundedRect(
         QRectF(cap), double(m_corner_radius_x), double(m_corner_radius_y), Qt::AbsoluteSize);
-    painter->fillPath(path, brush);
-    painter->strokePath(path, QPen(m_border_color, 1));
+    painter.fillPath(path, ground);
+    painter.strokePath(path, QPen(m_border_color, 1));
+    if (m_standard_border_drawing_disabled)
+        drawEdges(&painter, cap);
+    return pixmap;
 }
 
 void VexoKeyboardButton::drawEdges(QPainter *painter, const QRect &cap) const
@@ -186,13 +217,19 @@ void VexoKeyboardButton::drawEdges(QPainter *painter, const QRect &cap) const
     painter->drawLine(truncated(double(left)), below, truncated(double(right)), below);
 }
 
-void VexoKeyboardButton::drawLabel(QPainter *painter, const QRect &cap, bool is_dark) const
+void VexoKeyboardButton::drawLabel(QPainter *painter, const QRect &cap, bool is_dark)
 {
     if (text().isEmpty())
         return;
+    if (m_label.text() != text() || m_label.textWidth() != cap.width()) {
+        m_label.setText(text());
+        m_label.setTextWidth(cap.width());
+        m_label.prepare(QTransform(), m_button_font);
+    }
     painter->setPen(is_dark ? m_text_clicked_color : m_text_color);
     painter->setFont(m_button_font);
-    painter->drawText(QRectF(cap), text(), QTextOption(Qt::AlignCenter));
+    const double top = cap.top() + (cap.height() - m_label.size().height()) / 2;
+    painter->drawStaticText(QPointF(cap.left(), top), m_label);
 }
 
 } // namespace vexo::hox::qt::ui

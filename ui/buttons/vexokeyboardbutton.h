@@ -5,7 +5,9 @@
 
 #include <QBrush>
 #include <QFont>
+#include <QPixmap>
 #include <QSizeF>
+#include <QStaticText>
 
 class QPainter;
 
@@ -109,10 +111,12 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QBrush capBrush(bool is_dark);
-    void drawCap(QPainter *painter, const QRect &cap, const QBrush &brush) const;
+    void change(QColor *color, const QColor &to);
+    QColor ground(bool is_dark);
+    const QPixmap &capPixmap(const QColor &ground);
+    QPixmap renderCap(const QRect &cap, const QColor &ground) const;
     void drawEdges(QPainter *painter, const QRect &cap) const;
-    void drawLabel(QPainter *painter, const QRect &cap, bool is_dark) const;
+    void drawLabel(QPainter *painter, const QRect &cap, bool is_dark);
 
     const ScalingInfo *const m_scaling;
     QFont m_button_font;
@@ -132,6 +136,9 @@ private:
     double m_button_text_font_size_pt = 13.0;
     double m_height_mm = 8.0;
     QSizeF m_common_icon_size_mm = QSizeF(0.0, 4.7);
+    QPixmap m_cap; // as drawn last; null after a change of its look
+    QColor m_cap_ground;
+    QStaticText m_label;
 };
 
 } // namespace vexo::hox::qt::ui
