@@ -64,8 +64,6 @@ def is_field(code):
     return not is_operation(code) and not is_enum(code) and not is_property(code)
 
 
-# --- reading ---
-
 def uncommented(lines):
     return "\n".join(line.strip()[3:].removeprefix(" ") for line in lines)
 
@@ -142,8 +140,6 @@ def read_table():
     rows = [line for line in TABLE.read_text().splitlines() if line and not line.startswith("#")]
     return {name: (need, page) for name, need, page in (re.split(r" *\| *", row) for row in rows)}
 
-
-# --- writing ---
 
 def markdown(text, classes, own=""):
     def mark(found):
@@ -234,8 +230,6 @@ def index(rows):
     listed = table(["You see or need", "Class"], lines)
     return f"{NOTICE.format(TABLE.name)}# Classes\n\n{listed}\n"
 
-
-# --- checking ---
 
 def faults(classes, rows):
     """What is missing for the pages to be written."""

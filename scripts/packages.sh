@@ -9,7 +9,7 @@ STYLE_PACKAGES=(clang-format)
 # The tests read symbols with binutils, link through pkg-config and fall back to DejaVu.
 TEST_PACKAGES=("${BUILD_PACKAGES[@]}" "${DESIGNER_PACKAGES[@]}" "${STYLE_PACKAGES[@]}"
     binutils pkg-config fonts-dejavu-core)
-BENCHMARK_PACKAGES=("${BUILD_PACKAGES[@]}" libbenchmark-dev valgrind)
+BENCHMARK_PACKAGES=("${BUILD_PACKAGES[@]}" libbenchmark-dev valgrind fonts-dejavu-core)
 LINT_PACKAGES=("${TEST_PACKAGES[@]}" "${BENCHMARK_PACKAGES[@]}" clang-tidy clazy)
 
 apt_get() {

@@ -12,7 +12,7 @@ namespace vexo::hox::qt::system {
 /// construction. The lines go through the toolkit's category "hoxq.<channel>", so an application
 /// filters them with the toolkit's own rules: QT_LOGGING_RULES="hoxq.*.debug=true" shows all of
 /// them. Debug lines are off by default, Info and Error are on.
-class HOXQSYSTEM_EXPORT VexoLogging
+class HOXQSYSTEM_EXPORT VexoLogging // clazy:exclude=copyable-polymorphic
 {
 public:
     /// \a channel is copied; null counts as the empty name.

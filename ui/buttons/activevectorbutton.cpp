@@ -90,7 +90,7 @@ QIcon ActiveVectorButton::compute(const QString &path)
 {
     if (m_mm_icon_width == 0.0 && m_mm_icon_height == 0.0)
         return QIcon();
-    const CachedVectorIcon icon(path, QSizeF(m_mm_icon_width, m_mm_icon_height));
+    CachedVectorIcon icon(path, QSizeF(m_mm_icon_width, m_mm_icon_height));
     m_px_icon_size = QSize(truncated(icon.pxWidth()), truncated(icon.pxHeight()));
     return icon;
 }

@@ -7,7 +7,7 @@ namespace vexo::hox::qt::ui {
 /// Mix-in for buttons that still click when the finger has slid a little off them. The owning
 /// button reports each pointer move and asks at the release whether to emit clicked(false) itself,
 /// since the toolkit counts only a release inside as a click.
-class HOXQUI_EXPORT EasyAccessButton
+class HOXQUI_EXPORT EasyAccessButton // clazy:exclude=copyable-polymorphic
 {
 public:
     /// \a margin_px is the tolerance on every side, px. Default: enabled, 20 px.

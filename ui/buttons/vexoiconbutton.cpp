@@ -63,11 +63,11 @@ void VexoIconButton::paintEvent(QPaintEvent *)
 QIcon VexoIconButton::takePressedLook(QPainter *painter)
 {
     if (hasState(QLatin1String(CLICKED_STATE_NAME))) {
-        const QIcon clicked_icon = getStateIcon(QLatin1String(CLICKED_STATE_NAME));
+        QIcon clicked_icon = getStateIcon(QLatin1String(CLICKED_STATE_NAME));
         initialize(QLatin1String(CLICKED_STATE_NAME));
         return clicked_icon;
     }
-    const QIcon inverse = inverseIcon();
+    QIcon inverse = inverseIcon();
     QPainterPath outline;
     outline.addRect(QRectF(rect()));
     painter->drawPath(outline);

@@ -124,7 +124,7 @@ QBrush VexoKeyboardButton::getStandardBrush()
 
 QIcon VexoKeyboardButton::compute(const QString &path)
 {
-    const CachedVectorIcon icon(path, m_common_icon_size_mm);
+    CachedVectorIcon icon(path, m_common_icon_size_mm);
     const QSize px(truncated(icon.pxWidth()), truncated(icon.pxHeight()));
     if (!px.isEmpty())
         setIconSize(px);

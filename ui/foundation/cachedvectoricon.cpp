@@ -132,7 +132,8 @@ void CachedVectorIcon::setPxSize(const QSize &px)
 
 void CachedVectorIcon::updateSizeCalculations()
 {
-    if (mustRelayout()) {
+    // A constructor has no override of a subclass to ask yet.
+    if (mustRelayout()) { // NOLINT(clang-analyzer-optin.cplusplus.VirtualCall)
         m_px_width = double(ScalingInfo::inst()->mm2px_X(m_mm_width));
         m_px_height = double(ScalingInfo::inst()->mm2px_Y(m_mm_height));
     }

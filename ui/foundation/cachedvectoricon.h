@@ -21,7 +21,9 @@ namespace vexo::hox::qt::ui {
 /// the channel "CVI". Hostile files (no regular file, promising more than 64 Mpx, exploding shapes,
 /// an SVG that refers to other files) count as unreadable; resources are not examined. The toolkit
 /// may warn about flaws in an SVG that is readable. GUI thread only.
-class HOXQUI_EXPORT CachedVectorIcon : public QIcon, private vexo::hox::qt::system::VexoLogging
+class HOXQUI_EXPORT CachedVectorIcon // clazy:exclude=copyable-polymorphic
+    : public QIcon,
+      private vexo::hox::qt::system::VexoLogging
 {
 public:
     /// An empty icon.
