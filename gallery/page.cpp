@@ -1,0 +1,45 @@
+#include "gallery/page.h"
+
+#include "gallery/measures.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+Page::Page(const QString &title, const QString &summary)
+    : m_layout(new QVBoxLayout)
+{
+    auto *frame = new QVBoxLayout(this);
+    frame->setContentsMargins(mmX(6), mmY(6), mmX(6), mmY(8));
+    frame->setSpacing(0);
+    frame->addLayout(m_layout);
+    frame->addStretch(1);
+    m_layout->addWidget(createText(title, 13, QFont::Medium));
+    m_layout->addSpacing(mmY(1));
+    m_layout->addWidget(createText(summary));
+}
+
+void Page::addSection(const QString &heading)
+{
+    m_layout->addSpacing(mmY(7));
+    m_layout->addWidget(createText(heading, 9, QFont::Medium));
+}
+
+void Page::addBlock(QWidget *block)
+{
+    m_layout->addSpacing(mmY(3));
+    m_layout->addWidget(block);
+}
+
+void Page::addBlock(QLayout *block)
+{
+    m_layout->addSpacing(mmY(3));
+    m_layout->addLayout(block);
+}
+
+QLabel *Page::createText(const QString &text, double pt, int weight)
+{
+    auto *label = new QLabel(text);
+    label->setFont(ptFont(pt, weight));
+    label->setWordWrap(true);
+    return label;
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "gallery/page.h"
+
+/// An on-screen keyboard that types into a line.
+class KeyboardPage : public Page
+{
+public:
+    KeyboardPage();
+};

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "gallery/page.h"
+
+/// The fourteen colours of VexoColors and its two pens.
+class PalettePage : public Page
+{
+public:
+    PalettePage();
+};

@@ -1,0 +1,218 @@
+#include "gallery/pages/stylesheetpage.h"
+
+#include "gallery/measures.h"
+
+#include <VexoColors>
+
+#include <QCheckBox>
+#include <QFile>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QRadioButton>
+#include <QSlider>
+#include <QStyleFactory>
+#include <QStyleOptionButton>
+#include <QStyleOptionSlider>
+
+#include <memory>
+
+using vexo::hox::qt::ui::VexoColors;
+
+namespace {
+
+// The application's stylesheet reaches each widget, whatever style is set on it: a widget without
+// it has to paint and measure itself by a style of its own.
+const QStyle &plainStyle()
+{
+    static const std::unique_ptr<QStyle> style(QStyleFactory::create("fusion"));
+    return *style;
+}
+
+// Follows another widget and takes no input.
+void setUpMirror(QWidget *mirror)
+{
+    mirror->setAttribute(Qt::WA_TransparentForMouseEvents);
+    mirror->setFocusPolicy(Qt::NoFocus);
+}
+
+template <typename Button, QStyle::ControlElement element, QStyle::ContentsType contents>
+class PlainButton : public Button
+{
+public:
+    explicit PlainButton(const Button *original)
+        : Button(original->text())
+    {
+        setUpMirror(this);
+        this->setAutoExclusive(false); // it follows, it does not choose
+        this->setChecked(original->isChecked());
+        QObject::connect(original, &Button::toggled, this, &Button::setChecked);
+    }
+
+    QSize sizeHint() const override
+    {
+        QStyleOptionButton option;
+        this->initStyleOption(&option);
+        const QFontMetrics metrics = this->fontMetrics();
+        const QSize text(metrics.horizontalAdvance(this->text()), metrics.height());
+        return plainStyle().sizeFromContents(contents, &option, text, nullptr);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QStyleOptionButton option;
+        this->initStyleOption(&option);
+        QPainter painter(this);
+        plainStyle().drawControl(element, &option, &painter);
+    }
+};
+
+using PlainCheckBox = PlainButton<QCheckBox, QStyle::CE_CheckBox, QStyle::CT_CheckBox>;
+using PlainRadioButton = PlainButton<QRadioButton, QStyle::CE_RadioButton, QStyle::CT_RadioButton>;
+
+class PlainSlider : public QSlider
+{
+public:
+    explicit PlainSlider(const QSlider *original)
+        : QSlider(original->orientation())
+    {
+        setUpMirror(this);
+        setValue(original->value());
+        connect(original, &QSlider::valueChanged, this, &QSlider::setValue);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QStyleOptionSlider option;
+        initStyleOption(&option);
+        option.subControls = QStyle::SC_SliderGroove | QStyle::SC_SliderHandle;
+        QPainter painter(this);
+        plainStyle().drawComplexControl(QStyle::CC_Slider, &option, &painter);
+    }
+};
+
+QSlider *createSlider(Qt::Orientation orientation)
+{
+    auto *slider = new QSlider(orientation);
+    slider->setValue(60);
+    return slider;
+}
+
+void setLength(QSlider *slider)
+{
+    if (slider->orientation() == Qt::Horizontal)
+        slider->setMinimumWidth(mmX(20));
+    else
+        slider->setMinimumHeight(mmY(30));
+}
+
+QString readSheet()
+{
+    QFile file(":/css/vexo-AAL.qs");
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QString paragraph(const QString &selector, const QString &declarations)
+{
+    const QString html = "<p style='margin: 0 0 %1px %2px; text-indent: -%2px'>"
+                         "<span style='font-weight: 500'>%3</span> { %4&nbsp;}</p>";
+    return html.arg(mmY(1)).arg(mmX(4)).arg(selector, declarations.simplified());
+}
+
+// The rules for a widget in a state, a paragraph each.
+QString rules(const QString &sheet, const QString &widget, const QString &state)
+{
+    QString found;
+    const QStringList all = sheet.split('}', Qt::SkipEmptyParts);
+    for (const QString &rule : all) {
+        const QString selector = rule.section('{', 0, 0).trimmed();
+        if (selector.startsWith(widget + ':') && selector.endsWith(state))
+            found += paragraph(selector, rule.section('{', 1));
+    }
+    return found;
+}
+
+} // namespace
+
+StylesheetPage::StylesheetPage()
+    : Page("Stylesheets",
+        "The panel's stylesheets restyle stock widgets of the toolkit. At the left a widget as an "
+        "application gets it; at the right, following it, the same widget without the sheets. "
+        "The sheets give their sizes in pixels, so these differ from panel to panel.")
+    , m_sheet(readSheet())
+{
+    addCheckBox();
+    addRadioButtons();
+    addSlider(Qt::Horizontal);
+    addSlider(Qt::Vertical);
+}
+
+void StylesheetPage::addCheckBox()
+{
+    QGridLayout *comparison = addComparison("Check box");
+    for (const bool checked : { true, false }) {
+        auto *box = new QCheckBox(checked ? "Checked" : "Unchecked");
+        box->setChecked(checked);
+        const int row = comparison->rowCount();
+        comparison->addWidget(box, row, 0);
+        comparison->addWidget(new PlainCheckBox(box), row, 1);
+    }
+    addRules("QCheckBox");
+}
+
+void StylesheetPage::addRadioButtons()
+{
+    QGridLayout *comparison = addComparison("Radio button");
+    for (const bool checked : { true, false }) {
+        auto *button = new QRadioButton(checked ? "First choice" : "Second choice");
+        button->setChecked(checked);
+        const int row = comparison->rowCount();
+        comparison->addWidget(button, row, 0);
+        comparison->addWidget(new PlainRadioButton(button), row, 1);
+    }
+    addRules("QRadioButton");
+}
+
+void StylesheetPage::addSlider(Qt::Orientation orientation)
+{
+    const bool is_horizontal = orientation == Qt::Horizontal;
+    QGridLayout *comparison
+        = addComparison(is_horizontal ? "Horizontal slider" : "Vertical slider");
+    QSlider *slider = createSlider(orientation);
+    auto *plain = new PlainSlider(slider);
+    setLength(slider);
+    setLength(plain);
+    const Qt::Alignment alignment = is_horizontal ? Qt::Alignment() : Qt::AlignLeft;
+    comparison->addWidget(slider, 1, 0, alignment);
+    comparison->addWidget(plain, 1, 1, alignment);
+    if (is_horizontal)
+        addBlock(createText("The toolkit does not know the state qlineargradient and takes the "
+                            "page rules of both orientations for each slider: the vertical ones "
+                            "come last and win, so the colours are the other way round here."));
+    addRules("QSlider", is_horizontal ? ":horizontal" : ":vertical");
+}
+
+QGridLayout *StylesheetPage::addComparison(const QString &heading)
+{
+    addSection(heading);
+    auto *comparison = new QGridLayout;
+    comparison->setHorizontalSpacing(mmX(6));
+    comparison->setVerticalSpacing(mmY(2));
+    comparison->setColumnStretch(0, 1);
+    comparison->setColumnStretch(1, 1);
+    comparison->addWidget(createText("With the sheets", 7, QFont::Normal), 0, 0);
+    comparison->addWidget(createText("Without", 7, QFont::Normal), 0, 1);
+    addBlock(comparison);
+    return comparison;
+}
+
+void StylesheetPage::addRules(const QString &widget, const QString &state)
+{
+    QLabel *text = createText(rules(m_sheet, widget, state));
+    const QString sheet = "QLabel { background: %1; }";
+    text->setStyleSheet(sheet.arg(VexoColors::C1.name()));
+    text->setMargin(mmX(2));
+    addBlock(text);
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "gallery/page.h"
+
+/// Large tiles, from one to four columns.
+class TilesPage : public Page
+{
+public:
+    TilesPage();
+
+private:
+    void addColumns();
+    void addToggles();
+};
