@@ -1,0 +1,52 @@
+# Tests of what an application gets: the tree as it is installed, in a folder of the build tree.
+set(stage ${CMAKE_CURRENT_BINARY_DIR}/stage)
+add_test(NAME install COMMAND ${CMAKE_COMMAND} -DBUILD=${PROJECT_BINARY_DIR} -DSTAGE=${stage}
+  -P ${CMAKE_CURRENT_SOURCE_DIR}/package/install.cmake)
+set_tests_properties(install PROPERTIES FIXTURES_SETUP installed)
+
+# hoxq_package_test(tst_name): a test program that does not link the library.
+function(hoxq_package_test name)
+  add_executable(${name} package/${name}.cpp)
+  hoxq_compile(${name})
+  target_link_libraries(${name} PRIVATE Qt5::Test)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES
+    FIXTURES_REQUIRED installed ENVIRONMENT "${HOXQ_TEST_ENVIRONMENT}" TIMEOUT 600)
+endfunction()
+
+hoxq_package_test(tst_bundles)
+target_link_libraries(tst_bundles PRIVATE Qt5::Svg ${CMAKE_DL_LIBS})
+target_compile_definitions(tst_bundles PRIVATE
+  HOXQ_LIBRARY="${stage}/${CMAKE_INSTALL_LIBDIR}/$<TARGET_SONAME_FILE_NAME:hoxqui>")
+# The library finds this program's qRegisterResourceData before the toolkit's.
+set_target_properties(tst_bundles PROPERTIES ENABLE_EXPORTS ON)
+
+get_property(forwards GLOBAL PROPERTY HOXQ_FORWARDS)
+foreach(forward IN LISTS forwards)
+  get_filename_component(class ${forward} NAME)
+  list(APPEND public_classes ${class})
+endforeach()
+list(SORT public_classes)
+list(JOIN public_classes " " public_classes)
+
+# The applications that the tests build are built as the library is.
+set(consumer_flags ${CMAKE_CXX_FLAGS})
+if(HOXQ_SANITIZE)
+  string(APPEND consumer_flags " -fsanitize=address,undefined")
+endif()
+
+add_library(packagesupport STATIC package/process.cpp package/process.h)
+hoxq_compile(packagesupport)
+target_include_directories(packagesupport PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+target_link_libraries(packagesupport PUBLIC Qt5::Core)
+target_compile_definitions(packagesupport PUBLIC
+  HOXQ_SOURCE="${PROJECT_SOURCE_DIR}" HOXQ_CONSUMER="${CMAKE_CURRENT_SOURCE_DIR}/consumer"
+  HOXQ_STAGE="${stage}" HOXQ_LIBDIR="${CMAKE_INSTALL_LIBDIR}" HOXQ_CLASSES="${public_classes}"
+  HOXQ_CMAKE="${CMAKE_COMMAND}" HOXQ_GENERATOR="${CMAKE_GENERATOR}"
+  HOXQ_COMPILER="${CMAKE_CXX_COMPILER}" HOXQ_LAUNCHER="${CMAKE_CXX_COMPILER_LAUNCHER}"
+  HOXQ_FLAGS="${consumer_flags}" HOXQ_NM="${CMAKE_NM}" HOXQ_READELF="${CMAKE_READELF}")
+
+foreach(name IN ITEMS tst_library tst_consumer tst_configuration)
+  hoxq_package_test(${name})
+  target_link_libraries(${name} PRIVATE packagesupport)
+endforeach()

@@ -1,0 +1,124 @@
+#include "package/process.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+QString inStage(const char *path)
+{
+    return QStringLiteral(HOXQ_STAGE "/") + QString::fromLatin1(path);
+}
+
+/// Of the compiler, so that the consumer is built as the library is.
+QStringList compilerFlags()
+{
+    return QStringLiteral(HOXQ_FLAGS).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+QStringList pkgConfig(const QString &what)
+{
+    const Finished result = run(QStringLiteral("pkg-config"), { what, QStringLiteral("hoxqui") },
+        QString(), { QStringLiteral("PKG_CONFIG_PATH=" HOXQ_STAGE "/" HOXQ_LIBDIR "/pkgconfig") });
+    return result.exit_code == 0 ? result.output.simplified().split(QLatin1Char(' '))
+                                 : QStringList();
+}
+
+/// Configures the application in \a folder with the \a version asked for.
+Finished configure(const QString &folder, const char *version)
+{
+    return run(QStringLiteral(HOXQ_CMAKE),
+        { QStringLiteral("-S" HOXQ_CONSUMER), QStringLiteral("-B"), folder,
+            QStringLiteral("-G" HOXQ_GENERATOR), QStringLiteral("-DCMAKE_PREFIX_PATH=" HOXQ_STAGE),
+            QStringLiteral("-DCMAKE_CXX_COMPILER=" HOXQ_COMPILER),
+            QStringLiteral("-DCMAKE_CXX_COMPILER_LAUNCHER=" HOXQ_LAUNCHER),
+            QStringLiteral("-DCMAKE_CXX_FLAGS=" HOXQ_FLAGS),
+            QStringLiteral("-DHOXQ_VERSION=") + QLatin1String(version) });
+}
+
+QStringList compile(const QStringList &arguments)
+{
+    QStringList command = QStringLiteral(HOXQ_LAUNCHER).split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    command << QStringLiteral(HOXQ_COMPILER) << QStringLiteral("-std=c++17")
+            << QStringLiteral("-fPIC") << QStringLiteral("-Wall") << QStringLiteral("-Wextra")
+            << QStringLiteral("-Wpedantic") << QStringLiteral("-Werror");
+    return command + compilerFlags() + arguments;
+}
+
+} // namespace
+
+class TestConsumer : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void findsThePackageWithCMake();
+    void findsThePackageWithPkgConfig();
+    void laterMajorVersionIsRefused();
+    void everyClassHasAForwardingHeader();
+
+private:
+    void verifyRuns(const QString &program, const QStringList &environment = QStringList());
+
+    QTemporaryDir m_dir;
+};
+
+void TestConsumer::verifyRuns(const QString &program, const QStringList &environment)
+{
+    const Finished result = run(program, QStringList(), QString(), environment);
+    const QString expected = QStringLiteral("10 mm are 80 px\ntext of 19 px\n#bedc00\n"
+                                            "icon of 80 x 80 px\nscreen is drawn\nbeep\nclicked\n");
+    QCOMPARE(QString(result.output).remove(QStringLiteral("hoxq.consumer: done\n")), expected);
+    QVERIFY(result.output.contains(QLatin1String("hoxq.consumer: done\n")));
+    QCOMPARE(result.exit_code, 0);
+}
+
+void TestConsumer::findsThePackageWithCMake()
+{
+    const QString folder = m_dir.filePath(QStringLiteral("cmake"));
+    const Finished configured = configure(folder, "1");
+    QVERIFY2(configured.exit_code == 0, qPrintable(configured.output));
+    const Finished built = run(QStringLiteral(HOXQ_CMAKE), { QStringLiteral("--build"), folder });
+    QVERIFY2(built.exit_code == 0, qPrintable(built.output));
+    verifyRuns(folder + QLatin1String("/consumer"));
+}
+
+void TestConsumer::findsThePackageWithPkgConfig()
+{
+    const QString program = m_dir.filePath(QStringLiteral("consumer"));
+    const QStringList command = compile(QStringList{ QStringLiteral(HOXQ_CONSUMER "/main.cpp") }
+        + pkgConfig(QStringLiteral("--cflags")) + pkgConfig(QStringLiteral("--libs"))
+        + QStringList{ QStringLiteral("-o"), program });
+    const Finished built = run(command.first(), command.mid(1));
+    QVERIFY2(built.exit_code == 0, qPrintable(built.output));
+    verifyRuns(program, { QStringLiteral("LD_LIBRARY_PATH=" HOXQ_STAGE "/" HOXQ_LIBDIR) });
+}
+
+void TestConsumer::laterMajorVersionIsRefused()
+{
+    const Finished result = configure(m_dir.filePath(QStringLiteral("later")), "2");
+    QVERIFY(result.exit_code != 0);
+    const QString refusal
+        = QStringLiteral("\"HoxqUi\" that is compatible with requested version \"2\"");
+    QVERIFY2(result.output.simplified().contains(refusal), qPrintable(result.output));
+}
+
+void TestConsumer::everyClassHasAForwardingHeader()
+{
+    const QStringList classes = QStringLiteral(HOXQ_CLASSES).split(QLatin1Char(' '));
+    QCOMPARE(QDir(inStage("include/hoxqui")).entryList(QDir::Files), classes);
+    QFile source(m_dir.filePath(QStringLiteral("all.cpp")));
+    QVERIFY(source.open(QIODevice::WriteOnly));
+    for (const QString &name : classes)
+        source.write(QStringLiteral("#include <%1>\n").arg(name).toUtf8());
+    source.close();
+    const QStringList command = compile(pkgConfig(QStringLiteral("--cflags"))
+        + QStringList{ QStringLiteral("-fsyntax-only"), source.fileName() });
+    const Finished result = run(command.first(), command.mid(1));
+    QVERIFY2(result.exit_code == 0, qPrintable(result.output));
+}
+
+QTEST_APPLESS_MAIN(TestConsumer)
+#include "tst_consumer.moc"

@@ -1,0 +1,117 @@
+#include "package/process.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <cxxabi.h>
+
+namespace {
+
+QString demangled(const QByteArray &symbol)
+{
+    int status = 0;
+    char *name = abi::__cxa_demangle(symbol.constData(), nullptr, nullptr, &status);
+    const QString readable = QString::fromLatin1(status == 0 ? name : symbol.constData());
+    free(name);
+    return readable;
+}
+
+/// The class of ours that a symbol belongs to ("vtable for vexo::util::StringUtil"), or empty.
+QString ownerOf(const QString &symbol)
+{
+    static const QRegularExpression ours(QStringLiteral(
+        "^(?:[a-z -]+ (?:for|to) )?vexo::(?:hox::qt::(?:ui|system)|util)::(\\w+)(.*)"));
+    const QRegularExpressionMatch match = ours.match(symbol);
+    return match.captured(2).startsWith(QLatin1Char('(')) ? QString() : match.captured(1);
+}
+
+/// Weak symbols of the toolkit's and the language's own templates, marks of the linker and what
+/// the sanitizer adds are nobody's interface.
+bool isForeign(const QString &symbol, QChar type)
+{
+    static const QRegularExpression marks(
+        QStringLiteral("^(_init|_fini|_edata|_end|__bss_start|__(odr_)?asan.*)$"));
+    const bool is_weak = QStringLiteral("WVu").contains(type);
+    const bool is_ours = !ownerOf(symbol).isEmpty() || symbol.startsWith(QLatin1String("vexo::"));
+    return marks.match(symbol).hasMatch() || (is_weak && !is_ours);
+}
+
+} // namespace
+
+class TestLibrary : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void exportsItsPublicClassesAndNothingElse_data();
+    void exportsItsPublicClassesAndNothingElse();
+    void hasItsVersionLinks_data();
+    void hasItsVersionLinks();
+
+private:
+    QString path(const QString &file) const { return m_folder.filePath(file); }
+
+    const QDir m_folder{ QStringLiteral(HOXQ_STAGE "/" HOXQ_LIBDIR) };
+};
+
+void TestLibrary::exportsItsPublicClassesAndNothingElse_data()
+{
+    const QString system = QStringLiteral("VexoLogging");
+    QStringList ui = QStringLiteral(HOXQ_CLASSES).split(QLatin1Char(' '));
+    QVERIFY(ui.removeOne(system));
+    for (const char *bundle : { "fonts", "stylesheets", "widgetimages" }) {
+        ui.append(QStringLiteral("qInitResources_%1()").arg(QLatin1String(bundle)));
+        ui.append(QStringLiteral("qCleanupResources_%1()").arg(QLatin1String(bundle)));
+    }
+    QTest::addColumn<QStringList>("interface");
+    QTest::newRow("libhoxqui.so") << ui;
+    QTest::newRow("libhoxqsystem.so") << QStringList(system);
+}
+
+void TestLibrary::exportsItsPublicClassesAndNothingElse()
+{
+    QFETCH(QStringList, interface);
+    const Finished nm = run(QStringLiteral(HOXQ_NM),
+        { QStringLiteral("-D"), QStringLiteral("--defined-only"), QStringLiteral("--format=posix"),
+            path(QString::fromLatin1(QTest::currentDataTag())) });
+    QVERIFY2(nm.exit_code == 0, qPrintable(nm.output));
+    QStringList missing = interface;
+    const QStringList lines = nm.output.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString &line : lines) {
+        const QString symbol = demangled(line.section(QLatin1Char(' '), 0, 0).toLatin1());
+        const QChar type = line.section(QLatin1Char(' '), 1, 1).at(0);
+        const QString owner = ownerOf(symbol).isEmpty() ? symbol : ownerOf(symbol);
+        missing.removeAll(owner);
+        QVERIFY2(interface.contains(owner) || isForeign(symbol, type), qPrintable(symbol));
+    }
+    QCOMPARE(missing, QStringList());
+}
+
+void TestLibrary::hasItsVersionLinks_data()
+{
+    QTest::addColumn<QString>("run_path");
+    QTest::newRow("libhoxqui.so") << QStringLiteral("[$ORIGIN]");
+    QTest::newRow("libhoxqsystem.so") << QString();
+}
+
+void TestLibrary::hasItsVersionLinks()
+{
+    const QString name = QString::fromLatin1(QTest::currentDataTag());
+    const QString version = name + QLatin1String(".1");
+    const QString file = version + QLatin1String(".0.0");
+    QCOMPARE(QFile::symLinkTarget(path(name)), path(version));
+    QCOMPARE(QFile::symLinkTarget(path(version)), path(file));
+    QVERIFY(QFileInfo(path(file)).isFile() && !QFileInfo(path(file)).isSymLink());
+
+    const Finished readelf
+        = run(QStringLiteral(HOXQ_READELF), { QStringLiteral("-dW"), path(name) });
+    static const QRegularExpression soname(QStringLiteral("\\(SONAME\\).*\\[(.*)\\]"));
+    static const QRegularExpression run_path(QStringLiteral("\\(R(?:UN)?PATH\\).*(\\[.*\\])"));
+    QCOMPARE(soname.match(readelf.output).captured(1), version);
+    QTEST(run_path.match(readelf.output).captured(1), "run_path");
+}
+
+QTEST_APPLESS_MAIN(TestLibrary)
+#include "tst_library.moc"
