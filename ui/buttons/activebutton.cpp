@@ -227,9 +227,23 @@ bool ActiveButton::showState(const QString &state)
     const QIcon *shown = inverse ? inverse : plain;
     if (!shown)
         return false;
-    setIcon(*shown);
+    showIcon(*shown);
     m_inverse_icon_state = state;
     return true;
+}
+
+void ActiveButton::showIcon(const QIcon &icon)
+{
+    if (m_icon_area.isNull()) {
+        setIcon(icon);
+        return;
+    }
+    // setIcon() itself would repaint the whole button.
+    const bool is_disabled = testAttribute(Qt::WA_UpdatesDisabled);
+    setAttribute(Qt::WA_UpdatesDisabled, true);
+    setIcon(icon);
+    setAttribute(Qt::WA_UpdatesDisabled, is_disabled);
+    update(m_icon_area);
 }
 
 void ActiveButton::showSteadily(const QString &state, const QIcon &icon)

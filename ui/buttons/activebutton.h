@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QIcon>
+#include <QRect>
 #include <QString>
 
 namespace vexo::hox::qt::ui {
@@ -55,9 +56,9 @@ public:
     /// Shows \a state1 now and makes it current, and shows \a state2 1000 ms later; state1 stays
     /// current. Without an icon for both nothing happens.
     virtual void oneShot(const QString &state1, const QString &state2);
-    /// Whether inverse icons are shown. Default false.
+    /// Whether the next state, tick or end of a one-shot shows inverse icons. Default false.
     virtual bool inverseState() const;
-    /// Becomes visible with the next state, tick or end of a one-shot.
+    /// Shows nothing by itself, see inverseState().
     virtual void setInverseState(bool inverse);
     /// Drops all icons and inverse icons and the files of the icons. What is shown stays.
     virtual void removeIcons();
@@ -102,12 +103,16 @@ protected:
     bool event(QEvent *event) override;
     void checkStateSet() override;
     void nextCheckState() override;
+    /// Where the subclass draws the icon; a tick of the blinking then repaints only there. Null,
+    /// the default: the whole button.
+    void setIconArea(const QRect &px) { m_icon_area = px; }
 
 private:
     enum class Mode { Steady, OneShot, FirstDue, SecondDue };
 
     bool hasIcons(const QString &state1, const QString &state2) const;
     bool showState(const QString &state);
+    void showIcon(const QIcon &icon);
     void showSteadily(const QString &state, const QIcon &icon);
     void forgetInverseIcon();
     void takeNameFromTooltip();
@@ -125,6 +130,7 @@ private:
     QTimer m_one_shot_timer;
     bool m_checked = false;
     bool m_inverse = false;
+    QRect m_icon_area; // px
     QString m_tooltip_name; // accessible name taken from the tooltip
 };
 

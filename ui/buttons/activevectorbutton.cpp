@@ -73,6 +73,8 @@ void ActiveVectorButton::setPxIconSize(const QSize &px)
 
 void ActiveVectorButton::updateSizeCalculations()
 {
+    if (m_mm_icon_width == 0.0 && m_mm_icon_height == 0.0)
+        m_px_icon_size = QSize(0, 0);
     rerenderAll(false);
     if (m_minimum_size != m_px_icon_size) {
         m_minimum_size = m_px_icon_size;

@@ -10,8 +10,9 @@ class ScalingInfo;
 
 /// An ActiveButton whose icons are rendered from vector or bitmap files at a size in mm. The size
 /// of the last icon made is the size in which icons are drawn, and the minimum size hint once a
-/// size was set. A dimension of 0 mm follows from the other one and the aspect ratio of the image;
-/// at 0 x 0 mm the button has no icons.
+/// size was set. With both dimensions above 0 an image of another shape is stretched; a dimension
+/// of 0 mm follows from the other one and the aspect ratio of the image; at 0 x 0 mm the button has
+/// no icons.
 class HOXQUI_EXPORT ActiveVectorButton : public ActiveButton
 {
     Q_OBJECT

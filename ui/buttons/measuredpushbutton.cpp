@@ -101,6 +101,8 @@ void MeasuredPushButton::mouseReleaseEvent(QMouseEvent *event)
         mouseReleaseEvent(elapsed);
     if (self)
         Q_EMIT keyPressHandling(elapsed, elapsed < m_long_press_ms, false);
+    if (!self)
+        event->accept(); // ignored beside the button; the toolkit would go on with the deleted one
 }
 
 void MeasuredPushButton::mouseReleaseEvent(unsigned int elapsed_ms)

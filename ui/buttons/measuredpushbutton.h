@@ -34,8 +34,8 @@ public:
 
     /// Calls \a slot (made with SLOT()) of \a receiver every \a interval_ms ms while the button is
     /// held, first one interval after the press, once enablePulse() allows it. The interval holds
-    /// for all connections, and each call adds one. 0 ms never pulses; a null receiver or slot
-    /// only sets the interval.
+    /// for all connections, and each call adds one. \a slot must be declared as a slot or signal.
+    /// 0 ms never pulses; a null receiver or slot only sets the interval.
     void pulse(unsigned int interval_ms, const QObject *receiver, const char *slot);
     /// Default false. Switching off stops a pulse at once, switching on acts at the next press.
     void enablePulse(bool enable);

@@ -14,20 +14,21 @@ namespace vexo::hox::qt::ui {
 /// The panel's large tile: a full-width button of fixed height with an icon, a main text (text())
 /// and a subtext in one line each. What does not fit is cut at the right edge. A checkable tile can
 /// have separate texts for on and off. While pressed or checked it is dark and shows the icon of
-/// "CLICKED", or without one the inverse of the current icon.
+/// "CLICKED", or without one the inverse of the current icon, unless
+/// ignore_background_dark_rendering is set.
 class HOXQUI_EXPORT VexoDesignVectorButton : public ActiveVectorButton
 {
     Q_OBJECT
 
     /// Second line; empty by default, then there is none.
     Q_PROPERTY(QString subtext MEMBER m_subtext WRITE setSubtext)
-    /// Texts of a checkable tile while checked and unchecked; used when all four are set.
+    /// Main text of a checkable tile while checked; the four texts are used when all are set.
     Q_PROPERTY(QString on_text READ onText WRITE setOnText)
-    /// See on_text.
+    /// Main text while unchecked, see on_text.
     Q_PROPERTY(QString off_text READ offText WRITE setOffText)
-    /// See on_text.
+    /// Subtext while checked, see on_text.
     Q_PROPERTY(QString on_subtext READ onSubtext WRITE setOnSubtext)
-    /// See on_text.
+    /// Subtext while unchecked, see on_text.
     Q_PROPERTY(QString off_subtext READ offSubtext WRITE setOffSubtext)
     /// Centre of the icon from the top left corner, mm. Default (6.25, 7.25).
     Q_PROPERTY(QPointF mm_icon_pos READ mmIconPos WRITE setMmIconPos)
@@ -40,7 +41,8 @@ class HOXQUI_EXPORT VexoDesignVectorButton : public ActiveVectorButton
     /// Ground of a dark tile. Default C4.
     Q_PROPERTY(
         QColor background_clicked_color READ backgroundClickedColor WRITE setBackgroundClickedColor)
-    /// What mustBackgroundBeRenderedPressed() asks. Default false.
+    /// What mustBackgroundBeRenderedPressed() answers for a checked tile, which is dark in any
+    /// case. Default false.
     Q_PROPERTY(bool dark_button_when_on READ darkButtonWhenOn WRITE setDarkButtonWhenOn)
     /// Keeps the tile light also while pressed or checked. Default false.
     Q_PROPERTY(bool ignore_background_dark_rendering MEMBER m_ignore_background_dark_rendering WRITE

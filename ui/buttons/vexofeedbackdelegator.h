@@ -24,9 +24,9 @@ public:
 public Q_SLOTS:
     /// A button was pressed.
     virtual void tone() = 0;
-    /// For applications; the library never calls it.
+    /// For applications; the library never calls it. May be empty.
     virtual void down() = 0;
-    /// For applications; the library never calls it.
+    /// As down().
     virtual void up() = 0;
 
 private:

@@ -1,11 +1,22 @@
 #include "ui/buttons/vexoiconbutton.h"
 
 #include <QMouseEvent>
-#include <QPainterPath>
+#include <QPainter>
 #include <QPointer>
-#include <QStylePainter>
+#include <QStyle>
+#include <QStyleOption>
+
+#include <utility>
 
 namespace vexo::hox::qt::ui {
+
+namespace {
+
+const QString DEFAULT = QStringLiteral("DEFAULT");
+const QString CLICKED = QStringLiteral("CLICKED");
+const QString INACTIVE = QStringLiteral("INACTIVE");
+
+} // namespace
 
 VexoIconButton::VexoIconButton(QWidget *parent)
     : ActiveVectorButton(parent)
@@ -23,6 +34,15 @@ void VexoIconButton::initialize(const QString &state)
         return;
     setState(state);
     m_is_initialized = true;
+}
+
+bool VexoIconButton::event(QEvent *event)
+{
+    // From now on the paint draws the styled background: the toolkit would do it with a painter of
+    // its own, which costs more than the rest of the paint.
+    if (event->type() == QEvent::Polish)
+        setAttribute(Qt::WA_StyledBackground, false);
+    return ActiveVectorButton::event(event);
 }
 
 void VexoIconButton::mouseReleaseEvent(QMouseEvent *event)
@@ -45,34 +65,72 @@ void VexoIconButton::mouseMoveEvent(QMouseEvent *event)
 
 void VexoIconButton::paintEvent(QPaintEvent *)
 {
-    QStylePainter painter(this);
+    QPainter painter(this);
+    drawStyledBackground(&painter);
     QIcon shown;
     if ((isChecked() || isDown()) && m_can_background_color_change) {
         shown = takePressedLook(&painter);
-    } else if (!isEnabled() && hasState(QLatin1String(INACTIVE_STATE_NAME))) {
-        shown = getStateIcon(QLatin1String(INACTIVE_STATE_NAME));
-        initialize(QLatin1String(INACTIVE_STATE_NAME));
+    } else if (!isEnabled() && hasState(INACTIVE)) {
+        shown = getStateIcon(INACTIVE);
+        initialize(INACTIVE);
     } else {
         shown = icon();
-        initialize(QLatin1String(DEFAULT_STATE_NAME));
+        initialize(DEFAULT);
     }
-    painter.drawItemPixmap(
-        rect(), Qt::AlignCenter, shown.pixmap(pxIconSize(), QIcon::Normal, QIcon::Off));
+    drawIcon(&painter, shown);
+}
+
+void VexoIconButton::drawStyledBackground(QPainter *painter)
+{
+    if (testAttribute(Qt::WA_StyledBackground))
+        return; // drawn already
+    QStyleOption option;
+    option.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_Widget, &option, painter, this);
 }
 
 QIcon VexoIconButton::takePressedLook(QPainter *painter)
 {
-    if (hasState(QLatin1String(CLICKED_STATE_NAME))) {
-        QIcon clicked_icon = getStateIcon(QLatin1String(CLICKED_STATE_NAME));
-        initialize(QLatin1String(CLICKED_STATE_NAME));
+    if (hasState(CLICKED)) {
+        QIcon clicked_icon = getStateIcon(CLICKED);
+        initialize(CLICKED);
         return clicked_icon;
     }
     QIcon inverse = inverseIcon();
-    QPainterPath outline;
-    outline.addRect(QRectF(rect()));
-    painter->drawPath(outline);
-    initialize(currentState().isEmpty() ? QLatin1String(DEFAULT_STATE_NAME) : currentState());
+    drawOutline(painter);
+    initialize(currentState().isEmpty() ? DEFAULT : currentState());
     return inverse;
+}
+
+// Of a rectangle as wide and high as the button the right and the lower line lie outside.
+void VexoIconButton::drawOutline(QPainter *painter) const
+{
+    const QColor color = painter->pen().color();
+    painter->fillRect(0, 0, width(), 1, color);
+    painter->fillRect(0, 0, 1, height(), color);
+}
+
+void VexoIconButton::drawIcon(QPainter *painter, const QIcon &icon)
+{
+    const QRect area
+        = QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, pxIconSize(), rect());
+    setIconArea(area.intersected(rect()));
+    const QPixmap pixmap = pixmapOf(icon);
+    if (!pixmap.isNull())
+        style()->drawItemPixmap(painter, rect(), Qt::AlignCenter, pixmap);
+}
+
+// An icon composes a key and searches a cache each time it is asked; the two of a blink are kept.
+QPixmap VexoIconButton::pixmapOf(const QIcon &icon)
+{
+    for (const Drawn &drawn : m_drawn) {
+        if (drawn.icon_key == icon.cacheKey() && drawn.px == pxIconSize())
+            return drawn.pixmap;
+    }
+    std::swap(m_drawn[0], m_drawn[1]);
+    m_drawn[0]
+        = { icon.cacheKey(), pxIconSize(), icon.pixmap(pxIconSize(), QIcon::Normal, QIcon::Off) };
+    return m_drawn[0].pixmap;
 }
 
 } // namespace vexo::hox::qt::ui

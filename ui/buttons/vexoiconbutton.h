@@ -3,12 +3,14 @@
 #include "ui/buttons/activevectorbutton.h"
 #include "ui/buttons/easyaccessbutton.h"
 
+#include <QPixmap>
+
 namespace vexo::hox::qt::ui {
 
 /// The panel's plain icon button: draws nothing but the icon of its state, centred. While pressed
 /// or checked it shows the icon of "CLICKED", or without one the inverse icon in a one-pixel
-/// outline; while disabled the icon of "INACTIVE" if there is one; otherwise "DEFAULT". A finger
-/// that slides up to 20 px off the button still clicks.
+/// outline on the ground as it is; while disabled the icon of "INACTIVE" if there is one; otherwise
+/// "DEFAULT". A finger that slides up to 20 px off the button still clicks.
 ///
 /// The paint itself sets the state that goes with the look. So another state that an application
 /// sets, and a blink started before the first paint, give way to "DEFAULT" at the next paint of a
@@ -30,16 +32,29 @@ public:
     void initialize(const QString &state);
 
 protected:
+    bool event(QEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     using ActiveVectorButton::mouseReleaseEvent;
     void mouseMoveEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    struct Drawn
+    {
+        qint64 icon_key;
+        QSize px;
+        QPixmap pixmap;
+    };
+
+    void drawStyledBackground(QPainter *painter);
     QIcon takePressedLook(QPainter *painter);
+    void drawOutline(QPainter *painter) const;
+    void drawIcon(QPainter *painter, const QIcon &icon);
+    QPixmap pixmapOf(const QIcon &icon);
 
     bool m_is_initialized = false;
     bool m_can_background_color_change = true;
+    Drawn m_drawn[2] = {}; // the pixmaps drawn last
 };
 
 } // namespace vexo::hox::qt::ui

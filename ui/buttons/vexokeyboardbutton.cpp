@@ -3,6 +3,7 @@
 #include "ui/foundation/cachedvectoricon.h"
 #include "ui/foundation/panelfont_p.h"
 
+#include <QFontMetrics>
 #include <QPainterPath>
 #include <QPixmapCache>
 #include <QStylePainter>
@@ -225,10 +226,12 @@ void VexoKeyboardButton::drawLabel(QPainter *painter, const QRect &cap, bool is_
         m_label.setText(text());
         m_label.setTextWidth(cap.width());
         m_label.prepare(QTransform(), m_button_font);
+        // A static text counts the leading of its last line, centred text does not.
+        m_label_height = m_label.size().height() - qMax(0, QFontMetrics(m_button_font).leading());
     }
     painter->setPen(is_dark ? m_text_clicked_color : m_text_color);
     painter->setFont(m_button_font);
-    const double top = cap.top() + (cap.height() - m_label.size().height()) / 2;
+    const double top = cap.top() + (cap.height() - m_label_height) / 2;
     painter->drawStaticText(QPointF(cap.left(), top), m_label);
 }
 

@@ -47,8 +47,8 @@ class HOXQUI_EXPORT VexoKeyboardButton : public ActiveButton
     /// Line under the cap. Default C5.
     Q_PROPERTY(QColor border_bottom_extra_color READ borderBottomExtraColor WRITE
             setBorderBottomExtraColor)
-    /// Draws top edge, corners and the line under the cap, which is 1 px shorter then. Default
-    /// true.
+    /// Despite its name: whether top edge, corners and the line under the cap are drawn; the cap is
+    /// 1 px shorter then. Default true.
     Q_PROPERTY(bool is_standard_border_drawing_disabled READ isStandardBorderDrawingDisabled WRITE
             setStandardBorderDrawingDisabled)
     /// Corner radius of the cap, mm. Default 0.7.
@@ -138,7 +138,8 @@ private:
     QSizeF m_common_icon_size_mm = QSizeF(0.0, 4.7);
     QPixmap m_cap; // as drawn last; null after a change of its look
     QColor m_cap_ground;
-    QStaticText m_label;
+    QStaticText m_label; // prepared for the text, font and width drawn last
+    double m_label_height = 0; // px
 };
 
 } // namespace vexo::hox::qt::ui

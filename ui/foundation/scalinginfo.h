@@ -56,8 +56,8 @@ public:
     /// nothing then.
     void recalculate();
 
-    /// Horizontal stretch in percent (for QFont::setStretch) that keeps the proportions of glyphs
-    /// on a screen with non-square pixels; 100 for square ones.
+    /// Horizontal stretch of fonts on a screen with non-square pixels, percent (for
+    /// QFont::setStretch): the vertical density over the horizontal one; 100 for square pixels.
     int fontStretch() const;
     /// Whether the process runs on a desktop processor and not on a panel's.
     static bool isDesktop();

@@ -16,7 +16,7 @@ public:
     /// Reads the file \a name and, if \a apply, calls set().
     explicit VexoStylesheet(const QString &name, bool apply = true);
     /// Reads the files in list order and, if \a apply, calls set(). Where two rules weigh the same,
-    /// the later file wins.
+    /// the later file wins, so the application's own comes last.
     explicit VexoStylesheet(const QStringList &names, bool apply = true);
 
     /// Appends the text of the file \a name, a full resource or file path. A file that does not

@@ -1,0 +1,295 @@
+#include "support/iconfiles.h"
+#include "support/paintcounter.h"
+#include "support/panelscale.h"
+#include "support/testcase.h"
+
+#include <VexoIconButton>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+#include <vector>
+
+using namespace vexo::hox::qt::ui;
+
+namespace {
+
+const QString DEFAULT = QLatin1String(ActiveButton::DEFAULT_STATE_NAME);
+const QString CLICKED = QLatin1String(ActiveButton::CLICKED_STATE_NAME);
+const QString INACTIVE = QLatin1String(ActiveButton::INACTIVE_STATE_NAME);
+const QColor GROUND(Qt::white);
+const QColor INK(Qt::magenta);
+
+/// Moves with the left button held and releases there; tells whether the release was accepted.
+bool moveAndRelease(QWidget *button, const QVector<QPoint> &moves)
+{
+    for (const QPoint &to : moves) {
+        QMouseEvent move(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(button, &move);
+    }
+    QMouseEvent release(QEvent::MouseButtonRelease, moves.last(), Qt::LeftButton, {}, {});
+    QApplication::sendEvent(button, &release);
+    return release.isAccepted();
+}
+
+class Hooked : public VexoIconButton
+{
+public:
+    void setState(const QString &state) override
+    {
+        states += state;
+        VexoIconButton::setState(state);
+    }
+
+    QStringList states;
+    int releases = 0;
+
+protected:
+    using VexoIconButton::mouseReleaseEvent;
+    void mouseReleaseEvent(unsigned int) override { ++releases; }
+};
+
+} // namespace
+
+class TestVexoIconButton : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsTheIconOfItsLook_data();
+    void showsTheIconOfItsLook();
+    void paintSetsTheStateThatDiffers();
+    void paintsSettle();
+    void tickRepaintsOnlyWhatBlinks();
+    void easyAccessClicksBesideTheButton_data();
+    void easyAccessClicksBesideTheButton();
+    void mayBeDeletedByAReleaseBeside();
+    void isAnEasyAccessButton();
+    void serviceableWithoutTouch();
+
+private:
+    const IconFiles m_files;
+};
+
+void TestVexoIconButton::showsTheIconOfItsLook_data()
+{
+    QTest::addColumn<QByteArray>("look"); // of a button whose DEFAULT icon is red
+    QTest::addColumn<QStringList>("states"); // CLICKED is green, INACTIVE is blue
+    QTest::addColumn<QColor>("icon");
+    QTest::addColumn<bool>("outlined");
+    QTest::addColumn<QString>("state");
+    const QStringList none;
+    const QStringList all{ CLICKED, INACTIVE };
+    const QColor red(Qt::red);
+    const QColor green(Qt::green);
+    const QColor cyan(Qt::cyan);
+    QTest::newRow("up") << QByteArray() << all << red << false << DEFAULT;
+    QTest::newRow("pressed") << QByteArray("down") << all << green << false << CLICKED;
+    QTest::newRow("on") << QByteArray("on") << all << green << false << CLICKED;
+    QTest::newRow("pressed, inverse") << QByteArray("down") << none << cyan << true << DEFAULT;
+    QTest::newRow("on, inverse") << QByteArray("on") << none << cyan << true << DEFAULT;
+    QTest::newRow("look kept") << QByteArray("down kept") << all << red << false << DEFAULT;
+    QTest::newRow("off") << QByteArray("off") << all << QColor(Qt::blue) << false << INACTIVE;
+    QTest::newRow("off without icon") << QByteArray("off") << none << red << false << DEFAULT;
+    QTest::newRow("off and on") << QByteArray("off on") << all << green << false << CLICKED;
+}
+
+void TestVexoIconButton::showsTheIconOfItsLook()
+{
+    QFETCH(QByteArray, look);
+    QFETCH(QStringList, states);
+    QFETCH(QColor, icon);
+    QFETCH(bool, outlined);
+    const PanelScale scale(10, 20);
+    VexoIconButton button;
+    QPalette palette(GROUND, GROUND);
+    palette.setColor(QPalette::ButtonText, INK);
+    button.setPalette(palette);
+    button.resize(140, 220);
+    button.setText(QStringLiteral("never drawn"));
+    button.addIcon(DEFAULT, m_files.svg(Qt::red));
+    for (const QString &state : qAsConst(states))
+        button.addIcon(state, m_files.svg(state == CLICKED ? Qt::green : Qt::blue));
+    button.createMissingInverseIcons();
+    button.setCanChangeBackgroundColor(!look.contains("kept"));
+    button.setCheckable(true);
+    button.setDown(look.contains("down"));
+    button.setEnabled(!look.contains("off"));
+    button.setChecked(look.contains("on"));
+    button.grab();
+    const QImage image = button.grab().toImage();
+    QCOMPARE(boxOf(image, icon), QRect(20, 10, 100, 200)); // 10 x 10 mm
+    QCOMPARE(image.pixelColor(70, 110), icon);
+    QCOMPARE(image.pixelColor(50, 0), outlined ? INK : GROUND);
+    QCOMPARE(image.pixelColor(0, 50), outlined ? INK : GROUND);
+    QCOMPARE(image.pixelColor(1, 1), GROUND);
+    QTEST(button.currentState(), "state");
+}
+
+void TestVexoIconButton::paintSetsTheStateThatDiffers()
+{
+    const PanelScale scale(10, 10);
+    Hooked button;
+    button.addIcon(DEFAULT, m_files.svg(Qt::red));
+    button.addIcon(QStringLiteral("A"), m_files.svg(Qt::green));
+    button.grab();
+    QCOMPARE(button.states, QStringList{ DEFAULT }); // the first time in any case
+    button.grab();
+    QCOMPARE(button.states.size(), 1);
+    button.setState(QStringLiteral("A"));
+    QVERIFY(!boxOf(button.grab().toImage(), Qt::green).isEmpty()); // what was shown as it began
+    QCOMPARE(button.states, (QStringList{ DEFAULT, QStringLiteral("A"), DEFAULT }));
+    QVERIFY(!boxOf(button.grab().toImage(), Qt::red).isEmpty());
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QCOMPARE(button.releases, 1);
+}
+
+void TestVexoIconButton::paintsSettle()
+{
+    for (const QString &pressed_state : { CLICKED, QStringLiteral("other") }) {
+        VexoIconButton button;
+        PaintCounter paints;
+        paints.watch(&button);
+        const auto settles = [&] {
+            const int count = paints.take(&button);
+            return count >= 1 && count <= 2 && paints.take(&button) == 0;
+        };
+        button.addIcon(DEFAULT, m_files.svg(Qt::red));
+        button.addIcon(INACTIVE, m_files.svg(Qt::blue));
+        button.addIcon(pressed_state, m_files.svg(Qt::green));
+        button.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&button));
+        paints.take(&button);
+        QCOMPARE(paints.take(&button), 0);
+        QTest::mousePress(&button, Qt::LeftButton);
+        QVERIFY(settles());
+        QTest::mouseRelease(&button, Qt::LeftButton);
+        QVERIFY(settles());
+        button.setEnabled(false);
+        QVERIFY(settles());
+    }
+}
+
+void TestVexoIconButton::tickRepaintsOnlyWhatBlinks()
+{
+    const int blinking = 40;
+    const int all = 240;
+    const int ticks = 10;
+    QTimer timer;
+    QWidget window;
+    PaintCounter paints;
+    std::vector<std::unique_ptr<VexoIconButton>> buttons;
+    for (int i = 0; i < all; ++i) {
+        buttons.push_back(std::make_unique<VexoIconButton>(&window));
+        VexoIconButton *button = buttons.back().get();
+        button->setGeometry(i % 20 * 10, i / 20 * 10, 10, 10); // side by side
+        button->setPxIconSize(QSize(8, 8));
+        button->addIcon(DEFAULT, m_files.svg(Qt::red));
+        button->addIcon(CLICKED, m_files.svg(Qt::green));
+        button->setTimer(&timer);
+        button->setCheckable(true);
+        button->setChecked(i % 3 == 0 && i >= blinking);
+        paints.watch(button);
+    }
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    paints.take(&window); // a blink that is set before the first paint ends with it
+    for (int i = 0; i < blinking; ++i)
+        buttons[size_t(i)]->blink(DEFAULT, CLICKED);
+    for (const auto &button : buttons)
+        paints.take(button.get());
+    for (int i = 0; i < ticks; ++i) {
+        QVERIFY(QMetaObject::invokeMethod(&timer, "timeout"));
+        paints.take(&window);
+    }
+    for (int i = 0; i < all; ++i)
+        QCOMPARE(paints.take(buttons[size_t(i)].get()), i < blinking ? ticks : 0);
+}
+
+void TestVexoIconButton::easyAccessClicksBesideTheButton_data()
+{
+    QTest::addColumn<QVector<QPoint>>("moves"); // on a button of 100 x 50 px
+    QTest::addColumn<bool>("is_click");
+    QTest::addColumn<bool>("toggles");
+    QTest::newRow("right of it") << QVector<QPoint>{ { 110, 25 } } << true << false;
+    QTest::newRow("too far below") << QVector<QPoint>{ { 50, 80 } } << false << false;
+    QTest::newRow("off and back inside")
+        << QVector<QPoint>{ { 110, 25 }, { 90, 25 } } << true << true;
+}
+
+void TestVexoIconButton::easyAccessClicksBesideTheButton()
+{
+    QFETCH(QVector<QPoint>, moves);
+    QFETCH(bool, is_click);
+    QFETCH(bool, toggles);
+    VexoIconButton button;
+    button.resize(100, 50);
+    button.setCheckable(true);
+    QSignalSpy clicks(&button, &QAbstractButton::clicked);
+    QTest::mousePress(&button, Qt::LeftButton);
+    moveAndRelease(&button, moves);
+    const QList<QVariantList> one{ { toggles } };
+    QCOMPARE(clicks, is_click ? one : QList<QVariantList>());
+    QCOMPARE(button.isChecked(), toggles);
+    QVERIFY(!button.isDown());
+    QTest::mousePress(&button, Qt::LeftButton); // forgets the moves of the last one
+    QTest::mouseRelease(&button, Qt::LeftButton, {}, QPoint(110, 25));
+    QCOMPARE(clicks.count(), is_click ? 1 : 0);
+}
+
+void TestVexoIconButton::mayBeDeletedByAReleaseBeside()
+{
+    for (bool in_click : { true, false }) {
+        QWidget window;
+        const QPointer<VexoIconButton> button = new VexoIconButton(&window);
+        button->resize(100, 50);
+        const auto kill = [button] { delete button; };
+        if (in_click)
+            connect(button, &QAbstractButton::clicked, this, kill);
+        else
+            connect(button, &MeasuredPushButton::keyPressHandling, this, kill);
+        QTest::mousePress(button, Qt::LeftButton);
+        QVERIFY(moveAndRelease(button, { QPoint(110, 25) })); // else the toolkit goes on with it
+        QVERIFY(!button);
+    }
+}
+
+void TestVexoIconButton::isAnEasyAccessButton()
+{
+    VexoIconButton button;
+    QCOMPARE(button.qt_metacast("EasyAccessButton"),
+        static_cast<void *>(static_cast<EasyAccessButton *>(&button)));
+    for (const char *name :
+        { "VexoIconButton", "ActiveVectorButton", "ActiveButton", "MeasuredPushButton" }) {
+        const QByteArray full_name = QByteArray("vexo::hox::qt::ui::") + name;
+        QCOMPARE(button.qt_metacast(full_name), static_cast<void *>(&button));
+    }
+}
+
+void TestVexoIconButton::serviceableWithoutTouch()
+{
+    QWidget window;
+    VexoIconButton button(&window);
+    button.setCheckable(true);
+    button.setToolTip(QStringLiteral("Mute"));
+    button.setFocusPolicy(Qt::StrongFocus);
+    QSignalSpy clicks(&button, &QAbstractButton::clicked);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    button.setFocus();
+    QTest::keyClick(window.windowHandle(), Qt::Key_Space);
+    QCOMPARE(clicks.count(), 1);
+    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&button);
+    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Mute"));
+    QCOMPARE(interface->role(), QAccessible::CheckBox);
+    QVERIFY(interface->state().checked);
+}
+
+QTEST_MAIN(TestVexoIconButton)
+#include "tst_vexoiconbutton.moc"
