@@ -1,5 +1,3 @@
-#include "docs/snippets.h"
-
 //! [page]
 #include <ActiveButton>
 #include <ScalingInfo>

@@ -1,5 +1,3 @@
-#include "docs/snippets.h"
-
 //! [page]
 #include <ActiveVectorButton>
 

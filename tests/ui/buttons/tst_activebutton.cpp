@@ -96,18 +96,12 @@ class TestActiveButton : public TestCase
 
 private Q_SLOTS:
     void defaultIconIsShownWhenAdded();
-    void addedAgainIconWaitsForRerendering();
-    void unknownStateIsIgnored();
-    void inverseFlagPicksTheInverseIcon();
-    void stateWithOnlyAnInverseIconIsNotShown();
     void removedIconsStayOnScreen();
     void generatedIconInvertsColoursAndKeepsAlpha();
-    void missingInverseIconsAreGenerated();
     void hooksAreCalledThroughTheVirtualTable();
     void toggleIsReportedOnce_data();
     void toggleIsReportedOnce();
     void blinkAlternatesInStep();
-    void blinkFollowsTheInverseFlag();
     void blinkNeedsBothIcons();
     void tickWithoutIconLeavesThePhase();
     void oneShotEndsOnTheSecondIcon();
@@ -129,61 +123,6 @@ void TestActiveButton::defaultIconIsShownWhenAdded()
     QCOMPARE(colorOf(button.icon()), GREEN);
     QCOMPARE(button.currentState(), DEFAULT);
     QVERIFY(!button.hasState(QStringLiteral("default")));
-}
-
-void TestActiveButton::addedAgainIconWaitsForRerendering()
-{
-    Button button;
-    button.addIcon(A, RED);
-    button.addIcon(A, BLUE);
-    QCOMPARE(colorOf(button.getStateIcon(A)), RED);
-    button.setState(A);
-    button.rerenderAll(false);
-    QCOMPARE(colorOf(button.getStateIcon(A)), BLUE);
-    QCOMPARE(colorOf(button.icon()), BLUE);
-    button.addInverseIcon(A, GREEN);
-    button.addInverseIcon(A, DARK); // an inverse icon is replaced at once
-    QCOMPARE(colorOf(*button.getInverseIconObject(A)), DARK);
-}
-
-void TestActiveButton::unknownStateIsIgnored()
-{
-    Button button;
-    addStates(&button);
-    button.setState(A);
-    button.setState(QStringLiteral("a"));
-    QCOMPARE(button.currentState(), A);
-    QCOMPARE(colorOf(button.icon()), RED);
-    QVERIFY(button.getStateIcon(QStringLiteral("a")).isNull());
-    QVERIFY(!button.getInverseIconObject(QStringLiteral("a")));
-}
-
-void TestActiveButton::inverseFlagPicksTheInverseIcon()
-{
-    Button button;
-    addStates(&button);
-    button.addInverseIcon(A, DARK);
-    button.setState(A);
-    button.setInverseState(true);
-    QCOMPARE(colorOf(button.icon()), RED); // nothing changes by itself
-    button.setState(A);
-    QCOMPARE(colorOf(button.icon()), DARK);
-    button.setState(B);
-    QCOMPARE(colorOf(button.icon()), GREEN);
-    QCOMPARE(colorOf(button.inverseIcon()), GREEN);
-}
-
-void TestActiveButton::stateWithOnlyAnInverseIconIsNotShown()
-{
-    Button button;
-    button.addIcon(B, GREEN);
-    button.addInverseIcon(A, DARK);
-    button.setState(B);
-    QVERIFY(!button.hasState(A));
-    button.setState(A);
-    QCOMPARE(button.currentState(), A);
-    QCOMPARE(colorOf(button.icon()), GREEN);
-    QCOMPARE(colorOf(button.inverseIcon()), DARK);
 }
 
 void TestActiveButton::removedIconsStayOnScreen()
@@ -218,20 +157,6 @@ void TestActiveButton::generatedIconInvertsColoursAndKeepsAlpha()
     QCOMPARE(inverse.pixelColor(0, 0), QColor(195, 195, 195));
     QCOMPARE(inverse.pixelColor(1, 0).alpha(), 0);
     QCOMPARE(inverse.pixelColor(2, 0), QColor(0, 255, 255, 128));
-}
-
-void TestActiveButton::missingInverseIconsAreGenerated()
-{
-    Button button;
-    addStates(&button);
-    button.addInverseIcon(A, DARK);
-    button.addInverseIcon(B, DARK);
-    button.removeIcon(B); // the file of its inverse icon stays known
-    button.addIcon(B, GREEN);
-    button.createMissingInverseIcons();
-    QCOMPARE(colorOf(*button.getInverseIconObject(A)), DARK);
-    QCOMPARE(colorOf(*button.getInverseIconObject(B)), GREEN);
-    QCOMPARE(colorOf(*button.getInverseIconObject(C)), QStringLiteral("#ffff00"));
 }
 
 void TestActiveButton::hooksAreCalledThroughTheVirtualTable()
@@ -320,23 +245,6 @@ void TestActiveButton::blinkAlternatesInStep()
     tick(&timer);
     tick(&timer);
     QCOMPARE(colorOf(left.icon()), BLUE);
-}
-
-void TestActiveButton::blinkFollowsTheInverseFlag()
-{
-    Button button;
-    addStates(&button);
-    button.addInverseIcon(A, DARK);
-    button.setState(C);
-    button.setInverseState(true);
-    button.blink(A, B); // B has no inverse icon
-    QCOMPARE(colorOf(button.icon()), DARK);
-    QCOMPARE(colorOf(button.inverseIcon()), DARK);
-    button.timerEvent();
-    QCOMPARE(colorOf(button.icon()), GREEN);
-    button.setInverseState(false);
-    button.timerEvent();
-    QCOMPARE(colorOf(button.icon()), RED);
 }
 
 void TestActiveButton::blinkNeedsBothIcons()
