@@ -45,6 +45,7 @@ int main(int argc, char **argv)
     bench::addConversions();
     bench::addIcons();
     bench::addButtons();
+    bench::addActiveButtons();
     LineReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return 0;

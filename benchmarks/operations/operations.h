@@ -9,6 +9,7 @@
 
 namespace bench {
 
+void addActiveButtons();
 void addButtons();
 void addConversions();
 void addIcons();
