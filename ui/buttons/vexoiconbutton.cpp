@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPicture>
 #include <QPointer>
 #include <QStyle>
 #include <QStyleOption>
@@ -38,10 +39,20 @@ void VexoIconButton::initialize(const QString &state)
 
 bool VexoIconButton::event(QEvent *event)
 {
-    // From now on the paint draws the styled background: the toolkit would do it with a painter of
-    // its own, which costs more than the rest of the paint.
-    if (event->type() == QEvent::Polish)
+    switch (event->type()) {
+    case QEvent::Polish:
+        // From now on the paint draws the styled background: the toolkit would do it with a
+        // painter of its own, which costs more than the rest of the paint.
         setAttribute(Qt::WA_StyledBackground, false);
+        Q_FALLTHROUGH();
+    case QEvent::StyleChange:
+    case QEvent::PaletteChange:
+    case QEvent::DynamicPropertyChange:
+        m_probed_looks = 0;
+        break;
+    default:
+        break;
+    }
     return ActiveVectorButton::event(event);
 }
 
@@ -84,9 +95,39 @@ void VexoIconButton::drawStyledBackground(QPainter *painter)
 {
     if (testAttribute(Qt::WA_StyledBackground))
         return; // drawn already
+    const quint64 look = quint64(1) << lookOfNow();
+    if (m_probed_looks & look & ~m_styled_looks)
+        return;
     QStyleOption option;
     option.initFrom(this);
-    style()->drawPrimitive(QStyle::PE_Widget, &option, painter, this);
+    if (!(m_probed_looks & look)) {
+        m_probed_looks |= look;
+        const bool is_styled = drawsStyledBackground(option);
+        m_styled_looks = is_styled ? m_styled_looks | look : m_styled_looks & ~look;
+    }
+    if (m_styled_looks & look)
+        style()->drawPrimitive(QStyle::PE_Widget, &option, painter, this);
+}
+
+// By what a stylesheet can tell looks apart, as a number below 32. Pressed is not told here: the
+// toolkit does not tell it for a background either.
+int VexoIconButton::lookOfNow() const
+{
+    int look = 0;
+    for (const bool is_set :
+        { isEnabled(), underMouse(), hasFocus(), isActiveWindow(), isChecked() })
+        look = look * 2 + is_set;
+    return look;
+}
+
+// Most sheets have no rule for the background, yet asking them costs at each paint.
+bool VexoIconButton::drawsStyledBackground(const QStyleOption &option) const
+{
+    QPicture probe;
+    QPainter painter(&probe);
+    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+    painter.end();
+    return !probe.boundingRect().isEmpty();
 }
 
 QIcon VexoIconButton::takePressedLook(QPainter *painter)

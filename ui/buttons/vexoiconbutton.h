@@ -5,6 +5,8 @@
 
 #include <QPixmap>
 
+class QStyleOption;
+
 namespace vexo::hox::qt::ui {
 
 /// The panel's plain icon button: draws nothing but the icon of its state, centred. While pressed
@@ -47,6 +49,8 @@ private:
     };
 
     void drawStyledBackground(QPainter *painter);
+    int lookOfNow() const;
+    bool drawsStyledBackground(const QStyleOption &option) const;
     QIcon takePressedLook(QPainter *painter);
     void drawOutline(QPainter *painter) const;
     void drawIcon(QPainter *painter, const QIcon &icon);
@@ -55,6 +59,8 @@ private:
     bool m_is_initialized = false;
     bool m_can_background_color_change = true;
     Drawn m_drawn[2] = {}; // the pixmaps drawn last
+    quint64 m_probed_looks = 0; // a bit per look for which the next field is known
+    quint64 m_styled_looks = 0; // a bit per look in which a stylesheet draws a background
 };
 
 } // namespace vexo::hox::qt::ui
