@@ -95,15 +95,12 @@ class TestActiveButton : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void defaultIconIsShownWhenAdded();
-    void removedIconsStayOnScreen();
     void generatedIconInvertsColoursAndKeepsAlpha();
     void hooksAreCalledThroughTheVirtualTable();
     void toggleIsReportedOnce_data();
     void toggleIsReportedOnce();
     void blinkAlternatesInStep();
     void blinkNeedsBothIcons();
-    void tickWithoutIconLeavesThePhase();
     void oneShotEndsOnTheSecondIcon();
     void oneShotAgainRestartsTheSecond();
     void oneShotEndIsCancelled_data();
@@ -111,37 +108,6 @@ private Q_SLOTS:
     void nullTimerAndDeletedTimerAreHarmless();
     void isNamedForAssistiveTechnology();
 };
-
-void TestActiveButton::defaultIconIsShownWhenAdded()
-{
-    Button button;
-    QCOMPARE(button.focusPolicy(), Qt::NoFocus);
-    button.addIcon(A, RED);
-    QVERIFY(button.icon().isNull());
-    QCOMPARE(button.currentState(), QString());
-    button.addIcon(DEFAULT, GREEN);
-    QCOMPARE(colorOf(button.icon()), GREEN);
-    QCOMPARE(button.currentState(), DEFAULT);
-    QVERIFY(!button.hasState(QStringLiteral("default")));
-}
-
-void TestActiveButton::removedIconsStayOnScreen()
-{
-    Button button;
-    addStates(&button);
-    button.addInverseIcon(A, DARK);
-    button.setState(A);
-    button.removeIcon(A);
-    QVERIFY(!button.hasState(A));
-    QVERIFY(button.hasState(B));
-    button.removeIcons();
-    QCOMPARE(button.currentState(), A);
-    QCOMPARE(colorOf(button.icon()), RED);
-    QVERIFY(button.inverseIcon().isNull());
-    button.rerenderAll(true); // only files of inverse icons are still known
-    QVERIFY(!button.hasState(A));
-    QCOMPARE(colorOf(button.inverseIcon()), DARK);
-}
 
 void TestActiveButton::generatedIconInvertsColoursAndKeepsAlpha()
 {
@@ -264,20 +230,6 @@ void TestActiveButton::blinkNeedsBothIcons()
     QCOMPARE(messages.lines(), expected);
     QCOMPARE(colorOf(button.icon()), RED);
     QCOMPARE(button.currentState(), A);
-}
-
-void TestActiveButton::tickWithoutIconLeavesThePhase()
-{
-    Button button;
-    addStates(&button);
-    button.blink(A, B);
-    button.removeIcon(B);
-    button.timerEvent();
-    button.timerEvent();
-    QCOMPARE(colorOf(button.icon()), RED);
-    button.addIcon(B, BLUE);
-    button.timerEvent();
-    QCOMPARE(colorOf(button.icon()), BLUE);
 }
 
 void TestActiveButton::oneShotEndsOnTheSecondIcon()

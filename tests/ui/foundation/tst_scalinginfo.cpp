@@ -55,7 +55,6 @@ void TestScalingInfo::stretchesFontsByTheShapeOfAPixel_data()
     QTest::addColumn<int>("percent");
     QTest::newRow("square") << 5.0 << 100;
     QTest::newRow("higher density along y") << 6.0 << 120;
-    QTest::newRow("lower density along y") << 4.0 << 80;
     QTest::newRow("rounded up") << 5.48 << 110;
     QTest::newRow("rounded down") << 5.47 << 109;
 }
