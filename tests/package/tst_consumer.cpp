@@ -7,17 +7,6 @@
 
 namespace {
 
-QString inStage(const char *path)
-{
-    return QStringLiteral(HOXQ_STAGE "/") + QString::fromLatin1(path);
-}
-
-/// Of the compiler, so that the consumer is built as the library is.
-QStringList compilerFlags()
-{
-    return QStringLiteral(HOXQ_FLAGS).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
 QStringList pkgConfig(const QString &what)
 {
     const Finished result = run(QStringLiteral("pkg-config"), { what, QStringLiteral("hoxqui") },
@@ -38,13 +27,15 @@ Finished configure(const QString &folder, const char *version)
             QStringLiteral("-DHOXQ_VERSION=") + QLatin1String(version) });
 }
 
-QStringList compile(const QStringList &arguments)
+/// Compiles as the library is compiled.
+Finished compile(const QStringList &arguments)
 {
-    QStringList command = QStringLiteral(HOXQ_LAUNCHER).split(QLatin1Char(';'), Qt::SkipEmptyParts);
-    command << QStringLiteral(HOXQ_COMPILER) << QStringLiteral("-std=c++17")
-            << QStringLiteral("-fPIC") << QStringLiteral("-Wall") << QStringLiteral("-Wextra")
-            << QStringLiteral("-Wpedantic") << QStringLiteral("-Werror");
-    return command + compilerFlags() + arguments;
+    const QString command = QStringLiteral(HOXQ_LAUNCHER ";" HOXQ_COMPILER ";");
+    const QString flags = QStringLiteral("-std=c++17 -fPIC -Wall -Wextra -Wpedantic -Werror ");
+    const QStringList words = command.split(QLatin1Char(';'), Qt::SkipEmptyParts)
+        + (flags + QStringLiteral(HOXQ_FLAGS)).split(QLatin1Char(' '), Qt::SkipEmptyParts)
+        + pkgConfig(QStringLiteral("--cflags")) + arguments;
+    return run(words.first(), words.mid(1));
 }
 
 } // namespace
@@ -88,10 +79,9 @@ void TestConsumer::findsThePackageWithCMake()
 void TestConsumer::findsThePackageWithPkgConfig()
 {
     const QString program = m_dir.filePath(QStringLiteral("consumer"));
-    const QStringList command = compile(QStringList{ QStringLiteral(HOXQ_CONSUMER "/main.cpp") }
-        + pkgConfig(QStringLiteral("--cflags")) + pkgConfig(QStringLiteral("--libs"))
-        + QStringList{ QStringLiteral("-o"), program });
-    const Finished built = run(command.first(), command.mid(1));
+    const Finished built = compile(
+        QStringList{ QStringLiteral(HOXQ_CONSUMER "/main.cpp"), QStringLiteral("-o"), program }
+        + pkgConfig(QStringLiteral("--libs")));
     QVERIFY2(built.exit_code == 0, qPrintable(built.output));
     verifyRuns(program, { QStringLiteral("LD_LIBRARY_PATH=" HOXQ_STAGE "/" HOXQ_LIBDIR) });
 }
@@ -108,15 +98,13 @@ void TestConsumer::laterMajorVersionIsRefused()
 void TestConsumer::everyClassHasAForwardingHeader()
 {
     const QStringList classes = QStringLiteral(HOXQ_CLASSES).split(QLatin1Char(' '));
-    QCOMPARE(QDir(inStage("include/hoxqui")).entryList(QDir::Files), classes);
+    QCOMPARE(QDir(QStringLiteral(HOXQ_STAGE "/include/hoxqui")).entryList(QDir::Files), classes);
     QFile source(m_dir.filePath(QStringLiteral("all.cpp")));
     QVERIFY(source.open(QIODevice::WriteOnly));
     for (const QString &name : classes)
         source.write(QStringLiteral("#include <%1>\n").arg(name).toUtf8());
     source.close();
-    const QStringList command = compile(pkgConfig(QStringLiteral("--cflags"))
-        + QStringList{ QStringLiteral("-fsyntax-only"), source.fileName() });
-    const Finished result = run(command.first(), command.mid(1));
+    const Finished result = compile({ QStringLiteral("-fsyntax-only"), source.fileName() });
     QVERIFY2(result.exit_code == 0, qPrintable(result.output));
 }
 

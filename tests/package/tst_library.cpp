@@ -1,7 +1,6 @@
 #include "package/process.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -47,8 +46,8 @@ class TestLibrary : public QObject
 private Q_SLOTS:
     void exportsItsPublicClassesAndNothingElse_data();
     void exportsItsPublicClassesAndNothingElse();
-    void hasItsVersionLinks_data();
-    void hasItsVersionLinks();
+    void hasItsVersionAndFindsItsNeighbour_data();
+    void hasItsVersionAndFindsItsNeighbour();
 
 private:
     QString path(const QString &file) const { return m_folder.filePath(file); }
@@ -89,22 +88,18 @@ void TestLibrary::exportsItsPublicClassesAndNothingElse()
     QCOMPARE(missing, QStringList());
 }
 
-void TestLibrary::hasItsVersionLinks_data()
+void TestLibrary::hasItsVersionAndFindsItsNeighbour_data()
 {
     QTest::addColumn<QString>("run_path");
     QTest::newRow("libhoxqui.so") << QStringLiteral("[$ORIGIN]");
     QTest::newRow("libhoxqsystem.so") << QString();
 }
 
-void TestLibrary::hasItsVersionLinks()
+void TestLibrary::hasItsVersionAndFindsItsNeighbour()
 {
     const QString name = QString::fromLatin1(QTest::currentDataTag());
     const QString version = name + QLatin1String(".1");
-    const QString file = version + QLatin1String(".0.0");
-    QCOMPARE(QFile::symLinkTarget(path(name)), path(version));
-    QCOMPARE(QFile::symLinkTarget(path(version)), path(file));
-    QVERIFY(QFileInfo(path(file)).isFile() && !QFileInfo(path(file)).isSymLink());
-
+    QVERIFY(QFile::symLinkTarget(path(version)).endsWith(version + QLatin1String(".0.0")));
     const Finished readelf
         = run(QStringLiteral(HOXQ_READELF), { QStringLiteral("-dW"), path(name) });
     static const QRegularExpression soname(QStringLiteral("\\(SONAME\\).*\\[(.*)\\]"));

@@ -1,25 +1,35 @@
 #pragma once
 
 #include <QColor>
+#include <QDateTime>
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
-#include <QTextStream>
 
-/// SVG files of one colour each, which are gone with this object.
+/// Files that are gone with this object.
 class IconFiles
 {
 public:
-    QString svg(const QColor &color, const QSize &view_box = QSize(10, 10)) const
+    QString path(const QString &name) const { return m_dir.filePath(name); }
+
+    /// A file that changed lately is not cached.
+    QString write(const QString &name, const QByteArray &bytes, int age_s = 0) const
     {
-        const QString name = QStringLiteral("%1-%2.svg").arg(color.rgb()).arg(view_box.width());
-        QFile file(m_dir.filePath(name));
-        if (!file.open(QIODevice::WriteOnly))
-            return QString();
-        QTextStream(&file) << "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 "
-                           << view_box.width() << ' ' << view_box.height()
-                           << "'><path d='M0 0H99V99H0z' fill='" << color.name() << "'/></svg>";
+        const QDateTime time = QDateTime::currentDateTime().addSecs(-age_s);
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush()
+            || !file.setFileTime(time, QFileDevice::FileModificationTime))
+            qFatal("cannot write %s", qPrintable(file.fileName()));
         return file.fileName();
+    }
+
+    /// An icon of one colour.
+    QString svg(const QColor &color, const QSize &box = QSize(10, 10)) const
+    {
+        const QString text = QStringLiteral("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 "
+                                            "%1 %2'><path d='M0 0H99V99H0z' fill='%3'/></svg>");
+        return write(QStringLiteral("%1-%2.svg").arg(color.rgb()).arg(box.width()),
+            text.arg(box.width()).arg(box.height()).arg(color.name()).toUtf8());
     }
 
 private:

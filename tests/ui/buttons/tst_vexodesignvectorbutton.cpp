@@ -66,70 +66,52 @@ private:
 
 void TestVexoDesignVectorButton::centresTheIconOnItsPoint_data()
 {
-    QTest::addColumn<QSize>("density");
-    QTest::addColumn<QSizeF>("icon_mm");
+    QTest::addColumn<QSizeF>("icon_mm"); // on a panel of 10 x 20 px/mm
     QTest::addColumn<QPointF>("centre_mm");
     QTest::addColumn<QRect>("visible");
-    const QPointF usual(6.25, 7.25);
-    QTest::newRow("square pixels")
-        << QSize(6, 6) << QSizeF(10, 10) << usual << QRect(7, 13, 60, 60);
-    QTest::newRow("upright pixels")
-        << QSize(10, 20) << QSizeF(2, 2) << usual << QRect(52, 125, 20, 40);
-    QTest::newRow("odd size, half of it cut")
-        << QSize(10, 20) << QSizeF(2.1, 1.05) << QPointF(5, 4) << QRect(40, 70, 21, 21);
-    QTest::newRow("off the edge, cut toward zero")
-        << QSize(10, 20) << QSizeF(2, 2) << QPointF(0.05, 4) << QRect(0, 60, 11, 40);
+    QTest::newRow("default") << QSizeF(2, 2) << QPointF() << QRect(52, 125, 20, 40);
+    QTest::newRow("half cut") << QSizeF(2.1, 1.05) << QPointF(5, 4) << QRect(40, 70, 21, 21);
+    QTest::newRow("toward 0") << QSizeF(2, 2) << QPointF(0.05, 4) << QRect(0, 60, 11, 40);
 }
 
 void TestVexoDesignVectorButton::centresTheIconOnItsPoint()
 {
-    QFETCH(QSize, density);
     QFETCH(QSizeF, icon_mm);
     QFETCH(QPointF, centre_mm);
-    const PanelScale scale(density.width(), density.height());
+    const PanelScale scale(10, 20);
     VexoDesignVectorButton tile;
     dress(&tile);
     tile.addIcon(DEFAULT, m_files.svg(Qt::blue));
     tile.setMmIconSize(icon_mm);
-    tile.setMmIconPos(centre_mm);
+    if (!centre_mm.isNull())
+        tile.setMmIconPos(centre_mm);
     QTEST(boxOf(picture(&tile), Qt::blue), "visible");
 }
 
 void TestVexoDesignVectorButton::placesTheBaselines_data()
 {
-    QTest::addColumn<double>("height_mm"); // on a panel of 10 x 20 px/mm
-    QTest::addColumn<int>("height_px");
-    QTest::addColumn<double>("text_pt");
-    QTest::addColumn<double>("subtext_pt");
-    QTest::addColumn<double>("spacing_pt");
+    QTest::addColumn<double>("value"); // of the property; on a panel of 10 x 20 px/mm
+    QTest::addColumn<int>("height");
     QTest::addColumn<int>("text_px");
     QTest::addColumn<int>("below_ascent"); // px from the ascent of the main text to its baseline
-    QTest::addColumn<int>("spacing_px");
-    QTest::newRow("defaults") << 14.5 << 290 << 9.0 << 9.0 << 11.0 << 63 << 75 << 77;
-    QTest::newRow("large text") << 14.5 << 290 << 12.0 << 9.0 << 11.0 << 84 << 75 << 77;
-    QTest::newRow("small subtext") << 14.5 << 290 << 9.0 << 6.0 << 11.0 << 63 << 85 << 77;
-    QTest::newRow("close lines") << 14.5 << 290 << 9.0 << 9.0 << 8.0 << 63 << 85 << 56;
-    QTest::newRow("half a pixel is cut") << 12.05 << 241 << 9.0 << 9.0 << 11.0 << 63 << 50 << 77;
-    QTest::newRow("too low for both") << 5.0 << 100 << 9.0 << 9.0 << 11.0 << 63 << -20 << 77;
+    QTest::addColumn<int>("spacing");
+    QTest::newRow("pt_text_font_size") << 12.0 << 290 << 84 << 75 << 77; // 9.0 is the default
+    QTest::newRow("pt_subtext_font_size") << 6.0 << 290 << 63 << 85 << 77; // 9.0
+    QTest::newRow("pt_line_spacing") << 8.0 << 290 << 63 << 85 << 56; // 11.0
+    QTest::newRow("mm_height") << 12.05 << 241 << 63 << 50 << 77; // 14.5; half a pixel is cut
 }
 
 void TestVexoDesignVectorButton::placesTheBaselines()
 {
-    QFETCH(double, height_mm);
-    QFETCH(double, text_pt);
-    QFETCH(double, subtext_pt);
-    QFETCH(double, spacing_pt);
+    QFETCH(double, value);
     QFETCH(int, text_px);
     QFETCH(int, below_ascent);
-    QFETCH(int, spacing_px);
+    QFETCH(int, spacing);
     const PanelScale scale(10, 20);
     VexoDesignVectorButton tile;
-    tile.setPtTextFontSize(text_pt);
-    tile.setPtSubtextFontSize(subtext_pt);
-    tile.setPtLineSpacing(spacing_pt);
-    tile.setMmHeight(height_mm);
-    QTEST(tile.minimumHeight(), "height_px");
-    QTEST(tile.maximumHeight(), "height_px");
+    tile.setProperty(QTest::currentDataTag(), value);
+    QTEST(tile.minimumHeight(), "height");
+    QTEST(tile.maximumHeight(), "height");
     dress(&tile);
     QFont font;
     font.setPixelSize(text_px);
@@ -139,7 +121,7 @@ void TestVexoDesignVectorButton::placesTheBaselines()
     const QRect line = boxOfLine(&tile, letters, QString());
     QCOMPARE(line.bottom() + 1, baseline);
     const QRect subline = boxOfLine(&tile, QString(), letters);
-    QCOMPARE(subline.bottom() + 1, qMin(baseline + spacing_px, tile.height()));
+    QCOMPARE(subline.bottom() + 1, baseline + spacing);
     QCOMPARE(boxOfLine(&tile, letters, letters), line | subline);
     QVERIFY(line.left() >= 125 && line.left() < 140 && subline.left() >= 125); // 12.5 mm
     tile.setMmIndent(20.09); // 200 px
@@ -167,23 +149,20 @@ void TestVexoDesignVectorButton::toggleTextsNeedAllFour_data()
 {
     QTest::addColumn<bool>("checkable");
     QTest::addColumn<bool>("checked");
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QByteArray>("missing");
-    QTest::addColumn<QString>("subline");
-    QTest::newRow("on") << true << true << "on" << QByteArray() << "on below";
-    QTest::newRow("off") << true << false << "off" << QByteArray() << "off below";
-    QTest::newRow("not checkable") << false << false << "plain" << QByteArray() << "below";
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("on") << true << true << "on";
+    QTest::newRow("off") << true << false << "off";
+    QTest::newRow("not checkable") << false << false << "plain";
     for (const char *missing : { "on_text", "off_text", "on_subtext", "off_subtext" })
-        QTest::newRow(missing) << true << true << "plain" << QByteArray(missing) << "below";
+        QTest::newRow(missing) << true << true << "plain";
 }
 
 void TestVexoDesignVectorButton::toggleTextsNeedAllFour()
 {
     QFETCH(bool, checkable);
     QFETCH(bool, checked);
-    QFETCH(QByteArray, missing);
-    QFETCH(QString, line);
-    QFETCH(QString, subline);
+    QFETCH(QString, shown);
+    const QString below = QStringLiteral(" below");
     const PanelScale scale(10, 20);
     VexoDesignVectorButton tile;
     VexoDesignVectorButton expected;
@@ -191,39 +170,37 @@ void TestVexoDesignVectorButton::toggleTextsNeedAllFour()
         dress(each);
         each->setCheckable(checkable);
         each->setChecked(checked);
+        each->setText(QStringLiteral("plain"));
+        each->setSubtext(each->text() + below);
     }
-    expected.setText(line);
-    expected.setSubtext(subline);
-    tile.setText(QStringLiteral("plain"));
-    tile.setSubtext(QStringLiteral("below"));
-    tile.setOnText(QStringLiteral("on"));
-    tile.setOnSubtext(QStringLiteral("on below"));
-    tile.setOffText(QStringLiteral("off"));
-    tile.setOffSubtext(QStringLiteral("off below"));
-    if (!missing.isEmpty())
-        tile.setProperty(missing, QString());
-    QCOMPARE(tile.isToggleTextSet(), missing.isEmpty());
+    expected.setText(shown);
+    expected.setSubtext(shown + below);
+    for (const char *property : { "on_text", "off_text", "on_subtext", "off_subtext" }) {
+        const QString on_or_off = QString::fromLatin1(property).section(QLatin1Char('_'), 0, 0);
+        tile.setProperty(property, strstr(property, "sub") ? on_or_off + below : on_or_off);
+    }
+    if (shown == QLatin1String("plain"))
+        tile.setProperty(QTest::currentDataTag(), QString());
     QCOMPARE(picture(&tile), picture(&expected));
 }
 
 void TestVexoDesignVectorButton::darkLook_data()
 {
-    QTest::addColumn<QByteArray>("look");
     QTest::addColumn<bool>("is_dark");
     QTest::addColumn<bool>("must_be_dark"); // by "dark when on"
-    QTest::newRow("up") << QByteArray() << false << false;
-    QTest::newRow("pressed") << QByteArray("down") << true << false;
-    QTest::newRow("on") << QByteArray("on") << true << false;
-    QTest::newRow("on, dark when on") << QByteArray("on must") << true << true;
-    QTest::newRow("dark when on, but off") << QByteArray("must") << false << false;
-    QTest::newRow("pressed, never dark") << QByteArray("down never") << false << false;
-    QTest::newRow("on, never dark") << QByteArray("on must never") << false << true;
+    QTest::newRow("up") << false << false;
+    QTest::newRow("down") << true << false;
+    QTest::newRow("on") << true << false;
+    QTest::newRow("on, must be dark") << true << true;
+    QTest::newRow("must be dark when on") << false << false;
+    QTest::newRow("down, never dark") << false << false;
+    QTest::newRow("on, must be dark, never dark") << false << true;
 }
 
 void TestVexoDesignVectorButton::darkLook()
 {
-    QFETCH(QByteArray, look);
     QFETCH(bool, is_dark);
+    const QByteArray look(QTest::currentDataTag());
     const PanelScale scale(6, 6);
     VexoDesignVectorButton tile;
     dress(&tile);
@@ -231,8 +208,8 @@ void TestVexoDesignVectorButton::darkLook()
     tile.addIcon(DEFAULT, m_files.svg(Qt::blue));
     tile.addInverseIcon(DEFAULT, m_files.svg(Qt::cyan));
     tile.setCheckable(true);
-    tile.setChecked(look.contains("on"));
-    tile.setDown(look.contains("down"));
+    tile.setChecked(look.startsWith("on"));
+    tile.setDown(look.startsWith("down"));
     tile.setDarkButtonWhenOn(look.contains("must"));
     tile.setIgnoreBackgroundDarkRendering(look.contains("never"));
     QTEST(tile.mustBackgroundBeRenderedPressed(), "must_be_dark");
@@ -255,12 +232,13 @@ void TestVexoDesignVectorButton::cutsLongTextsAtTheEdge()
     dress(&tile);
     const QString letter = QStringLiteral("E");
     const QString words = letter.repeated(10000) + QStringLiteral(" E").repeated(1000);
-    const QRect line = boxOfLine(&tile, words, QString());
-    QVERIFY(line.right() > 790); // no ellipsis
-    QCOMPARE(line.bottom(), boxOfLine(&tile, letter, QString()).bottom()); // no second line
-    const QRect subline = boxOfLine(&tile, QString(), words);
-    QVERIFY(subline.right() > 790);
-    QCOMPARE(subline.bottom(), boxOfLine(&tile, QString(), letter).bottom());
+    const QRect line = boxOfLine(&tile, letter, QString());
+    const QRect subline = boxOfLine(&tile, QString(), letter);
+    const QRect words_line = boxOfLine(&tile, words, QString());
+    const QRect words_subline = boxOfLine(&tile, QString(), words);
+    QVERIFY(words_line.right() > 790 && words_subline.right() > 790); // no ellipsis
+    QCOMPARE(words_line.bottom(), line.bottom()); // no second line
+    QCOMPARE(words_subline.bottom(), subline.bottom());
 }
 
 void TestVexoDesignVectorButton::repaintsOnceForEachProperty()

@@ -8,13 +8,10 @@
 #include <QMetaProperty>
 #include <QTest>
 
-#include <limits>
-
 using namespace vexo::hox::qt::ui;
 
 namespace {
 
-const double NOT_A_NUMBER = std::numeric_limits<double>::quiet_NaN();
 const QString DEFAULT = QLatin1String(ActiveButton::DEFAULT_STATE_NAME);
 const QColor STANDARD(Qt::yellow);
 const QColor SPECIAL(Qt::cyan);
@@ -59,9 +56,7 @@ private Q_SLOTS:
     void iconIsRenderedAtTheCommonSize_data();
     void iconIsRenderedAtTheCommonSize();
     void heightIsFixed();
-    void latchIsSetFromOutside();
-    void repaintsOnceForEachProperty();
-    void changeAfterAPaintShows();
+    void changeRepaintsOnceAndShows();
 
 private:
     const IconFiles m_files;
@@ -70,29 +65,27 @@ private:
 void TestVexoKeyboardButton::lookFollowsNameAndState_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("look");
     QTest::addColumn<QColor>("cap");
     QTest::addColumn<QColor>("label");
     QTest::addColumn<QColor>("icon"); // blue, its inverse red
     const QColor normal(Qt::blue);
     const QColor inverse(Qt::red);
-    QTest::newRow("standard") << "key" << QByteArray() << STANDARD << INK << normal;
-    QTest::newRow("space") << "spaceButton" << QByteArray() << STANDARD << INK << normal;
-    QTest::newRow("shift") << "shiftLeftButton" << QByteArray() << SPECIAL << INK << normal;
-    QTest::newRow("no name") << "" << QByteArray() << SPECIAL << INK << normal;
-    QTest::newRow("pressed") << "key" << QByteArray("down") << DARK << DARK_INK << inverse;
-    QTest::newRow("latched") << "" << QByteArray("on") << DARK << DARK_INK << inverse;
-    QTest::newRow("off") << "key" << QByteArray("off") << INACTIVE << INK << normal;
-    QTest::newRow("off and latched")
-        << "key" << QByteArray("off on") << INACTIVE << DARK_INK << normal;
+    QTest::newRow("standard") << "key" << STANDARD << INK << normal;
+    QTest::newRow("space") << "spaceButton" << STANDARD << INK << normal;
+    QTest::newRow("shift") << "shiftLeftButton" << SPECIAL << INK << normal;
+    QTest::newRow("no name") << "" << SPECIAL << INK << normal;
+    QTest::newRow("down") << "key" << DARK << DARK_INK << inverse;
+    QTest::newRow("latched") << "" << DARK << DARK_INK << inverse;
+    QTest::newRow("off") << "key" << INACTIVE << INK << normal;
+    QTest::newRow("off, latched") << "key" << INACTIVE << DARK_INK << normal;
 }
 
 void TestVexoKeyboardButton::lookFollowsNameAndState()
 {
     QFETCH(QString, name);
-    QFETCH(QByteArray, look);
     QFETCH(QColor, label);
     QFETCH(QColor, icon);
+    const QByteArray look(QTest::currentDataTag());
     const PanelScale scale(10, 20);
     VexoKeyboardButton key;
     dress(&key);
@@ -101,7 +94,7 @@ void TestVexoKeyboardButton::lookFollowsNameAndState()
     key.addInverseIcon(DEFAULT, m_files.svg(Qt::red));
     key.setCheckable(true);
     key.setEnabled(!look.contains("off"));
-    key.setChecked(look.contains("on"));
+    key.setChecked(look.contains("latched"));
     key.setDown(look.contains("down"));
     QImage image = picture(&key);
     QTEST(image.pixelColor(20, 80), "cap");
@@ -158,28 +151,25 @@ void TestVexoKeyboardButton::iconIsRenderedAtTheCommonSize_data()
 {
     QTest::addColumn<QSizeF>("mm"); // on a panel of 10 x 20 px/mm, an image of 2 : 1
     QTest::addColumn<QSize>("px"); // invalid: as before
-    QTest::addColumn<bool>("readable");
-    QTest::newRow("both given") << QSizeF(1.29, 1.29) << QSize(12, 25) << true;
-    QTest::newRow("width follows") << QSizeF(0, 1) << QSize(20, 20) << true;
-    QTest::newRow("height follows") << QSizeF(4, 0) << QSize(40, 40) << true;
-    QTest::newRow("negative is ignored") << QSizeF(-1, 3) << QSize(94, 94) << true;
-    QTest::newRow("NaN is ignored") << QSizeF(1, NOT_A_NUMBER) << QSize(94, 94) << true;
-    QTest::newRow("no width") << QSizeF(0.05, 4) << QSize() << true;
-    QTest::newRow("no height") << QSizeF(4, 0.04) << QSize() << true;
-    QTest::newRow("nothing") << QSizeF(0, 0) << QSize() << true;
-    QTest::newRow("unreadable") << QSizeF(0, 3) << QSize() << false;
+    QTest::newRow("both given") << QSizeF(1.29, 1.29) << QSize(12, 25);
+    QTest::newRow("width follows") << QSizeF(0, 1) << QSize(20, 20);
+    QTest::newRow("height follows") << QSizeF(4, 0) << QSize(40, 40);
+    QTest::newRow("negative is ignored") << QSizeF(-1, 3) << QSize(94, 94);
+    QTest::newRow("NaN is ignored") << QSizeF(1, qQNaN()) << QSize(94, 94);
+    QTest::newRow("no width") << QSizeF(0.05, 4) << QSize();
+    QTest::newRow("no height") << QSizeF(4, 0.04) << QSize();
+    QTest::newRow("nothing") << QSizeF(0, 0) << QSize();
 }
 
 void TestVexoKeyboardButton::iconIsRenderedAtTheCommonSize()
 {
     QFETCH(QSizeF, mm);
     QFETCH(QSize, px);
-    QFETCH(bool, readable);
     const PanelScale scale(10, 20);
     VexoKeyboardButton key;
     const QSize before = key.iconSize();
     key.setCommonIconSizeMM(mm);
-    key.addIcon(DEFAULT, readable ? m_files.svg(Qt::blue, QSize(20, 10)) : QStringLiteral(":/no"));
+    key.addIcon(DEFAULT, m_files.svg(Qt::blue, QSize(20, 10)));
     QCOMPARE(key.iconSize(), px.isValid() ? px : before);
     if (px.isValid())
         QCOMPARE(key.icon().availableSizes(), QList<QSize>{ px });
@@ -193,8 +183,6 @@ void TestVexoKeyboardButton::heightIsFixed()
 {
     const PanelScale scale(10, 20);
     VexoKeyboardButton key;
-    QCOMPARE(key.minimumHeight(), 160);
-    QCOMPARE(key.sizePolicy(), QSizePolicy(QSizePolicy::Fixed, QSizePolicy::MinimumExpanding));
     key.setHeightInMm(7.99);
     QCOMPARE(key.minimumHeight(), 159);
     QCOMPARE(key.maximumHeight(), 159);
@@ -202,46 +190,27 @@ void TestVexoKeyboardButton::heightIsFixed()
     QCOMPARE(key.maximumHeight(), 0);
 }
 
-void TestVexoKeyboardButton::latchIsSetFromOutside()
-{
-    VexoKeyboardButton left;
-    VexoKeyboardButton right;
-    left.setCheckable(true);
-    right.setCheckable(true);
-    QVERIFY(connect(&left, SIGNAL(toggled(bool)), &right, SLOT(onToggle(bool))));
-    QTest::mouseClick(&left, Qt::LeftButton);
-    QVERIFY(right.isChecked());
-    right.resetButtonState();
-    QVERIFY(!right.isChecked());
-}
-
-void TestVexoKeyboardButton::repaintsOnceForEachProperty()
+/// Nothing that a paint keeps may outlive a change.
+void TestVexoKeyboardButton::changeRepaintsOnceAndShows()
 {
     VexoKeyboardButton key;
     QCOMPARE(
         propertiesWithoutOneRepaint(&key), QByteArrayList{ "height_in_mm" }); // a height it has
-}
-
-/// Nothing that a paint keeps may outlive a change.
-void TestVexoKeyboardButton::changeAfterAPaintShows()
-{
     const QMetaObject &meta = VexoKeyboardButton::staticMetaObject;
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
         const QMetaProperty property = meta.property(i);
         VexoKeyboardButton painted;
         VexoKeyboardButton fresh;
-        for (VexoKeyboardButton *key : { &painted, &fresh }) {
-            dress(key);
-            key->setText(QStringLiteral("H"));
+        for (VexoKeyboardButton *each : { &painted, &fresh }) {
+            dress(each);
+            each->setText(QStringLiteral("H"));
         }
         picture(&painted);
-        QVariant value = property.read(&fresh);
-        if (value.userType() == QMetaType::QColor)
-            value = QColor(Qt::darkCyan);
-        else
-            value = value.userType() == QMetaType::Bool ? 0 : value.toDouble() * 2;
-        for (VexoKeyboardButton *key : { &painted, &fresh })
-            QVERIFY(property.write(key, value));
+        const QVariant old = property.read(&fresh);
+        const bool is_number = old.userType() == QMetaType::Double;
+        const QVariant value = is_number ? old.toDouble() * 2 : QVariant(QColor(Qt::darkCyan));
+        for (VexoKeyboardButton *each : { &painted, &fresh })
+            QVERIFY(property.write(each, old.userType() == QMetaType::Bool ? false : value));
         QVERIFY2(picture(&painted) == picture(&fresh), property.name());
     }
 }
