@@ -12,10 +12,10 @@ const int row_count = 4;
 const double gap_in_mm = 1;
 const unsigned int repeat_ms = 200;
 
-const QString language_key = "languageKey";
-const QString layer_key = "layerKey";
-const QString reset_key = "resetKey";
-const QString enter_key = "enterKey";
+const char *const language_key = "languageKey";
+const char *const layer_key = "layerKey";
+const char *const reset_key = "resetKey";
+const char *const enter_key = "enterKey";
 
 // The capital of sharp s is a letter of its own, not the "SS" of a sentence in capitals.
 QString capital(const QString &letter)

@@ -26,12 +26,12 @@ void TileLayout::addItem(QLayoutItem *item)
 
 QLayoutItem *TileLayout::itemAt(int index) const
 {
-    return index >= 0 && index < count() ? m_items[size_t(index)].get() : nullptr;
+    return index >= 0 && index < int(m_items.size()) ? m_items[size_t(index)].get() : nullptr;
 }
 
 QLayoutItem *TileLayout::takeAt(int index)
 {
-    if (index < 0 || index >= count())
+    if (index < 0 || index >= int(m_items.size()))
         return nullptr;
     QLayoutItem *item = m_items[size_t(index)].release();
     m_items.erase(m_items.begin() + index);

@@ -158,7 +158,8 @@ void TestBundles::imagesHaveTheirSizeAndColors_data()
     QTest::addColumn<QString>("size");
     QTest::addColumn<QString>("colors");
     const auto rows = [](const char *size, const char *colors, const char *names) {
-        for (const QByteArray &name : QByteArray(names).split(' '))
+        const QList<QByteArray> each = QByteArray(names).split(' ');
+        for (const QByteArray &name : each)
             QTest::newRow(":/" + name) << size << colors;
     };
     rows("30 x 55", "#505050", "XSvg");

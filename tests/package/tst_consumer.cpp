@@ -33,7 +33,7 @@ Finished compile(const QStringList &arguments)
     const QString command = QStringLiteral(HOXQ_LAUNCHER ";" HOXQ_COMPILER ";");
     const QString flags = QStringLiteral("-std=c++17 -fPIC -Wall -Wextra -Wpedantic -Werror ");
     const QStringList words = command.split(QLatin1Char(';'), Qt::SkipEmptyParts)
-        + (flags + QStringLiteral(HOXQ_FLAGS)).split(QLatin1Char(' '), Qt::SkipEmptyParts)
+        + (flags + QLatin1String(HOXQ_FLAGS)).split(QLatin1Char(' '), Qt::SkipEmptyParts)
         + pkgConfig(QStringLiteral("--cflags")) + arguments;
     return run(words.first(), words.mid(1));
 }

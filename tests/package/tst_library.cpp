@@ -12,7 +12,7 @@ QString demangled(const QByteArray &symbol)
 {
     int status = 0;
     char *name = abi::__cxa_demangle(symbol.constData(), nullptr, nullptr, &status);
-    const QString readable = QString::fromLatin1(status == 0 ? name : symbol.constData());
+    QString readable = QString::fromLatin1(status == 0 ? name : symbol.constData());
     free(name);
     return readable;
 }

@@ -24,6 +24,7 @@ class ScalingInfo;
 class HOXQUI_EXPORT VexoKeyboardButton : public ActiveButton
 {
     Q_OBJECT
+    // clazy:excludeall=qproperty-type-mismatch; it misreads a property broken before its type
 
     /// Cap of standard keys and the space bar. Default C1.
     Q_PROPERTY(QColor background_color READ backgroundColor WRITE setBackgroundColor)

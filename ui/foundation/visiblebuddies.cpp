@@ -23,7 +23,7 @@ void VisibleBuddies::clear()
 
 void VisibleBuddies::setVisible(bool visible)
 {
-    if (m_is_gone)
+    if (m_is_gone != nullptr)
         return;
     bool is_gone = false;
     m_is_gone = &is_gone;

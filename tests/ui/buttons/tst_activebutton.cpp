@@ -79,7 +79,7 @@ public:
 
     QString takeCalls()
     {
-        const QString text = calls.join(QStringLiteral(", "));
+        QString text = calls.join(QStringLiteral(", "));
         calls.clear();
         return text;
     }

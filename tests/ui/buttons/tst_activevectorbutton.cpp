@@ -66,7 +66,7 @@ private Q_SLOTS:
     void mayBeDeletedInSizeChanged();
 
 private:
-    const IconFiles m_files;
+    IconFiles m_files;
 };
 
 void TestActiveVectorButton::tellsAndRendersItsSize_data()

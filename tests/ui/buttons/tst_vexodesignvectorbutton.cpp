@@ -61,7 +61,7 @@ private Q_SLOTS:
     void repaintsOnceForEachProperty();
 
 private:
-    const IconFiles m_files;
+    IconFiles m_files;
 };
 
 void TestVexoDesignVectorButton::centresTheIconOnItsPoint_data()

@@ -64,7 +64,7 @@ private Q_SLOTS:
     void mayBeDeletedByAReleaseBeside();
 
 private:
-    const IconFiles m_files;
+    IconFiles m_files;
 };
 
 void TestVexoIconButton::showsTheIconOfItsLook_data()

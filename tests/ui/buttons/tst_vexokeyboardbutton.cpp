@@ -59,7 +59,7 @@ private Q_SLOTS:
     void changeRepaintsOnceAndShows();
 
 private:
-    const IconFiles m_files;
+    IconFiles m_files;
 };
 
 void TestVexoKeyboardButton::lookFollowsNameAndState_data()

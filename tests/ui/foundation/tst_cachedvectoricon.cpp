@@ -82,7 +82,7 @@ private Q_SLOTS:
 
 private:
     const PanelScale m_scale{ 5, 20 };
-    const IconFiles m_files;
+    IconFiles m_files;
     const QString m_svg = m_files.write(QStringLiteral("halves.svg"), svgOfTwoHalves("red"), 3600);
     const QString m_png = m_files.path(QStringLiteral("halves.png"));
 };

@@ -116,7 +116,7 @@ private:
     void addPacked(const char *name, const QByteArray &bytes);
     void addWritten(const char *name, const QByteArray &bytes);
 
-    const IconFiles m_files;
+    IconFiles m_files;
     const PanelScale m_scale{ 5, 20 };
     rusage m_before = {};
 };
