@@ -224,7 +224,7 @@ void TestVexoIconButton::mayBeDeletedByAReleaseBeside()
         QWidget window;
         const QPointer<VexoIconButton> button = new VexoIconButton(&window);
         button->resize(100, 50);
-        const auto kill = [button] { delete button; };
+        const auto kill = [&button] { delete button; };
         if (in_click)
             connect(button, &QAbstractButton::clicked, this, kill);
         else
