@@ -19,7 +19,8 @@ namespace vexo::hox::qt::ui {
 class HOXQUI_EXPORT VexoDesignVectorButton : public ActiveVectorButton
 {
     Q_OBJECT
-    // clazy:excludeall=qproperty-type-mismatch; it misreads a property broken before its type
+    // The checker misreads a property that is broken before its type.
+    // clazy:excludeall=qproperty-type-mismatch
 
     /// Second line; empty by default, then there is none.
     Q_PROPERTY(QString subtext MEMBER m_subtext WRITE setSubtext)

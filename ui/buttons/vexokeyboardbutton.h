@@ -24,7 +24,8 @@ class ScalingInfo;
 class HOXQUI_EXPORT VexoKeyboardButton : public ActiveButton
 {
     Q_OBJECT
-    // clazy:excludeall=qproperty-type-mismatch; it misreads a property broken before its type
+    // The checker misreads a property that is broken before its type.
+    // clazy:excludeall=qproperty-type-mismatch
 
     /// Cap of standard keys and the space bar. Default C1.
     Q_PROPERTY(QColor background_color READ backgroundColor WRITE setBackgroundColor)

@@ -13,7 +13,7 @@ using vexo::hox::qt::ui::CachedVectorIcon;
 namespace {
 
 /// Never lets the px be derived from the mm.
-class PinnedIcon : public CachedVectorIcon
+class PinnedIcon : public CachedVectorIcon // clazy:exclude=copyable-polymorphic
 {
 public:
     using CachedVectorIcon::CachedVectorIcon;
