@@ -13,6 +13,7 @@ namespace vexo::hox::qt::ui {
 
 namespace {
 
+// The names of ActiveButton, in the form that states are asked for in each paint.
 const QString DEFAULT = QStringLiteral("DEFAULT");
 const QString CLICKED = QStringLiteral("CLICKED");
 const QString INACTIVE = QStringLiteral("INACTIVE");
@@ -49,6 +50,7 @@ bool VexoIconButton::event(QEvent *event)
     case QEvent::PaletteChange:
     case QEvent::DynamicPropertyChange:
         m_probed_looks = 0;
+        m_styled_looks = 0;
         break;
     default:
         break;
@@ -102,8 +104,8 @@ void VexoIconButton::drawStyledBackground(QPainter *painter)
     option.initFrom(this);
     if (!(m_probed_looks & look)) {
         m_probed_looks |= look;
-        const bool is_styled = drawsStyledBackground(option);
-        m_styled_looks = is_styled ? m_styled_looks | look : m_styled_looks & ~look;
+        if (drawsStyledBackground(option))
+            m_styled_looks |= look;
     }
     if (m_styled_looks & look)
         style()->drawPrimitive(QStyle::PE_Widget, &option, painter, this);

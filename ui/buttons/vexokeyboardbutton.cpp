@@ -140,7 +140,7 @@ void VexoKeyboardButton::onToggle(bool toggle_state)
 void VexoKeyboardButton::paintEvent(QPaintEvent *)
 {
     QStylePainter painter(this);
-    const QRect cap = rect().adjusted(0, 0, 0, m_standard_border_drawing_disabled ? -1 : 0);
+    const QRect cap = capRect();
     const bool is_dark = isChecked() || isDown();
     painter.drawPixmap(0, 0, capPixmap(ground(is_dark)));
     const QIcon shown = is_dark && isEnabled() ? inverseIcon() : icon();
@@ -148,6 +148,11 @@ void VexoKeyboardButton::paintEvent(QPaintEvent *)
         painter.drawItemPixmap(
             cap, Qt::AlignCenter, shown.pixmap(iconSize(), QIcon::Normal, QIcon::Off));
     drawLabel(&painter, cap, is_dark);
+}
+
+QRect VexoKeyboardButton::capRect() const
+{
+    return rect().adjusted(0, 0, 0, m_standard_border_drawing_disabled ? -1 : 0);
 }
 
 void VexoKeyboardButton::change(QColor *color, const QColor &to)
@@ -169,7 +174,6 @@ const QPixmap &VexoKeyboardButton::capPixmap(const QColor &ground)
 {
     if (m_cap.size() == size() * devicePixelRatioF() && m_cap_ground == ground)
         return m_cap;
-    const QRect cap = rect().adjusted(0, 0, 0, m_standard_border_drawing_disabled ? -1 : 0);
     QString key = QStringLiteral("hoxqcap");
     for (const QColor &color :
         { ground, m_border_color, m_border_top_color, m_border_bottom_extra_color })
@@ -179,14 +183,15 @@ const QPixmap &VexoKeyboardButton::capPixmap(const QColor &ground)
         key += QString::number(double(number), 'g', 9) + QLatin1Char(' ');
     m_cap_ground = ground;
     if (!QPixmapCache::find(key, &m_cap)) {
-        m_cap = renderCap(cap, ground);
+        m_cap = renderCap(ground);
         QPixmapCache::insert(key, m_cap);
     }
     return m_cap;
 }
 
-QPixmap VexoKeyboardButton::renderCap(const QRect &cap, const QColor &ground) const
+QPixmap VexoKeyboardButton::renderCap(const QColor &ground) const
 {
+    const QRect cap = capRect();
     QPixmap pixmap(size() * devicePixelRatioF());
     pixmap.setDevicePixelRatio(devicePixelRatioF());
     pixmap.fill(Qt::transparent);

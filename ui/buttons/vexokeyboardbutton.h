@@ -113,10 +113,11 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QRect capRect() const;
     void change(QColor *color, const QColor &to);
     QColor ground(bool is_dark);
     const QPixmap &capPixmap(const QColor &ground);
-    QPixmap renderCap(const QRect &cap, const QColor &ground) const;
+    QPixmap renderCap(const QColor &ground) const;
     void drawEdges(QPainter *painter, const QRect &cap) const;
     void drawLabel(QPainter *painter, const QRect &cap, bool is_dark);
 
