@@ -4,13 +4,21 @@
 
 namespace vexo::hox::qt::ui {
 
-/// Lets \a pressed of \a sender ring the feedback delegator installed at this moment; without one
-/// the widget stays silent.
+/// Lets \a pressed of \a sender ring \a delegator; without one the widget stays silent. Once
+/// connected, a further call does nothing.
+template <typename Sender, typename Signal>
+void connectTone(const Sender *sender, Signal pressed, const VexoFeedbackDelegator *delegator)
+{
+    if (delegator)
+        QObject::connect(
+            sender, pressed, delegator, &VexoFeedbackDelegator::tone, Qt::UniqueConnection);
+}
+
+/// The same with the feedback delegator that is installed at this moment.
 template <typename Sender, typename Signal>
 void connectTone(const Sender *sender, Signal pressed)
 {
-    if (const auto *delegator = VexoFeedbackDelegator::tone_delegator)
-        QObject::connect(sender, pressed, delegator, &VexoFeedbackDelegator::tone);
+    connectTone(sender, pressed, VexoFeedbackDelegator::tone_delegator);
 }
 
 } // namespace vexo::hox::qt::ui

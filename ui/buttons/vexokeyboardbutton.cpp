@@ -2,12 +2,11 @@
 
 #include "ui/foundation/cachedvectoricon.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/textblock_p.h"
 
-#include <QFontMetrics>
 #include <QPainterPath>
 #include <QPixmapCache>
 #include <QStylePainter>
-#include <QTextOption>
 
 namespace vexo::hox::qt::ui {
 
@@ -20,15 +19,16 @@ const QString VexoKeyboardButton::SPACE_BUTTON_OBJECT_NAME = QStringLiteral("spa
 VexoKeyboardButton::VexoKeyboardButton(QWidget *parent)
     : ActiveButton(parent)
     , m_scaling(ScalingInfo::inst())
+    , m_label(std::make_unique<TextBlock>())
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::MinimumExpanding);
     m_button_font.setWeight(QFont::Light);
-    m_label.setTextFormat(Qt::PlainText);
-    m_label.setTextOption(QTextOption(Qt::AlignCenter));
     setCornerRadius(m_corner_radius_mm);
     setButtonTextFontSizeInPt(m_button_text_font_size_pt);
     setHeightInMm(m_height_mm);
 }
+
+VexoKeyboardButton::~VexoKeyboardButton() = default;
 
 void VexoKeyboardButton::setBackgroundColor(const QColor &color)
 {
@@ -95,7 +95,6 @@ void VexoKeyboardButton::setButtonTextFontSizeInPt(double pt)
 {
     m_button_text_font_size_pt = pt;
     setPtSize(m_button_font, pt);
-    m_label.setText(QString());
     update();
 }
 
@@ -225,19 +224,9 @@ void VexoKeyboardButton::drawEdges(QPainter *painter, const QRect &cap) const
 
 void VexoKeyboardButton::drawLabel(QPainter *painter, const QRect &cap, bool is_dark)
 {
-    if (text().isEmpty())
-        return;
-    if (m_label.text() != text() || m_label.textWidth() != cap.width()) {
-        m_label.setText(text());
-        m_label.setTextWidth(cap.width());
-        m_label.prepare(QTransform(), m_button_font);
-        // A static text counts the leading of its last line, centred text does not.
-        m_label_height = m_label.size().height() - qMax(0, QFontMetrics(m_button_font).leading());
-    }
     painter->setPen(is_dark ? m_text_clicked_color : m_text_color);
     painter->setFont(m_button_font);
-    const double top = cap.top() + (cap.height() - m_label_height) / 2;
-    painter->drawStaticText(QPointF(cap.left(), top), m_label);
+    m_label->draw(painter, cap, text(), Qt::AlignCenter);
 }
 
 } // namespace vexo::hox::qt::ui

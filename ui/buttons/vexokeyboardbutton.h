@@ -7,13 +7,15 @@
 #include <QFont>
 #include <QPixmap>
 #include <QSizeF>
-#include <QStaticText>
+
+#include <memory>
 
 class QPainter;
 
 namespace vexo::hox::qt::ui {
 
 class ScalingInfo;
+class TextBlock;
 
 /// One key of an on-screen keyboard: a rounded cap with a centred label or icon, a light top edge
 /// and a darker line under the cap. Keys with the object name "key" or "spaceButton" have the
@@ -68,6 +70,7 @@ public:
     static const QString SPACE_BUTTON_OBJECT_NAME; ///< "spaceButton"
 
     explicit VexoKeyboardButton(QWidget *parent = nullptr);
+    ~VexoKeyboardButton() override;
 
     QColor backgroundColor() const { return m_background_color; }
     void setBackgroundColor(const QColor &color);
@@ -141,8 +144,7 @@ private:
     QSizeF m_common_icon_size_mm = QSizeF(0.0, 4.7);
     QPixmap m_cap; // as drawn last; null after a change of its look
     QColor m_cap_ground;
-    QStaticText m_label; // prepared for the text, font and width drawn last
-    double m_label_height = 0; // px
+    const std::unique_ptr<TextBlock> m_label;
 };
 
 } // namespace vexo::hox::qt::ui

@@ -44,6 +44,12 @@ inline QSize pxSize(const ScalingInfo &scaling, const QSizeF &mm)
     return QSize(pxX(scaling, mm.width()), pxY(scaling, mm.height()));
 }
 
+/// Whole pixels of a position, kept so small that a size added to it does not overflow.
+inline int positionPx(double px)
+{
+    return qBound(-QWIDGETSIZE_MAX, truncated(px), QWIDGETSIZE_MAX);
+}
+
 /// \a px as a widget's fixed size takes it; beyond these limits the toolkit prints a warning.
 inline int widgetPx(int px)
 {

@@ -1,0 +1,75 @@
+#include "support/testcase.h"
+#include "ui/foundation/textblock_p.h"
+
+#include <FontLoader>
+
+#include <QImage>
+#include <QPainter>
+#include <QTest>
+
+using namespace vexo::hox::qt::ui;
+
+class TestTextBlock : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void looksAsDrawTextDoes_data();
+    void looksAsDrawTextDoes();
+};
+
+namespace {
+
+const QRectF areas[] = { { 10, 10, 200, 40 }, { 3.5, 52.25, 150.5, 61 }, { 5, 115, 90, 30 } };
+
+QImage drawn(const QString &text, int px, const QTextOption &option, TextBlock *block = nullptr)
+{
+    QImage image(220, 150, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QFont font;
+    font.setPixelSize(px);
+    QPainter painter(&image);
+    painter.setFont(font);
+    for (const QRectF &area : areas) {
+        if (block)
+            block->draw(&painter, area, text, option.alignment());
+        else
+            painter.drawText(area, text, option);
+    }
+    return image;
+}
+
+} // namespace
+
+void TestTextBlock::looksAsDrawTextDoes_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("short") << "Language";
+    QTest::newRow("longer than a line") << QStringLiteral("Donaudampfschifffahrt zum Kapitän");
+    QTest::newRow("kerning, ligatures, outer spaces") << "  ffi fl AVAWA To. ";
+    QTest::newRow("control characters") << "two\nlines\r and\ta tab\n\n";
+    QTest::newRow("right to left") << QStringLiteral("اللغة العربية في الشاشة");
+    QTest::newRow("Chinese") << QStringLiteral("语言 设置 中文 文本 很长 的 一 行");
+    QTest::newRow("combining, surrogates") << QStringLiteral("e\u0301a \U0001F600");
+    QTest::newRow("one word without an end") << QString(3000, 'x');
+}
+
+void TestTextBlock::looksAsDrawTextDoes()
+{
+    const FontLoader fonts;
+    QFETCH(QString, text);
+    const QVector<Qt::Alignment> alignments{ Qt::AlignCenter, Qt::AlignLeft | Qt::AlignVCenter,
+        Qt::AlignRight | Qt::AlignTop, Qt::AlignJustify | Qt::AlignBottom, Qt::Alignment() };
+    for (const auto wrap_mode : { QTextOption::WordWrap, QTextOption::NoWrap }) {
+        TextBlock block(wrap_mode);
+        for (const Qt::Alignment alignment : alignments) {
+            QTextOption option(alignment);
+            option.setWrapMode(wrap_mode);
+            for (int px : { 13, 13, 24 }) // the second time everything is laid out
+                QCOMPARE(drawn(text, px, option, &block), drawn(text, px, option));
+        }
+    }
+}
+
+QTEST_MAIN(TestTextBlock)
+#include "tst_textblock.moc"
