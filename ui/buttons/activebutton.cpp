@@ -1,5 +1,7 @@
 #include "ui/buttons/activebutton.h"
 
+#include "ui/foundation/quietly_p.h"
+
 #include <QEvent>
 #include <QPointer>
 
@@ -238,11 +240,7 @@ void ActiveButton::showIcon(const QIcon &icon)
         setIcon(icon);
         return;
     }
-    // setIcon() itself would repaint the whole button.
-    const bool is_disabled = testAttribute(Qt::WA_UpdatesDisabled);
-    setAttribute(Qt::WA_UpdatesDisabled, true);
-    setIcon(icon);
-    setAttribute(Qt::WA_UpdatesDisabled, is_disabled);
+    quietly(this, [this, &icon] { setIcon(icon); });
     update(m_icon_area);
 }
 

@@ -1,11 +1,11 @@
 #include "ui/buttons/vexoiconbutton.h"
 
+#include "ui/buttons/styledbackground_p.h"
+
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPicture>
 #include <QPointer>
 #include <QStyle>
-#include <QStyleOption>
 
 #include <utility>
 
@@ -22,8 +22,11 @@ const QString INACTIVE = QStringLiteral("INACTIVE");
 
 VexoIconButton::VexoIconButton(QWidget *parent)
     : ActiveVectorButton(parent)
+    , m_styled_background(std::make_unique<StyledBackground>())
 {
 }
+
+VexoIconButton::~VexoIconButton() = default;
 
 void VexoIconButton::setCanChangeBackgroundColor(bool can_change)
 {
@@ -40,21 +43,7 @@ void VexoIconButton::initialize(const QString &state)
 
 bool VexoIconButton::event(QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::Polish:
-        // From now on the paint draws the styled background: the toolkit would do it with a
-        // painter of its own, which costs more than the rest of the paint.
-        setAttribute(Qt::WA_StyledBackground, false);
-        Q_FALLTHROUGH();
-    case QEvent::StyleChange:
-    case QEvent::PaletteChange:
-    case QEvent::DynamicPropertyChange:
-        m_probed_looks = 0;
-        m_styled_looks = 0;
-        break;
-    default:
-        break;
-    }
+    m_styled_background->notice(this, event);
     return ActiveVectorButton::event(event);
 }
 
@@ -79,7 +68,7 @@ void VexoIconButton::mouseMoveEvent(QMouseEvent *event)
 void VexoIconButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    drawStyledBackground(&painter);
+    m_styled_background->draw(&painter, this);
     QIcon shown;
     if ((isChecked() || isDown()) && m_can_background_color_change) {
         shown = takePressedLook(&painter);
@@ -91,45 +80,6 @@ void VexoIconButton::paintEvent(QPaintEvent *)
         initialize(DEFAULT);
     }
     drawIcon(&painter, shown);
-}
-
-void VexoIconButton::drawStyledBackground(QPainter *painter)
-{
-    if (testAttribute(Qt::WA_StyledBackground))
-        return; // drawn already
-    const quint64 look = quint64(1) << lookOfNow();
-    if (m_probed_looks & look & ~m_styled_looks)
-        return;
-    QStyleOption option;
-    option.initFrom(this);
-    if (!(m_probed_looks & look)) {
-        m_probed_looks |= look;
-        if (drawsStyledBackground(option))
-            m_styled_looks |= look;
-    }
-    if (m_styled_looks & look)
-        style()->drawPrimitive(QStyle::PE_Widget, &option, painter, this);
-}
-
-// By what a stylesheet can tell looks apart, as a number below 32. Pressed is not told here: the
-// toolkit does not tell it for a background either.
-int VexoIconButton::lookOfNow() const
-{
-    int look = 0;
-    for (const bool is_set :
-        { isEnabled(), underMouse(), hasFocus(), isActiveWindow(), isChecked() })
-        look = look * 2 + is_set;
-    return look;
-}
-
-// Most sheets have no rule for the background, yet asking them costs at each paint.
-bool VexoIconButton::drawsStyledBackground(const QStyleOption &option) const
-{
-    QPicture probe;
-    QPainter painter(&probe);
-    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
-    painter.end();
-    return !probe.boundingRect().isEmpty();
 }
 
 QIcon VexoIconButton::takePressedLook(QPainter *painter)

@@ -5,9 +5,11 @@
 
 #include <QPixmap>
 
-class QStyleOption;
+#include <memory>
 
 namespace vexo::hox::qt::ui {
+
+class StyledBackground;
 
 /// The panel's plain icon button: draws nothing but the icon of its state, centred. While pressed
 /// or checked it shows the icon of "CLICKED", or without one the inverse icon in a one-pixel
@@ -28,6 +30,7 @@ class HOXQUI_EXPORT VexoIconButton : public ActiveVectorButton, public EasyAcces
 
 public:
     explicit VexoIconButton(QWidget *parent = nullptr);
+    ~VexoIconButton() override;
 
     void setCanChangeBackgroundColor(bool can_change);
     /// Sets \a state unless it is current; the first call sets it in any case.
@@ -48,9 +51,6 @@ private:
         QPixmap pixmap;
     };
 
-    void drawStyledBackground(QPainter *painter);
-    int lookOfNow() const;
-    bool drawsStyledBackground(const QStyleOption &option) const;
     QIcon takePressedLook(QPainter *painter);
     void drawOutline(QPainter *painter) const;
     void drawIcon(QPainter *painter, const QIcon &icon);
@@ -59,8 +59,7 @@ private:
     bool m_is_initialized = false;
     bool m_can_background_color_change = true;
     Drawn m_drawn[2] = {}; // the pixmaps drawn last
-    quint64 m_probed_looks = 0; // a bit per look for which the next field is known
-    quint64 m_styled_looks = 0; // a bit per look in which a stylesheet draws a background
+    const std::unique_ptr<StyledBackground> m_styled_background;
 };
 
 } // namespace vexo::hox::qt::ui

@@ -2,8 +2,8 @@
 
 #include "ui/hoxqui_export.h"
 
-#include <QRadioButton>
 #include <QPointer>
+#include <QRadioButton>
 
 #include <memory>
 

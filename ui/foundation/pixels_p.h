@@ -44,6 +44,19 @@ inline QSize pxSize(const ScalingInfo &scaling, const QSizeF &mm)
     return QSize(pxX(scaling, mm.width()), pxY(scaling, mm.height()));
 }
 
+/// Pixels that are not cut, as a painter takes them; 0 for what is no finite number.
+inline double finitePx(float px)
+{
+    return std::isfinite(px) ? double(px) : 0;
+}
+
+/// Such pixels of a size in mm.
+inline QSizeF finitePxSize(const ScalingInfo &scaling, const QSizeF &mm)
+{
+    return QSizeF(finitePx(scaling.mm2px_X(float(mm.width()))),
+        finitePx(scaling.mm2px_Y(float(mm.height()))));
+}
+
 /// Whole pixels of a position, kept so small that a size added to it does not overflow.
 inline int positionPx(double px)
 {

@@ -1,0 +1,438 @@
+#include "ui/buttons/vexofunctionbutton.h"
+
+#include "ui/buttons/rowaccessible_p.h"
+#include "ui/buttons/swipeguard_p.h"
+#include "ui/buttons/tone_p.h"
+#include "ui/buttons/vexocheckbox.h"
+#include "ui/buttons/vexoiconbutton.h"
+#include "ui/buttons/vexoradiobutton.h"
+#include "ui/foundation/cachedvectoricon.h"
+#include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/quietly_p.h"
+#include "ui/foundation/visiblebuddies_p.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOption>
+
+namespace vexo::hox::qt::ui {
+
+namespace {
+
+const double height_mm = 9.8;
+const double tick_box_mm = 6;
+
+double rightSpacerMm(VexoFunctionButton::VexoFunctionButtonType type)
+{
+    const bool is_narrow
+        = type == VexoFunctionButton::CheckboxType || type == VexoFunctionButton::RadiobuttonType;
+    return is_narrow ? 2.0 : 3.0;
+}
+
+QPixmap arrow(const char *color)
+{
+    const QString path = QStringLiteral(":widgetimages/VexoIconGeneralArrowListRight_44px_%1.svg");
+    return CachedVectorIcon(path.arg(QLatin1String(color)), VexoFunctionButton::ICON_SIZE)
+        .toPixmap();
+}
+
+// For changes in a paint of \a painted: a child that lies in it is painted right afterwards anyway.
+template <typename Change>
+void changeChild(QWidget *child, const QRegion &painted, Change change)
+{
+    if (painted.rectCount() == 1 && painted.boundingRect().contains(child->geometry()))
+        quietly(child, change);
+    else
+        change();
+}
+
+} // namespace
+
+const QSizeF VexoFunctionButton::ICON_SIZE(0, 8);
+
+VexoFunctionButton::VexoFunctionButton(QWidget *parent, const VexoFunctionButtonType &type)
+    : QToolButton(parent)
+    , VexoLogging("FB")
+    , m_scaling(ScalingInfo::inst())
+    , m_tone_delegator(VexoFeedbackDelegator::tone_delegator)
+    , m_layout(new QHBoxLayout)
+    , m_label(new QLabel(this))
+    , m_visible_buddies(std::make_unique<VisibleBuddies>())
+    , m_guard(std::make_unique<SwipeGuard>(10))
+    , m_button_type(type)
+{
+    qRegisterMetaType<VexoFunctionButtonType>("VexoFunctionButtonType");
+    makeRowsAccessible();
+    setAttribute(Qt::WA_StyleSheet);
+    setAttribute(Qt::WA_StyledBackground);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    setFixedHeight(widgetPx(pxY(*m_scaling, height_mm)));
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    setLayout(m_layout);
+    m_layout->addWidget(m_label);
+    connectTone(this, &QAbstractButton::pressed, m_tone_delegator.data());
+    setupLabel();
+    setupRightWidget();
+}
+
+VexoFunctionButton::~VexoFunctionButton() = default;
+
+void VexoFunctionButton::setButtonType(VexoFunctionButtonType type)
+{
+    m_button_type = type;
+    if (m_right_widget) {
+        m_layout->removeWidget(m_right_widget);
+        delete m_right_widget;
+    }
+    setupRightWidget();
+    update();
+}
+
+QString VexoFunctionButton::text() const
+{
+    return m_label->text();
+}
+
+void VexoFunctionButton::setText(const QString &text)
+{
+    m_label->setText(text);
+    update();
+}
+
+void VexoFunctionButton::setTextColor(const QColor &color)
+{
+    change(&m_text_color, color);
+}
+
+void VexoFunctionButton::setTextClickedColor(const QColor &color)
+{
+    change(&m_text_clicked_color, color);
+}
+
+void VexoFunctionButton::setTextInactiveColor(const QColor &color)
+{
+    change(&m_text_inactive_color, color);
+}
+
+void VexoFunctionButton::setBackgroundColor(const QColor &color)
+{
+    change(&m_background_color, color);
+}
+
+void VexoFunctionButton::setBackgroundClickedColor(const QColor &color)
+{
+    change(&m_background_clicked_color, color);
+}
+
+void VexoFunctionButton::setMmIndent(double mm)
+{
+    m_mm_indent = mm;
+    m_label->setIndent(positionPx(double(m_scaling->mm2px_X(float(mm)))));
+    update();
+}
+
+void VexoFunctionButton::setTextFontsizeInPt(double pt, int weight)
+{
+    m_text_font_size_in_pt = pt;
+    m_label->setFont(panelFont(pt, weight));
+}
+
+void VexoFunctionButton::setFontWeight(int weight)
+{
+    QFont font = m_label->font();
+    font.setWeight(weight);
+    m_label->setFont(font);
+}
+
+void VexoFunctionButton::setMmRightSpacer(float mm)
+{
+    if (!(mm >= 0))
+        return;
+    if (m_right_spacer) {
+        m_layout->removeItem(m_right_spacer);
+        delete m_right_spacer;
+    }
+    const int px = widgetPx(pxX(*m_scaling, double(mm)));
+    m_right_spacer = new QSpacerItem(px, px, QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_right_spacer->setAlignment(Qt::AlignRight);
+    m_layout->addItem(m_right_spacer);
+}
+
+QAbstractButton *VexoFunctionButton::getButtonInstance() const
+{
+    if (auto *button = qobject_cast<QAbstractButton *>(m_right_widget))
+        return button;
+    return const_cast<VexoFunctionButton *>(this);
+}
+
+int VexoFunctionButton::getMouseMoveDelta() const
+{
+    return m_guard->threshold();
+}
+
+void VexoFunctionButton::setMouseMoveDelta(int px)
+{
+    if (px >= 3 && px <= 24)
+        m_guard->setThreshold(px);
+}
+
+QWidget *VexoFunctionButton::addVisibleBuddy(QWidget *buddy)
+{
+    m_visible_buddies->add(buddy);
+    if (buddy)
+        buddy->setVisible(false);
+    return buddy;
+}
+
+void VexoFunctionButton::clearVisibleBuddies()
+{
+    m_visible_buddies->clear();
+}
+
+void VexoFunctionButton::setVisible(bool visible)
+{
+    const QPointer<VexoFunctionButton> self(this);
+    QToolButton::setVisible(visible);
+    if (self)
+        m_visible_buddies->setVisible(visible);
+}
+
+void VexoFunctionButton::mousePressEvent(QMouseEvent *event)
+{
+    m_guard->press(event->pos());
+    if (m_button_type == ActionType)
+        setDown(true);
+    Q_EMIT pressed();
+}
+
+void VexoFunctionButton::mouseReleaseEvent(QMouseEvent *)
+{
+    const QPointer<VexoFunctionButton> self(this);
+    const VexoFunctionButtonType type = m_button_type;
+    if (m_guard->release())
+        tap();
+    if (self && type == ActionType)
+        setDown(false);
+}
+
+void VexoFunctionButton::mouseMoveEvent(QMouseEvent *event)
+{
+    m_guard->move(event->pos());
+}
+
+void VexoFunctionButton::paintEvent(QPaintEvent *event)
+{
+    applyLook(event->region());
+    const QColor color = ground();
+    QPainter painter(this);
+    if (color.alpha() < 255) { // else nothing of it would be seen
+        QStyleOption option;
+        option.initFrom(this);
+        style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+    }
+    painter.fillRect(event->rect(), color);
+}
+
+void VexoFunctionButton::checkStateSet()
+{
+    if (isChecked() == m_last_checked)
+        return;
+    m_last_checked = isChecked();
+    setDown(m_last_checked);
+    Q_EMIT stateChanged(m_last_checked);
+}
+
+// Of click(), the space key and assistive technology, which do not come as a touch.
+void VexoFunctionButton::nextCheckState()
+{
+    const QPointer<VexoFunctionButton> self(this);
+    QToolButton::nextCheckState();
+    if (self)
+        checkStateSet(); // the toolkit leaves it out on this way
+    if (self)
+        toggleRightButton();
+}
+
+void VexoFunctionButton::changeEvent(QEvent *event)
+{
+    QToolButton::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange && !isEnabled())
+        endPress();
+}
+
+void VexoFunctionButton::hideEvent(QHideEvent *event)
+{
+    QToolButton::hideEvent(event);
+    endPress();
+}
+
+void VexoFunctionButton::tickAgreementClicked()
+{
+    getButtonInstance()->setChecked(true);
+}
+
+void VexoFunctionButton::setupLabel()
+{
+    m_label->setObjectName(QStringLiteral("vexoFunctionButtonLabel"));
+    m_label->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
+    m_label->setWordWrap(true);
+    setTextFontsizeInPt(m_text_font_size_in_pt, QFont::Medium);
+    setMmIndent(m_mm_indent);
+}
+
+void VexoFunctionButton::setupRightWidget()
+{
+    const bool is_choice = m_button_type == FullsizeRadiobuttonType;
+    m_right_widget = createRightWidget();
+    setCheckable(is_choice); // false unchecks the row, and tells nobody
+    setAutoExclusive(is_choice);
+    m_last_checked = isChecked();
+    setDown(m_last_checked);
+    m_right_widget->setObjectName(QStringLiteral("vexoFunctionButtonWidgetRight"));
+    m_layout->addWidget(m_right_widget, 0, Qt::AlignRight);
+    setMmRightSpacer(float(rightSpacerMm(m_button_type)));
+}
+
+QWidget *VexoFunctionButton::createRightWidget()
+{
+    switch (m_button_type) {
+    case CheckboxType:
+        return new VexoCheckBox(this);
+    case RadiobuttonType:
+        return new VexoRadioButton(this);
+    case TickAgreementType:
+        return createTickBox();
+    default:
+        return createArrow();
+    }
+}
+
+QWidget *VexoFunctionButton::createArrow()
+{
+    m_arrow_normal = arrow("C3");
+    m_arrow_pressed = arrow("C0");
+    m_arrow_inactive = arrow("RGB220");
+    m_last_down = false;
+    m_inactive_shown = false;
+    auto *label = new QLabel(this);
+    label->setPixmap(m_arrow_normal);
+    // With a fixed size a change of the arrow does not lay out the screen anew.
+    label->setFixedSize(label->sizeHint());
+    return label;
+}
+
+QWidget *VexoFunctionButton::createTickBox()
+{
+    auto *box = new VexoIconButton(this);
+    box->setCheckable(true);
+    box->addIcon(QLatin1String(ActiveButton::DEFAULT_STATE_NAME),
+        QStringLiteral(":widgetimages/Checkbox_Blank.svg"));
+    box->addIcon(QLatin1String(ActiveButton::CLICKED_STATE_NAME),
+        QStringLiteral(":widgetimages/RoundButton_S_Tick_Active.svg"));
+    box->setMmIconSize(QSizeF(0, tick_box_mm));
+    connect(box, &QAbstractButton::clicked, this, &VexoFunctionButton::tickAgreementClicked);
+    return box;
+}
+
+bool VexoFunctionButton::hasArrow() const
+{
+    return m_button_type == ActionType || m_button_type == FullsizeRadiobuttonType;
+}
+
+// The toolkit lets a disabled button come up; a chosen row stays dark nevertheless.
+bool VexoFunctionButton::isDark() const
+{
+    return hasArrow() && (isDown() || isChecked());
+}
+
+QColor VexoFunctionButton::ground() const
+{
+    return isDark() ? m_background_clicked_color : m_background_color;
+}
+
+void VexoFunctionButton::tap()
+{
+    const QPointer<VexoFunctionButton> self(this);
+    switch (m_button_type) {
+    case TickAgreementType:
+        return;
+    case FullsizeRadiobuttonType:
+        setDown(true);
+        setChecked(true);
+        break;
+    case ActionType:
+        break;
+    default:
+        toggleRightButton();
+    }
+    if (self)
+        Q_EMIT clicked(false);
+}
+
+void VexoFunctionButton::toggleRightButton()
+{
+    if (auto *box = qobject_cast<VexoCheckBox *>(m_right_widget))
+        box->toggleButton();
+    else if (auto *radio = qobject_cast<VexoRadioButton *>(m_right_widget))
+        radio->toggleButton();
+}
+
+// No release comes any more.
+void VexoFunctionButton::endPress()
+{
+    if (!m_guard->isPressed())
+        return;
+    m_guard->release();
+    setDown(isChecked());
+}
+
+void VexoFunctionButton::change(QColor *color, const QColor &to)
+{
+    *color = to;
+    update();
+}
+
+void VexoFunctionButton::applyLook(const QRegion &painted)
+{
+    if (hasArrow())
+        applyArrowLook(painted);
+    else
+        applyTextColor(isEnabled() ? m_text_color : m_text_inactive_color, painted);
+}
+
+void VexoFunctionButton::applyArrowLook(const QRegion &painted)
+{
+    const bool was_dark = m_last_down;
+    m_last_down = isDark();
+    if (!isEnabled()) {
+        if (m_inactive_shown)
+            return;
+        m_inactive_shown = true;
+        applyTextColor(m_text_inactive_color, painted);
+        showArrow(m_arrow_inactive, painted);
+        return;
+    }
+    applyTextColor(m_last_down ? m_text_clicked_color : m_text_color, painted);
+    if (m_last_down != was_dark || m_inactive_shown)
+        showArrow(m_last_down ? m_arrow_pressed : m_arrow_normal, painted);
+    m_inactive_shown = false;
+}
+
+void VexoFunctionButton::applyTextColor(const QColor &color, const QRegion &painted)
+{
+    if (m_label->palette().color(QPalette::ButtonText) == color)
+        return;
+    QPalette colors;
+    colors.setBrush(QPalette::ButtonText, color);
+    changeChild(m_label, painted, [&] { m_label->setPalette(colors); });
+}
+
+void VexoFunctionButton::showArrow(const QPixmap &arrow, const QRegion &painted)
+{
+    if (auto *label = qobject_cast<QLabel *>(m_right_widget))
+        changeChild(label, painted, [&] { label->setPixmap(arrow); });
+}
+
+} // namespace vexo::hox::qt::ui

@@ -1,0 +1,175 @@
+#include "ui/buttons/vexohorizontaltexticonbutton.h"
+
+#include "ui/foundation/accessible_p.h"
+#include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/textblock_p.h"
+
+#include <QPainter>
+#include <QStyle>
+
+namespace vexo::hox::qt::ui {
+
+VexoHorizontalTextIconButton::VexoHorizontalTextIconButton(QWidget *parent)
+    : QPushButton(parent)
+    , VexoLogging("ghtib")
+    , m_scaling(ScalingInfo::inst())
+    , m_left_text(std::make_unique<TextBlock>(QTextOption::NoWrap))
+    , m_right_text(std::make_unique<TextBlock>(QTextOption::NoWrap))
+{
+    setupUi();
+}
+
+VexoHorizontalTextIconButton::~VexoHorizontalTextIconButton() = default;
+
+void VexoHorizontalTextIconButton::setupUi()
+{
+    setObjectName(QStringLiteral("vexoHorizontalTextIconButton"));
+    setPtFontSize(m_pt_font_size);
+    setMmIndent(m_mm_indent);
+    setMmHeight(m_mm_height);
+    setDefaultTextColor(m_default_text_color);
+    setClickedTextColor(m_clicked_text_color);
+    setInactiveTextColor(m_inactive_text_color);
+    setDefaultBackgroundColor(m_default_background_color);
+    setClickedBackgroundColor(m_clicked_background_color);
+    setInactiveBackgroundColor(m_inactive_background_color);
+}
+
+void VexoHorizontalTextIconButton::setLeftSideText(const QString &text)
+{
+    followName(this, m_left_side_text, text);
+    m_left_side_text = text;
+    update();
+}
+
+void VexoHorizontalTextIconButton::setRightSideText(const QString &text)
+{
+    followDescription(this, m_right_side_text, text);
+    m_right_side_text = text;
+    update();
+}
+
+void VexoHorizontalTextIconButton::setDefaultImage(const QPixmap &image)
+{
+    setImage(&m_default_image, image);
+}
+
+void VexoHorizontalTextIconButton::setClickedImage(const QPixmap &image)
+{
+    setImage(&m_clicked_image, image);
+}
+
+void VexoHorizontalTextIconButton::setInactiveImage(const QPixmap &image)
+{
+    setImage(&m_inactive_image, image);
+}
+
+void VexoHorizontalTextIconButton::setDefaultTextColor(const QColor &color)
+{
+    change(&m_default_text_color, color);
+}
+
+void VexoHorizontalTextIconButton::setClickedTextColor(const QColor &color)
+{
+    change(&m_clicked_text_color, color);
+}
+
+void VexoHorizontalTextIconButton::setInactiveTextColor(const QColor &color)
+{
+    change(&m_inactive_text_color, color);
+}
+
+void VexoHorizontalTextIconButton::setDefaultBackgroundColor(const QColor &color)
+{
+    change(&m_default_background_color, color);
+}
+
+void VexoHorizontalTextIconButton::setClickedBackgroundColor(const QColor &color)
+{
+    change(&m_clicked_background_color, color);
+}
+
+void VexoHorizontalTextIconButton::setInactiveBackgroundColor(const QColor &color)
+{
+    change(&m_inactive_background_color, color);
+}
+
+void VexoHorizontalTextIconButton::setPtFontSize(int pt)
+{
+    m_pt_font_size = pt;
+    m_font = font();
+    setPtSize(m_font, pt);
+    update();
+}
+
+void VexoHorizontalTextIconButton::setMmIndent(double mm)
+{
+    m_mm_indent = mm;
+    m_indent_px = positionPx(double(m_scaling->mm2px_X(float(mm))));
+    update();
+}
+
+void VexoHorizontalTextIconButton::setMmHeight(double mm)
+{
+    m_mm_height = mm;
+    setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+}
+
+void VexoHorizontalTextIconButton::setLeftSideTextPercentWidth(double percent)
+{
+    m_left_side_text_percent_width = percent;
+}
+
+void VexoHorizontalTextIconButton::setRightSideTextPercentWidth(double percent)
+{
+    m_right_side_text_percent_width = percent;
+}
+
+void VexoHorizontalTextIconButton::paintEvent(QPaintEvent *)
+{
+    const int left_px = positionPx(width() * m_left_side_text_percent_width / 100 - m_indent_px);
+    const int right_px = positionPx(width() * m_right_side_text_percent_width / 100 - m_indent_px);
+    const int right_x = left_px + 2 * m_indent_px - 1;
+    const QRect image_area(QPoint(right_x + right_px - 1, 0), rect().bottomRight());
+    const Look look = lookOfNow();
+
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(rect(), look.ground);
+    painter.setFont(m_font);
+    painter.setPen(look.ink);
+    const Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
+    m_left_text->draw(
+        &painter, QRectF(m_indent_px, 0, left_px, height()), m_left_side_text, alignment);
+    m_right_text->draw(
+        &painter, QRectF(right_x, 0, right_px, height()), m_right_side_text, alignment);
+    if (!look.image.isNull())
+        style()->drawItemPixmap(&painter, image_area, Qt::AlignCenter, look.image);
+}
+
+void VexoHorizontalTextIconButton::setImage(QPixmap *image, const QPixmap &to)
+{
+    *image = to;
+    for (QPixmap *other : { &m_default_image, &m_clicked_image, &m_inactive_image }) {
+        if (other->isNull())
+            *other = to;
+    }
+    update();
+}
+
+void VexoHorizontalTextIconButton::change(QColor *color, const QColor &to)
+{
+    *color = to;
+    update();
+}
+
+VexoHorizontalTextIconButton::Look VexoHorizontalTextIconButton::lookOfNow() const
+{
+    if (!isEnabled())
+        return { m_inactive_text_color, m_inactive_background_color, m_inactive_image };
+    if (isDown())
+        return { m_clicked_text_color, m_clicked_background_color, m_clicked_image };
+    return { m_default_text_color, m_default_background_color, m_default_image };
+}
+
+} // namespace vexo::hox::qt::ui
