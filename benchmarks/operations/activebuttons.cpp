@@ -1,10 +1,9 @@
 #include "benchmarks/operations/operations.h"
+#include "benchmarks/operations/panel.h"
 
 #include <ActiveVectorButton>
 #include <QCoreApplication>
-#include <QGridLayout>
 #include <QHash>
-#include <QMouseEvent>
 #include <QPixmapCache>
 #include <QTimer>
 #include <ScalingInfo>
@@ -41,7 +40,7 @@ QIcon sharedIcon(const QString &file)
     return pixmap;
 }
 
-QToolButton *makeLibraryButton(QWidget *parent, const QTimer *timer)
+QWidget *makeLibraryButton(QWidget *parent)
 {
     const QString state1 = QLatin1String(VexoIconButton::DEFAULT_STATE_NAME);
     const QString state2 = QLatin1String(VexoIconButton::ALTERNATIVE_STATE_NAME);
@@ -50,12 +49,12 @@ QToolButton *makeLibraryButton(QWidget *parent, const QTimer *timer)
     button->addIcon(state1, iconFile(0));
     button->addIcon(state2, iconFile(1));
     button->initialize(state1); // else the first paint ends the blink
-    button->setTimer(timer);
+    button->setTimer(parent->findChild<QTimer *>());
     button->blink(state1, state2);
     return button;
 }
 
-QToolButton *makeStockButton(QWidget *parent, const QTimer *timer)
+QWidget *makeStockButton(QWidget *parent)
 {
     auto *button = new QToolButton(parent);
     button->setIconSize(QSize(icon_px, icon_px));
@@ -63,62 +62,17 @@ QToolButton *makeStockButton(QWidget *parent, const QTimer *timer)
     const auto swap
         = [button, icons = std::array{ sharedIcon(iconFile(1)), sharedIcon(iconFile(0)) },
               next = 0U]() mutable { button->setIcon(icons[next++ % 2]); };
-    QObject::connect(timer, &QTimer::timeout, button, swap);
+    QObject::connect(parent->findChild<QTimer *>(), &QTimer::timeout, button, swap);
     return button;
 }
 
-using Make = QToolButton *(*)(QWidget *, const QTimer *);
-
-// A visible window full of buttons, and the timer that paces them but never runs.
-struct Panel
+void addButton(const char *variant, const char *style_sheet, const Make &make)
 {
-    Panel(const char *style_sheet, Make make, int buttons)
-    {
-        window.setStyleSheet(QLatin1String(style_sheet));
-        for (int i = 0; i < buttons; ++i) {
-            first = make(&window, &timer);
-            first->setFixedSize(140, 140);
-            layout.addWidget(first, i / 8, i % 8);
-        }
-        window.show();
-        QCoreApplication::processEvents();
-    }
-
-    QTimer timer;
-    QWidget window;
-    QGridLayout layout{ &window };
-    QToolButton *first = nullptr;
-};
-
-void send(QToolButton *button, QEvent::Type type)
-{
-    const auto buttons = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-    QMouseEvent event(type, QPointF(5, 5), Qt::LeftButton, buttons, Qt::NoModifier);
-    QCoreApplication::sendEvent(button, &event);
-    QCoreApplication::processEvents();
-}
-
-void addButton(const char *variant, const char *style_sheet, Make make)
-{
-    const auto panel
-        = [=](int buttons) { return std::make_shared<Panel>(style_sheet, make, buttons); };
-    add("icon-construct", variant, [=](int) {
-        return [panel = panel(0), make] {
-            const std::unique_ptr<QToolButton> button(make(&panel->window, &panel->timer));
-            button->ensurePolished();
-        };
-    });
-    add("icon-repaint", variant,
-        [=](int) { return [panel = panel(1)] { panel->first->repaint(); }; });
-    add("icon-tap", variant, [=](int) {
-        return [panel = panel(1)] {
-            send(panel->first, QEvent::MouseButtonPress);
-            send(panel->first, QEvent::MouseButtonRelease);
-        };
-    });
+    const QSize px(140, 140);
+    addWidget("icon", variant, style_sheet, make, px);
     add("icon-tick", variant, [=](int) {
-        return [panel = panel(count)] {
-            QMetaObject::invokeMethod(&panel->timer, "timeout");
+        return [panel = std::make_shared<Panel>(style_sheet, make, count, px)] {
+            QMetaObject::invokeMethod(panel->timer(), "timeout");
             QCoreApplication::processEvents();
         };
     });

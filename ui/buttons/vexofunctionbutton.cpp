@@ -1,6 +1,7 @@
 #include "ui/buttons/vexofunctionbutton.h"
 
 #include "ui/buttons/rowaccessible_p.h"
+#include "ui/buttons/rowlabel_p.h"
 #include "ui/buttons/swipeguard_p.h"
 #include "ui/buttons/tone_p.h"
 #include "ui/buttons/vexocheckbox.h"
@@ -38,6 +39,23 @@ QPixmap arrow(const char *color)
         .toPixmap();
 }
 
+// Shows the arrow as it is: a plain label would dim it once more while disabled.
+class ArrowLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        drawFrame(&painter);
+        const QPixmap arrow = pixmap(Qt::ReturnByValue);
+        if (!arrow.isNull())
+            style()->drawItemPixmap(&painter, contentsRect(), int(alignment()), arrow);
+    }
+};
+
 // For changes in a paint of \a painted: a child that lies in it is painted right afterwards anyway.
 template <typename Change>
 void changeChild(QWidget *child, const QRegion &painted, Change change)
@@ -58,7 +76,7 @@ VexoFunctionButton::VexoFunctionButton(QWidget *parent, const VexoFunctionButton
     , m_scaling(ScalingInfo::inst())
     , m_tone_delegator(VexoFeedbackDelegator::tone_delegator)
     , m_layout(new QHBoxLayout)
-    , m_label(new QLabel(this))
+    , m_label(new RowLabel(this))
     , m_visible_buddies(std::make_unique<VisibleBuddies>())
     , m_guard(std::make_unique<SwipeGuard>(10))
     , m_button_type(type)
@@ -73,6 +91,7 @@ VexoFunctionButton::VexoFunctionButton(QWidget *parent, const VexoFunctionButton
     setLayout(m_layout);
     m_layout->addWidget(m_label);
     connectTone(this, &QAbstractButton::pressed, m_tone_delegator.data());
+    skipWhatIsCovered();
     setupLabel();
     setupRightWidget();
 }
@@ -160,6 +179,11 @@ void VexoFunctionButton::setMmRightSpacer(float mm)
     m_layout->addItem(m_right_spacer);
 }
 
+QLabel *VexoFunctionButton::getLabelInstance() const
+{
+    return m_label;
+}
+
 QAbstractButton *VexoFunctionButton::getButtonInstance() const
 {
     if (auto *button = qobject_cast<QAbstractButton *>(m_right_widget))
@@ -226,6 +250,8 @@ void VexoFunctionButton::paintEvent(QPaintEvent *event)
 {
     applyLook(event->region());
     const QColor color = ground();
+    if (event->rect().intersects(m_label->geometry()))
+        m_label->prepare(color);
     QPainter painter(this);
     if (color.alpha() < 255) { // else nothing of it would be seen
         QStyleOption option;
@@ -316,7 +342,7 @@ QWidget *VexoFunctionButton::createArrow()
     m_arrow_inactive = arrow("RGB220");
     m_last_down = false;
     m_inactive_shown = false;
-    auto *label = new QLabel(this);
+    auto *label = new ArrowLabel(this);
     label->setPixmap(m_arrow_normal);
     // With a fixed size a change of the arrow does not lay out the screen anew.
     label->setFixedSize(label->sizeHint());
@@ -391,7 +417,15 @@ void VexoFunctionButton::endPress()
 void VexoFunctionButton::change(QColor *color, const QColor &to)
 {
     *color = to;
+    skipWhatIsCovered();
     update();
+}
+
+// On an opaque ground nothing below it need be painted.
+void VexoFunctionButton::skipWhatIsCovered()
+{
+    setAttribute(Qt::WA_OpaquePaintEvent,
+        m_background_color.alpha() == 255 && m_background_clicked_color.alpha() == 255);
 }
 
 void VexoFunctionButton::applyLook(const QRegion &painted)
@@ -422,11 +456,8 @@ void VexoFunctionButton::applyArrowLook(const QRegion &painted)
 
 void VexoFunctionButton::applyTextColor(const QColor &color, const QRegion &painted)
 {
-    if (m_label->palette().color(QPalette::ButtonText) == color)
-        return;
-    QPalette colors;
-    colors.setBrush(QPalette::ButtonText, color);
-    changeChild(m_label, painted, [&] { m_label->setPalette(colors); });
+    if (m_label->ink() != color)
+        changeChild(m_label, painted, [&] { m_label->setInk(color); });
 }
 
 void VexoFunctionButton::showArrow(const QPixmap &arrow, const QRegion &painted)

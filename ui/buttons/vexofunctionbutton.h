@@ -16,6 +16,7 @@ class QSpacerItem;
 
 namespace vexo::hox::qt::ui {
 
+class RowLabel;
 class ScalingInfo;
 class SwipeGuard;
 class VexoFeedbackDelegator;
@@ -106,7 +107,7 @@ public:
     void setMmRightSpacer(float mm);
 
     /// The text, which belongs to the row.
-    QLabel *getLabelInstance() const { return m_label; }
+    QLabel *getLabelInstance() const;
     /// What holds the checked state: check box, radio button or tick box, with an arrow the row
     /// itself. Valid until the next setButtonType().
     QAbstractButton *getButtonInstance() const;
@@ -154,6 +155,7 @@ private:
     void toggleRightButton();
     void endPress();
     void change(QColor *color, const QColor &to);
+    void skipWhatIsCovered();
     void applyLook(const QRegion &painted);
     void applyArrowLook(const QRegion &painted);
     void applyTextColor(const QColor &color, const QRegion &painted);
@@ -162,7 +164,7 @@ private:
     const ScalingInfo *const m_scaling;
     const QPointer<VexoFeedbackDelegator> m_tone_delegator;
     QHBoxLayout *const m_layout;
-    QLabel *const m_label;
+    RowLabel *const m_label;
     QPointer<QWidget> m_right_widget;
     QSpacerItem *m_right_spacer = nullptr;
     const std::unique_ptr<VisibleBuddies> m_visible_buddies;

@@ -139,10 +139,11 @@ void VexoHorizontalTextIconButton::paintEvent(QPaintEvent *)
     painter.setFont(m_font);
     painter.setPen(look.ink);
     const Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
-    m_left_text->draw(
-        &painter, QRectF(m_indent_px, 0, left_px, height()), m_left_side_text, alignment);
-    m_right_text->draw(
-        &painter, QRectF(right_x, 0, right_px, height()), m_right_side_text, alignment);
+    const int gap_x = m_indent_px + left_px; // between the columns
+    m_left_text->draw(&painter, QRectF(m_indent_px, 0, left_px, height()), m_left_side_text,
+        alignment, { look.ground, rect() });
+    m_right_text->draw(&painter, QRectF(right_x, 0, right_px, height()), m_right_side_text,
+        alignment, { look.ground, rect().adjusted(gap_x, 0, 0, 0) });
     if (!look.image.isNull())
         style()->drawItemPixmap(&painter, image_area, Qt::AlignCenter, look.image);
 }

@@ -224,9 +224,12 @@ void VexoKeyboardButton::drawEdges(QPainter *painter, const QRect &cap) const
 
 void VexoKeyboardButton::drawLabel(QPainter *painter, const QRect &cap, bool is_dark)
 {
+    const int edge_px = 2;
+    const double corner_px = double(m_corner_radius_x);
+    const QRectF inside = QRectF(cap).adjusted(corner_px, edge_px, -corner_px, -edge_px);
     painter->setPen(is_dark ? m_text_clicked_color : m_text_color);
     painter->setFont(m_button_font);
-    m_label->draw(painter, cap, text(), Qt::AlignCenter);
+    m_label->draw(painter, cap, text(), Qt::AlignCenter, { m_cap_ground, inside });
 }
 
 } // namespace vexo::hox::qt::ui

@@ -12,11 +12,38 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPointer>
+#include <QRegion>
 #include <QStyle>
+#include <QtMath>
 
 #include <stdexcept>
 
 namespace vexo::hox::qt::ui {
+
+namespace {
+
+QRect wholeInside(const QRectF &area)
+{
+    return QRect(QPoint(qCeil(area.left()), qCeil(area.top())),
+        QPoint(qFloor(area.right()) - 1, qFloor(area.bottom()) - 1));
+}
+
+} // namespace
+
+struct VexoPushButton::GroundLook
+{
+    QRectF inside;
+    QSizeF radius;
+    QColor fill;
+    QPen pen;
+    double ratio = 0;
+
+    bool operator==(const GroundLook &other) const
+    {
+        return inside == other.inside && radius == other.radius && fill == other.fill
+            && pen == other.pen && ratio == other.ratio;
+    }
+};
 
 const QSizeF VexoPushButton::STANDARD_ICON_SIZE_IN_MM(0.0, 4.7);
 const QSizeF VexoPushButton::STANDARD_ICON_MARGIN_IN_MM(0.0, 0.0);
@@ -35,6 +62,7 @@ VexoPushButton::VexoPushButton(QWidget *parent)
     , m_first_line(std::make_unique<TextBlock>())
     , m_second_line(std::make_unique<TextBlock>())
     , m_right_text(std::make_unique<TextBlock>())
+    , m_grounds(std::make_unique<PrintPair<GroundLook>>())
 {
     setupUi();
 }
@@ -417,23 +445,70 @@ void VexoPushButton::splitLabel(const QRectF &upper)
     m_label.second_line = text().mid(m_label.first_line.length());
 }
 
+QColor VexoPushButton::fillOfNow() const
+{
+    return isChecked() || isDown() ? m_background_clicked_color : m_background_color;
+}
+
+// The outline is dear, so it comes from a print; the even area inside is filled.
 void VexoPushButton::drawGround(QPainter *painter, const QRectF &inside)
 {
-    const QColor &fill = isChecked() || isDown() ? m_background_clicked_color : m_background_color;
     if (!m_draw_button_border) {
-        painter->fillRect(inside, fill);
+        painter->fillRect(inside, fillOfNow());
         return;
     }
+    if (painter->deviceTransform().type() > QTransform::TxTranslate) {
+        drawOutline(painter, inside, fillOfNow());
+        return;
+    }
+    const GroundLook look{ inside, m_px_radius, fillOfNow(), m_pen,
+        painter->device()->devicePixelRatioF() };
+    const Print print = m_grounds->get(look, [&] { return printGround(look); });
+    const QRect even = wholeInside(evenGround(inside));
+    const QRect whole(print.position, print.pixmap.size() / look.ratio);
+    painter->fillRect(even, look.fill);
+    for (const QRect &part : QRegion(whole) - even)
+        painter->drawPixmap(QRectF(part), print.pixmap,
+            QRectF(
+                (part.topLeft() - print.position) * look.ratio, QSizeF(part.size()) * look.ratio));
+}
+
+void VexoPushButton::drawOutline(QPainter *painter, const QRectF &inside, const QColor &fill) const
+{
     QPainterPath path;
     path.addRoundedRect(inside, m_px_radius.width(), m_px_radius.height(), Qt::AbsoluteSize);
     painter->fillPath(path, fill);
     painter->strokePath(path, m_pen);
 }
 
+Print VexoPushButton::printGround(const GroundLook &look) const
+{
+    const int line = truncated(look.pen.widthF() / 2) + 1;
+    const QRect area = look.inside.toAlignedRect().adjusted(-line, -line, line, line) & rect();
+    QPixmap pixmap(area.size() * look.ratio);
+    pixmap.setDevicePixelRatio(look.ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(-area.topLeft());
+    drawOutline(&painter, look.inside, look.fill);
+    return { pixmap, area.topLeft() };
+}
+
+// Where the fill is even: between the rounded ends and the outline.
+QRectF VexoPushButton::evenGround(const QRectF &inside) const
+{
+    if (!m_draw_button_border)
+        return inside;
+    const double line = m_pen.widthF() + 1;
+    return inside.adjusted(m_px_radius.width(), line, -m_px_radius.width(), -line);
+}
+
 void VexoPushButton::drawTexts(QPainter *painter, const QRectF &inside)
 {
     const bool has_two_lines = hasTwoLines();
     const double margin = pxX(*m_scaling, double(m_text_mm_margin_x));
+    QRectF ground = evenGround(inside);
     QRectF area = inside;
     area.setLeft(area.left() + margin);
     if (m_right_side_text.isEmpty()) {
@@ -445,15 +520,19 @@ void VexoPushButton::drawTexts(QPainter *painter, const QRectF &inside)
         right.setRight(inside.right() - margin);
         if (has_two_lines)
             right.setTop(height() / 2); // NOLINT(bugprone-integer-division)
-        m_right_text->draw(painter, right, m_right_side_text, m_text_alignment);
+        QRectF right_ground = ground;
+        right_ground.setLeft(area.right());
+        ground.setRight(qMin(ground.right(), right.left()));
+        drawText(painter, m_right_text.get(), right, m_right_side_text, right_ground);
     }
-    drawLabel(painter, area, has_two_lines);
+    drawLabel(painter, area, ground, has_two_lines);
 }
 
-void VexoPushButton::drawLabel(QPainter *painter, const QRectF &area, bool has_two_lines)
+void VexoPushButton::drawLabel(
+    QPainter *painter, const QRectF &area, const QRectF &ground, bool has_two_lines)
 {
     if (!has_two_lines) {
-        m_first_line->draw(painter, area, text(), m_text_alignment);
+        drawText(painter, m_first_line.get(), area, text(), ground);
         return;
     }
     QRectF upper = area;
@@ -461,8 +540,14 @@ void VexoPushButton::drawLabel(QPainter *painter, const QRectF &area, bool has_t
     upper.setBottom(height() / 2); // NOLINT(bugprone-integer-division)
     lower.setTop(upper.bottom());
     splitLabel(upper);
-    m_first_line->draw(painter, upper, m_label.first_line, m_text_alignment);
-    m_second_line->draw(painter, lower, m_label.second_line, m_text_alignment);
+    drawText(painter, m_first_line.get(), upper, m_label.first_line, ground & upper);
+    drawText(painter, m_second_line.get(), lower, m_label.second_line, ground & lower);
+}
+
+void VexoPushButton::drawText(QPainter *painter, TextBlock *block, const QRectF &area,
+    const QString &text, const QRectF &ground)
+{
+    block->draw(painter, area, text, m_text_alignment, { fillOfNow(), ground });
 }
 
 } // namespace vexo::hox::qt::ui

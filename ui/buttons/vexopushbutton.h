@@ -18,6 +18,9 @@ class QFontMetrics;
 
 namespace vexo::hox::qt::ui {
 
+struct Print;
+template <typename Look>
+class PrintPair;
 class ScalingInfo;
 class StyledBackground;
 class TextBlock;
@@ -188,6 +191,8 @@ private:
         QString second_line;
     };
 
+    struct GroundLook;
+
     void change(QColor *color, const QColor &to);
     void storeImage(const QString &path, const QSizeF &mm, ButtonState state);
     ButtonState stateOfNow() const;
@@ -195,9 +200,15 @@ private:
     QColor inkOfNow() const;
     const Label &measuredLabel() const;
     void splitLabel(const QRectF &upper);
+    QColor fillOfNow() const;
     void drawGround(QPainter *painter, const QRectF &inside);
+    void drawOutline(QPainter *painter, const QRectF &inside, const QColor &fill) const;
+    Print printGround(const GroundLook &look) const;
+    QRectF evenGround(const QRectF &inside) const;
     void drawTexts(QPainter *painter, const QRectF &inside);
-    void drawLabel(QPainter *painter, const QRectF &area, bool has_two_lines);
+    void drawLabel(QPainter *painter, const QRectF &area, const QRectF &ground, bool has_two_lines);
+    void drawText(QPainter *painter, TextBlock *block, const QRectF &area, const QString &text,
+        const QRectF &ground);
 
     const ScalingInfo *const m_scaling;
     QSizeF m_mm_icon_size;
@@ -229,6 +240,7 @@ private:
     const std::unique_ptr<TextBlock> m_first_line;
     const std::unique_ptr<TextBlock> m_second_line;
     const std::unique_ptr<TextBlock> m_right_text;
+    const std::unique_ptr<PrintPair<GroundLook>> m_grounds;
     mutable Label m_label;
     QPixmap m_image; // drawn last
     QSize m_image_px; // place for which it was made

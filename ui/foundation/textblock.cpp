@@ -2,7 +2,10 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QPixmap>
 #include <QTextLayout>
+
+#include <cmath>
 
 namespace vexo::hox::qt::ui {
 
@@ -18,14 +21,20 @@ QString drawnCharacters(QString text)
 
 } // namespace
 
+bool TextBlock::Look::operator==(const Look &other) const
+{
+    return ink == other.ink && ground == other.ground && fraction == other.fraction
+        && ratio == other.ratio;
+}
+
 TextBlock::TextBlock(QTextOption::WrapMode wrap_mode)
     : m_wrap_mode(wrap_mode)
 {
     m_text.setTextFormat(Qt::PlainText);
 }
 
-void TextBlock::draw(
-    QPainter *painter, const QRectF &area, const QString &text, Qt::Alignment alignment)
+void TextBlock::draw(QPainter *painter, const QRectF &area, const QString &text,
+    Qt::Alignment alignment, const Ground &ground)
 {
     if (text.isEmpty() || area.isEmpty())
         return;
@@ -35,12 +44,20 @@ void TextBlock::draw(
         painter->drawText(area, text, option(alignment));
         return;
     }
-    double top = area.top();
+    QPointF position = area.topLeft();
     if (alignment & Qt::AlignBottom)
-        top = area.bottom() - m_height;
+        position.setY(area.bottom() - m_height);
     else if (alignment & Qt::AlignVCenter)
-        top += (area.height() - m_height) / 2;
-    painter->drawStaticText(QPointF(area.left(), top), m_text);
+        position.setY(area.top() + (area.height() - m_height) / 2);
+    const QPoint whole(int(std::floor(position.x())), int(std::floor(position.y())));
+    if (!canPrint(*painter, m_extent.translated(whole), ground)) {
+        painter->drawStaticText(position, m_text);
+        return;
+    }
+    const Look look{ painter->pen().color(), ground.color, position - whole,
+        painter->device()->devicePixelRatioF() };
+    const Print print = m_prints.get(look, [&] { return this->print(look); });
+    painter->drawPixmap(whole + print.position, print.pixmap);
 }
 
 bool TextBlock::isLaidOut(
@@ -63,22 +80,29 @@ void TextBlock::layOut(
     m_text.prepare(QTransform(), font);
     // A static text counts the leading of its last line, drawText() does not.
     m_height = m_text.size().height() - qMax(0.0, QFontMetricsF(font).leading());
+    const QRectF lines = coveredByLines();
     // drawText() cuts the ends of a line that is too long, and justifies in a way of its own.
-    m_is_static = widestLine(font, width) <= width && !(alignment & Qt::AlignJustify);
+    m_is_static = lines.width() <= width && !(alignment & Qt::AlignJustify);
+    // Letters may reach a little beyond their lines, accents also above and below.
+    const int beside = font.pixelSize() / 3;
+    const int above = 2;
+    m_extent = lines.toAlignedRect().adjusted(-beside, -above, beside, above);
+    m_prints.forget();
 }
 
-double TextBlock::widestLine(const QFont &font, double width) const
+QRectF TextBlock::coveredByLines() const
 {
-    double widest = 0;
-    QTextLayout layout(m_text.text(), font);
+    QRectF covered;
+    QTextLayout layout(m_text.text(), m_font);
     layout.setTextOption(m_text.textOption());
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width);
-        widest = qMax(widest, line.naturalTextWidth());
+        line.setLineWidth(m_text.textWidth());
+        covered |= line.naturalTextRect();
     }
     layout.endLayout();
-    return widest;
+    covered.setHeight(m_text.size().height());
+    return covered;
 }
 
 QTextOption TextBlock::option(Qt::Alignment alignment) const
@@ -86,6 +110,24 @@ QTextOption TextBlock::option(Qt::Alignment alignment) const
     QTextOption option(alignment);
     option.setWrapMode(m_wrap_mode);
     return option;
+}
+
+bool TextBlock::canPrint(const QPainter &painter, const QRect &place, const Ground &ground) const
+{
+    return ground.color.isValid() && ground.color.alpha() == 255 && ground.area.contains(place)
+        && painter.deviceTransform().type() <= QTransform::TxTranslate;
+}
+
+Print TextBlock::print(const Look &look) const
+{
+    QPixmap pixmap(m_extent.size() * look.ratio);
+    pixmap.setDevicePixelRatio(look.ratio);
+    pixmap.fill(look.ground);
+    QPainter painter(&pixmap);
+    painter.setFont(m_font);
+    painter.setPen(look.ink);
+    painter.drawStaticText(look.fraction - m_extent.topLeft(), m_text);
+    return { pixmap, m_extent.topLeft() };
 }
 
 } // namespace vexo::hox::qt::ui

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "ui/foundation/printpair_p.h"
+
+#include <QColor>
 #include <QFont>
 #include <QRectF>
 #include <QStaticText>
@@ -13,19 +16,43 @@ namespace vexo::hox::qt::ui {
 class TextBlock
 {
 public:
+    /// An area of one opaque colour on which a text lies.
+    struct Ground
+    {
+        QColor color;
+        QRectF area;
+    };
+
     explicit TextBlock(QTextOption::WrapMode wrap_mode = QTextOption::WordWrap);
 
     /// Draws \a text into \a area in the painter's font and pen. Lays out anew only when text,
     /// font, alignment or the width of the area have changed since the last call; but a text that
     /// does not fit into the area, each time.
-    void draw(QPainter *painter, const QRectF &area, const QString &text, Qt::Alignment alignment);
+    ///
+    /// With a \a ground that is already drawn around the text, the pixmap cache keeps the text
+    /// together with it, for two pairs of colours: to blend letters costs several times as much as
+    /// to copy them, and a press changes colours back and forth.
+    void draw(QPainter *painter, const QRectF &area, const QString &text, Qt::Alignment alignment,
+        const Ground &ground = Ground());
 
 private:
+    struct Look
+    {
+        QColor ink;
+        QColor ground;
+        QPointF fraction; // of a px, by which the letters are shifted
+        double ratio = 0; // device pixels per px
+
+        bool operator==(const Look &other) const;
+    };
+
     bool isLaidOut(
         const QFont &font, double width, const QString &text, Qt::Alignment alignment) const;
     void layOut(const QFont &font, double width, const QString &text, Qt::Alignment alignment);
-    double widestLine(const QFont &font, double width) const;
+    QRectF coveredByLines() const;
     QTextOption option(Qt::Alignment alignment) const;
+    bool canPrint(const QPainter &painter, const QRect &place, const Ground &ground) const;
+    Print print(const Look &look) const;
 
     const QTextOption::WrapMode m_wrap_mode;
     QString m_source;
@@ -34,6 +61,8 @@ private:
     QStaticText m_text;
     bool m_is_static = false; // drawn from m_text
     double m_height = 0; // px
+    QRect m_extent; // px, what the letters cover
+    PrintPair<Look> m_prints;
 };
 
 } // namespace vexo::hox::qt::ui

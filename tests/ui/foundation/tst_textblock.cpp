@@ -20,11 +20,13 @@ private Q_SLOTS:
 
 namespace {
 
+const QRect whole_image(0, 0, 220, 150);
 const QRectF areas[] = { { 10, 10, 200, 40 }, { 3.5, 52.25, 150.5, 61 }, { 5, 115, 90, 30 } };
 
-QImage drawn(const QString &text, int px, const QTextOption &option, TextBlock *block = nullptr)
+QImage drawn(const QString &text, int px, const QTextOption &option, TextBlock *block = nullptr,
+    const TextBlock::Ground &ground = {})
 {
-    QImage image(220, 150, QImage::Format_RGB32);
+    QImage image(whole_image.size(), QImage::Format_RGB32);
     image.fill(Qt::white);
     QFont font;
     font.setPixelSize(px);
@@ -32,7 +34,7 @@ QImage drawn(const QString &text, int px, const QTextOption &option, TextBlock *
     painter.setFont(font);
     for (const QRectF &area : areas) {
         if (block)
-            block->draw(&painter, area, text, option.alignment());
+            block->draw(&painter, area, text, option.alignment(), ground);
         else
             painter.drawText(area, text, option);
     }
@@ -65,8 +67,11 @@ void TestTextBlock::looksAsDrawTextDoes()
         for (const Qt::Alignment alignment : alignments) {
             QTextOption option(alignment);
             option.setWrapMode(wrap_mode);
-            for (int px : { 13, 13, 24 }) // the second time everything is laid out
-                QCOMPARE(drawn(text, px, option, &block), drawn(text, px, option));
+            for (int px : { 13, 13, 24 }) { // the second time everything is laid out
+                const QImage expected = drawn(text, px, option);
+                QCOMPARE(drawn(text, px, option, &block), expected);
+                QCOMPARE(drawn(text, px, option, &block, { Qt::white, whole_image }), expected);
+            }
         }
     }
 }

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "ui/foundation/printpair_p.h"
+
+#include <QColor>
+#include <QFont>
+#include <QLabel>
+
+namespace vexo::hox::qt::ui {
+
+/// The text of a row: a label like any other, but drawn once for each of two looks and then copied
+/// from the pixmap cache together with the row's ground. To lay out and blend the letters is most
+/// of what a row costs.
+class RowLabel : public QLabel
+{
+public:
+    explicit RowLabel(QWidget *parent);
+
+    QColor ink() const;
+    /// Replaces the label's palette by the application's with this text colour.
+    void setInk(const QColor &ink);
+    /// Called by the row in each paint, before it has a painter: the label lies on \a ground.
+    void prepare(const QColor &ground);
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    // Everything that can change without an event.
+    struct Look
+    {
+        QString text;
+        int indent = 0;
+        int margin = 0;
+        bool is_wrapped = false;
+        Qt::TextFormat format = Qt::AutoText;
+        Qt::Alignment alignment;
+        QColor ink;
+        QColor ground;
+
+        bool operator==(const Look &other) const;
+    };
+    Look lookOfNow(const QColor &ground) const;
+    Print print(const QColor &ground);
+
+    PrintPair<Look> m_prints;
+    Print m_shown; // for the paint to come; null to paint as any label
+    bool m_is_printing = false;
+    bool m_is_inking = false;
+};
+
+} // namespace vexo::hox::qt::ui
