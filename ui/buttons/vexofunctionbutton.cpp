@@ -12,6 +12,7 @@
 #include "ui/foundation/quietly_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
 
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
@@ -117,6 +118,8 @@ QString VexoFunctionButton::text() const
 void VexoFunctionButton::setText(const QString &text)
 {
     m_label->setText(text);
+    QAccessibleEvent event(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
     update();
 }
 
@@ -299,6 +302,15 @@ void VexoFunctionButton::tickAgreementClicked()
     getButtonInstance()->setChecked(true);
 }
 
+// Of the right-hand widget, which assistive technology takes for a part of the row.
+void VexoFunctionButton::tellChecked()
+{
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
 void VexoFunctionButton::setupLabel()
 {
     m_label->setObjectName(QStringLiteral("vexoFunctionButtonLabel"));
@@ -316,6 +328,8 @@ void VexoFunctionButton::setupRightWidget()
     setAutoExclusive(is_choice);
     m_last_checked = isChecked();
     setDown(m_last_checked);
+    if (auto *button = qobject_cast<QAbstractButton *>(m_right_widget))
+        connect(button, &QAbstractButton::toggled, this, &VexoFunctionButton::tellChecked);
     m_right_widget->setObjectName(QStringLiteral("vexoFunctionButtonWidgetRight"));
     m_layout->addWidget(m_right_widget, 0, Qt::AlignRight);
     setMmRightSpacer(float(rightSpacerMm(m_button_type)));

@@ -143,6 +143,7 @@ private Q_SLOTS:
     void tickAgreementClicked();
 
 private:
+    void tellChecked();
     void setupLabel();
     void setupRightWidget();
     QWidget *createRightWidget();
