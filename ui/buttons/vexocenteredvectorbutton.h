@@ -20,6 +20,8 @@ class VexoIconButton;
 class HOXQUI_EXPORT VexoCenteredVectorButton : public QWidget
 {
     Q_OBJECT
+    // The checker misreads a property that is broken before its type.
+    // clazy:excludeall=qproperty-type-mismatch
 
     /// File of the icon of the state "DEFAULT". Default empty.
     Q_PROPERTY(QString m_icon_path READ iconPath WRITE setIconPath)
