@@ -22,8 +22,10 @@ namespace {
 QPalette panelPalette()
 {
     QPalette palette(VexoColors::C1, VexoColors::C0);
-    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText })
+    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText }) {
         palette.setColor(role, VexoColors::C3);
+        palette.setColor(QPalette::Disabled, role, VexoColors::C6);
+    }
     palette.setColor(QPalette::Highlight, VexoColors::C4);
     palette.setColor(QPalette::HighlightedText, VexoColors::C0);
     return palette;

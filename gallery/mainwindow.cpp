@@ -5,49 +5,34 @@
 #include "gallery/pagelist.h"
 #include "gallery/panelfoot.h"
 #include "gallery/widgets/fingerscroll.h"
+#include "gallery/widgets/ground.h"
 
 #include <CachedVectorIcon>
 #include <VexoColors>
+#include <VexoFunctionButton>
 
 #include <QCoreApplication>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QLabel>
-#include <QListWidget>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStackedWidget>
+#include <QVBoxLayout>
 
 using namespace vexo::hox::qt::ui;
 
 namespace {
 
-const double side_bar_width_in_mm = 40;
-const int toolkit_margin_px = 3; // in front of an item's text
+const double indent_in_mm = 5;
 
-QString listSheet()
-{
-    const QString sheet = "QListWidget { border: none; outline: none; }"
-                          "QListWidget::item { color: %1; padding-left: %2px;"
-                          " border-left: %3px solid transparent; }"
-                          "QListWidget::item:selected { color: %4; background: %5;"
-                          " border-left-color: %6; }";
-    return sheet.arg(VexoColors::C3.name())
-        .arg(qMax(0, mmX(4) - toolkit_margin_px))
-        .arg(mmX(1))
-        .arg(VexoColors::C0.name(), VexoColors::C4.name(), VexoColors::C7.name());
-}
-
-// Wide enough for the longest word: the titles wrap.
+// Wide enough for the longest title on one line, its arrow and the scroll bar.
 int sideBarWidth(const QFont &font)
 {
-    int word_px = 0;
-    for (const PageEntry &page : pageList()) {
-        const QStringList words = page.title.split(' ');
-        for (const QString &word : words)
-            word_px = qMax(word_px, QFontMetrics(font).horizontalAdvance(word));
-    }
-    return qMax(mmX(side_bar_width_in_mm), word_px + mmX(10));
+    int title_px = 0;
+    for (const PageEntry &page : pageList())
+        title_px = qMax(title_px, QFontMetrics(font).horizontalAdvance(page.title));
+    return title_px + mmX(indent_in_mm + 8.5);
 }
 
 QLabel *createLogo()
@@ -64,14 +49,13 @@ QLabel *createLogo()
 } // namespace
 
 MainWindow::MainWindow()
-    : m_list(new QListWidget)
+    : m_row_area(new QScrollArea)
     , m_stack(new QStackedWidget)
 {
     setWindowTitle("HoxqUi gallery");
     setAttribute(Qt::WA_StyledBackground);
     for (int page = 0; page < pageList().size(); ++page)
         m_areas += createArea();
-    setUpList();
 
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -86,7 +70,8 @@ MainWindow::MainWindow()
 
 void MainWindow::showPage(int page)
 {
-    m_list->setCurrentRow(page);
+    m_rows.at(page)->setChecked(true);
+    bringRowIntoView();
 }
 
 void MainWindow::showWholePage()
@@ -101,36 +86,50 @@ void MainWindow::showWholePage()
     QCoreApplication::sendPostedEvents();
 }
 
+void MainWindow::resizeEvent(QResizeEvent *)
+{
+    bringRowIntoView();
+}
+
 QWidget *MainWindow::createSideBar()
 {
-    auto *bar = new QWidget;
-    bar->setFixedWidth(sideBarWidth(m_list->font()));
-    bar->setAutoFillBackground(true);
-    QPalette colors = palette();
-    colors.setColor(QPalette::Window, VexoColors::C1);
-    bar->setPalette(colors);
+    m_row_area->setFrameShape(QFrame::NoFrame);
+    m_row_area->setWidgetResizable(true);
+    m_row_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_row_area->setWidget(createRows());
+    scrollRowsByFinger(m_row_area);
 
+    auto *bar = new QWidget;
+    setGround(bar, VexoColors::C1);
+    bar->setFixedWidth(sideBarWidth(m_rows.first()->getLabelInstance()->font()));
     auto *layout = new QVBoxLayout(bar);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(createLogo());
-    layout->addWidget(m_list, 1);
+    layout->addWidget(m_row_area, 1);
     return bar;
 }
 
-void MainWindow::setUpList()
+QWidget *MainWindow::createRows()
 {
-    m_list->setStyleSheet(listSheet());
-    m_list->setFont(ptFont(9, QFont::Normal));
-    m_list->setWordWrap(true);
-    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scrollByFinger(m_list);
-    for (const PageEntry &page : pageList()) {
-        auto *item = new QListWidgetItem(page.title, m_list);
-        item->setSizeHint(mmSize(10, 10));
+    auto *rows = new QWidget;
+    auto *column = new QVBoxLayout(rows);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    for (int page = 0; page < pageList().size(); ++page) {
+        auto *row = new Row(rows, Row::FullsizeRadiobuttonType);
+        row->setText(pageList().at(page).title);
+        row->setMmIndent(indent_in_mm);
+        row->setMmRightSpacer(1);
+        connect(row, &Row::stateChanged, this, [this, page](bool is_chosen) {
+            if (is_chosen)
+                buildPage(page);
+        });
+        column->addWidget(row);
+        m_rows += row;
     }
-    connect(m_list, &QListWidget::currentRowChanged, this, &MainWindow::buildPage);
+    column->addStretch();
+    return rows;
 }
 
 QScrollArea *MainWindow::createArea()
@@ -138,17 +137,28 @@ QScrollArea *MainWindow::createArea()
     auto *area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
-    scrollByFinger(area);
     m_stack->addWidget(area);
     return area;
 }
 
-void MainWindow::buildPage(int page)
+void MainWindow::buildPage(int index)
 {
-    if (page < 0)
-        return;
-    QScrollArea *area = m_areas.at(page);
-    if (!area->widget())
-        area->setWidget(pageList().at(page).build());
-    m_stack->setCurrentIndex(page);
+    QScrollArea *area = m_areas.at(index);
+    if (!area->widget()) {
+        Page *page = pageList().at(index).build();
+        area->setWidget(page);
+        if (page->kind() == Page::Controls)
+            scrollByFinger(area);
+        else if (page->kind() == Page::Rows)
+            scrollRowsByFinger(area);
+    }
+    m_stack->setCurrentIndex(index);
+}
+
+// Once everything has its place.
+void MainWindow::bringRowIntoView()
+{
+    const auto bring
+        = [this] { m_row_area->ensureWidgetVisible(m_rows.at(m_stack->currentIndex()), 0, 0); };
+    QMetaObject::invokeMethod(this, bring, Qt::QueuedConnection);
 }

@@ -3,11 +3,14 @@
 #include <QVector>
 #include <QWidget>
 
-class QListWidget;
 class QScrollArea;
 class QStackedWidget;
 
-/// The shell: pages in a list at the left, the page at the right, the panel's figures at the foot.
+namespace vexo::hox::qt::ui {
+class VexoFunctionButton;
+}
+
+/// The shell: pages as rows at the left, the page at the right, the panel's figures at the foot.
 /// Its name is the one that the panel's stylesheet gives a ground.
 class MainWindow : public QWidget
 {
@@ -21,13 +24,20 @@ public:
     /// Grows the window until the page is seen without scrolling, and takes its scroll bars away.
     void showWholePage();
 
-private:
-    QWidget *createSideBar();
-    void setUpList();
-    QScrollArea *createArea();
-    void buildPage(int page);
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
-    QListWidget *m_list;
+private:
+    using Row = vexo::hox::qt::ui::VexoFunctionButton;
+
+    QWidget *createSideBar();
+    QWidget *createRows();
+    QScrollArea *createArea();
+    void buildPage(int index);
+    void bringRowIntoView();
+
+    QScrollArea *m_row_area;
     QStackedWidget *m_stack;
+    QVector<Row *> m_rows;
     QVector<QScrollArea *> m_areas;
 };

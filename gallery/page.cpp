@@ -5,8 +5,9 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-Page::Page(const QString &title, const QString &summary)
+Page::Page(const QString &title, const QString &summary, Kind kind)
     : m_layout(new QVBoxLayout)
+    , m_kind(kind)
 {
     auto *frame = new QVBoxLayout(this);
     frame->setContentsMargins(mmX(6), mmY(6), mmX(6), mmY(8));
@@ -16,6 +17,14 @@ Page::Page(const QString &title, const QString &summary)
     m_layout->addWidget(createText(title, 13, QFont::Medium));
     m_layout->addSpacing(mmY(1));
     m_layout->addWidget(createText(summary));
+}
+
+Page::Page()
+    : m_layout(new QVBoxLayout(this))
+    , m_kind(Screen)
+{
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(0);
 }
 
 void Page::addSection(const QString &heading)
@@ -42,4 +51,13 @@ QLabel *Page::createText(const QString &text, double pt, int weight)
     label->setFont(ptFont(pt, weight));
     label->setWordWrap(true);
     return label;
+}
+
+QLayout *Page::createCaptioned(QWidget *widget, const QString &caption)
+{
+    auto *tile = new QVBoxLayout;
+    tile->setSpacing(mmY(1));
+    tile->addWidget(widget);
+    tile->addWidget(createText(caption), 1, Qt::AlignTop);
+    return tile;
 }

@@ -12,7 +12,20 @@ class QVBoxLayout;
 class Page : public QWidget
 {
 public:
-    Page(const QString &title, const QString &summary);
+    enum Kind {
+        Controls, ///< buttons react at once
+        Rows, ///< for rows that are swiped, see scrollRowsByFinger()
+        Screen ///< no title and no margins; it scrolls inside itself
+    };
+
+    Page(const QString &title, const QString &summary, Kind kind = Controls);
+    /// A Screen.
+    Page();
+
+    Kind kind() const { return m_kind; }
+
+    /// A label that wraps its text; \a pt high.
+    static QLabel *createText(const QString &text, double pt = 7, int weight = QFont::Light);
 
 protected:
     /// Starts a section.
@@ -21,9 +34,10 @@ protected:
     void addBlock(QWidget *block);
     void addBlock(QLayout *block);
 
-    /// A label that wraps its text; \a pt high.
-    static QLabel *createText(const QString &text, double pt = 7, int weight = QFont::Light);
+    /// A widget with a caption below it.
+    static QLayout *createCaptioned(QWidget *widget, const QString &caption);
 
 private:
     QVBoxLayout *m_layout;
+    Kind m_kind;
 };

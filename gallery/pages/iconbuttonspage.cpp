@@ -9,7 +9,6 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QVBoxLayout>
 
 using namespace vexo::hox::qt::ui;
 
@@ -84,11 +83,7 @@ void IconButtonsPage::addStates()
     addSection("States");
     auto *tiles = new TileLayout(mmX(18), mmSize(4, 4));
     const auto add = [tiles](QWidget *widget, const QString &caption) {
-        auto *column = new QVBoxLayout;
-        column->setSpacing(mmY(1));
-        column->addWidget(widget);
-        column->addWidget(createText(caption));
-        tiles->addItem(column);
+        tiles->addLayout(createCaptioned(widget, caption));
     };
     add(onGround(createButton("Plus"), VexoColors::C1), "default");
     VexoIconButton *clicked = createButton("Plus, checked");

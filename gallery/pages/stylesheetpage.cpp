@@ -1,6 +1,7 @@
 #include "gallery/pages/stylesheetpage.h"
 
 #include "gallery/measures.h"
+#include "gallery/widgets/plainbutton.h"
 
 #include <VexoColors>
 
@@ -11,23 +12,11 @@
 #include <QPainter>
 #include <QRadioButton>
 #include <QSlider>
-#include <QStyleFactory>
-#include <QStyleOptionButton>
 #include <QStyleOptionSlider>
-
-#include <memory>
 
 using vexo::hox::qt::ui::VexoColors;
 
 namespace {
-
-// The application's stylesheet reaches each widget, whatever style is set on it: a widget without
-// it has to paint and measure itself by a style of its own.
-const QStyle &plainStyle()
-{
-    static const std::unique_ptr<QStyle> style(QStyleFactory::create("fusion"));
-    return *style;
-}
 
 // Follows another widget and takes no input.
 void setUpMirror(QWidget *mirror)
@@ -36,40 +25,17 @@ void setUpMirror(QWidget *mirror)
     mirror->setFocusPolicy(Qt::NoFocus);
 }
 
-template <typename Button, QStyle::ControlElement element, QStyle::ContentsType contents>
-class PlainButton : public Button
+template <typename Plain, typename Original>
+Plain *createPlain(const Original *original)
 {
-public:
-    explicit PlainButton(const Button *original)
-        : Button(original->text())
-    {
-        setUpMirror(this);
-        this->setAutoExclusive(false); // it follows, it does not choose
-        this->setChecked(original->isChecked());
-        QObject::connect(original, &Button::toggled, this, &Button::setChecked);
-    }
-
-    QSize sizeHint() const override
-    {
-        QStyleOptionButton option;
-        this->initStyleOption(&option);
-        const QFontMetrics metrics = this->fontMetrics();
-        const QSize text(metrics.horizontalAdvance(this->text()), metrics.height());
-        return plainStyle().sizeFromContents(contents, &option, text, nullptr);
-    }
-
-protected:
-    void paintEvent(QPaintEvent *) override
-    {
-        QStyleOptionButton option;
-        this->initStyleOption(&option);
-        QPainter painter(this);
-        plainStyle().drawControl(element, &option, &painter);
-    }
-};
-
-using PlainCheckBox = PlainButton<QCheckBox, QStyle::CE_CheckBox, QStyle::CT_CheckBox>;
-using PlainRadioButton = PlainButton<QRadioButton, QStyle::CE_RadioButton, QStyle::CT_RadioButton>;
+    auto *plain = new Plain;
+    setUpMirror(plain);
+    plain->setText(original->text());
+    plain->setAutoExclusive(false); // it follows, it does not choose
+    plain->setChecked(original->isChecked());
+    QObject::connect(original, &Original::toggled, plain, &Plain::setChecked);
+    return plain;
+}
 
 class PlainSlider : public QSlider
 {
@@ -157,7 +123,7 @@ void StylesheetPage::addCheckBox()
         box->setChecked(checked);
         const int row = comparison->rowCount();
         comparison->addWidget(box, row, 0);
-        comparison->addWidget(new PlainCheckBox(box), row, 1);
+        comparison->addWidget(createPlain<PlainCheckBox<QCheckBox>>(box), row, 1);
     }
     addRules("QCheckBox");
 }
@@ -170,7 +136,7 @@ void StylesheetPage::addRadioButtons()
         button->setChecked(checked);
         const int row = comparison->rowCount();
         comparison->addWidget(button, row, 0);
-        comparison->addWidget(new PlainRadioButton(button), row, 1);
+        comparison->addWidget(createPlain<PlainRadioButton<QRadioButton>>(button), row, 1);
     }
     addRules("QRadioButton");
 }

@@ -22,10 +22,27 @@ QString scrollBarSheet()
     return sheet.arg(mmX(2.4)).arg(VexoColors::C6.name()).arg(mmY(10)).arg(mmX(0.6));
 }
 
+void scroll(QAbstractScrollArea *area, QScroller::ScrollerGestureType gesture)
+{
+    area->verticalScrollBar()->setStyleSheet(scrollBarSheet());
+    QScroller::grabGesture(area->viewport(), gesture);
+}
+
 } // namespace
 
 void scrollByFinger(QAbstractScrollArea *area)
 {
-    area->verticalScrollBar()->setStyleSheet(scrollBarSheet());
-    QScroller::grabGesture(area->viewport(), QScroller::TouchGesture);
+    scroll(area, QScroller::TouchGesture);
+}
+
+void scrollRowsByFinger(QAbstractScrollArea *area)
+{
+    scroll(area, QScroller::LeftMouseButtonGesture); // a touch becomes one, where rows take it
+    QScroller *scroller = QScroller::scroller(area->viewport());
+    QScrollerProperties properties = scroller->scrollerProperties();
+    properties.setScrollMetric(QScrollerProperties::MousePressEventDelay, 0.15);
+    const auto overshoot = QVariant::fromValue(QScrollerProperties::OvershootAlwaysOff);
+    properties.setScrollMetric(QScrollerProperties::VerticalOvershootPolicy, overshoot);
+    properties.setScrollMetric(QScrollerProperties::HorizontalOvershootPolicy, overshoot);
+    scroller->setScrollerProperties(properties);
 }

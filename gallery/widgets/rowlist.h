@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QWidget>
+
+class QVBoxLayout;
+
+/// Rows below each other with lines of 1 px between them and around all.
+class RowList : public QWidget
+{
+public:
+    RowList();
+
+    /// Appends \a row, which now belongs to the list.
+    void addRow(QWidget *row);
+
+private:
+    QVBoxLayout *m_layout;
+};
