@@ -1,10 +1,16 @@
 #include "gallery/pagelist.h"
 
+#include "gallery/pages/checkandradiopage.h"
 #include "gallery/pages/iconbuttonspage.h"
+#include "gallery/pages/icontilespage.h"
 #include "gallery/pages/imagespage.h"
 #include "gallery/pages/keyboardpage.h"
 #include "gallery/pages/measuredbuttonpage.h"
 #include "gallery/pages/palettepage.h"
+#include "gallery/pages/pushbuttonspage.h"
+#include "gallery/pages/rowspage.h"
+#include "gallery/pages/settingspage.h"
+#include "gallery/pages/stepperpage.h"
 #include "gallery/pages/stylesheetpage.h"
 #include "gallery/pages/tilespage.h"
 #include "gallery/pages/typepage.h"
@@ -29,7 +35,13 @@ const QVector<PageEntry> &pageList()
         { "measured-button", "Measured button", build<MeasuredButtonPage> },
         { "icon-buttons", "Icon buttons", build<IconButtonsPage> },
         { "tiles", "Tiles", build<TilesPage> },
+        { "icon-tiles", "Tiles with icons", build<IconTilesPage> },
         { "keyboard", "Keyboard", build<KeyboardPage> },
+        { "push-buttons", "Push buttons", build<PushButtonsPage> },
+        { "rows", "Rows", build<RowsPage> },
+        { "check-and-radio", "Check and radio", build<CheckAndRadioPage> },
+        { "stepper", "Stepper", build<StepperPage> },
+        { "settings", "Settings screen", build<SettingsPage> },
     };
     return pages;
 }

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "gallery/page.h"
+
+/// Tiles of fixed size with a centred icon that is pressed.
+class IconTilesPage : public Page
+{
+public:
+    IconTilesPage();
+
+private:
+    void addTiles();
+    void addStates();
+    void addMeasures();
+};

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "gallery/page.h"
+
+class TileLayout;
+
+/// Push buttons in their looks: outline, images, second text, two lines, states, colours.
+class PushButtonsPage : public Page
+{
+public:
+    PushButtonsPage();
+
+private:
+    void addOutlines();
+    void addImages();
+    void addHiddenImage();
+    void addTexts();
+    void addStates();
+    void addColors();
+    TileLayout *addTiles(const QString &heading);
+};

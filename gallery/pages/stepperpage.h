@@ -1,0 +1,10 @@
+#pragma once
+
+#include "gallery/page.h"
+
+/// The number stepper with different ranges, steps and colours.
+class StepperPage : public Page
+{
+public:
+    StepperPage();
+};
