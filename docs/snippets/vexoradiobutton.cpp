@@ -1,0 +1,20 @@
+//! [page]
+#include <VexoRadioButton>
+
+#include <QVBoxLayout>
+
+using namespace vexo::hox::qt::ui;
+
+// Those below one parent exclude each other; a swipe across them chooses none.
+QWidget *createUnitChoice()
+{
+    auto *choice = new QWidget;
+    auto *column = new QVBoxLayout(choice);
+    for (const char *unit : { "Celsius", "Fahrenheit" }) {
+        auto *button = new VexoRadioButton(choice);
+        button->setText(unit);
+        column->addWidget(button);
+    }
+    return choice;
+}
+//! [page]
