@@ -24,6 +24,9 @@ public:
         return m_paints.take(widget);
     }
 
+    /// The same without the event loop, up to now.
+    int taken(QWidget *widget) { return m_paints.take(widget); }
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override
     {

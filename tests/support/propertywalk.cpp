@@ -3,12 +3,20 @@
 #include <ActiveButton>
 #include <ActiveVectorButton>
 #include <MeasuredPushButton>
+#include <VexoCenteredVectorButton>
+#include <VexoCheckBox>
 #include <VexoDesignVectorButton>
+#include <VexoFunctionButton>
+#include <VexoHorizontalTextIconButton>
 #include <VexoIconButton>
 #include <VexoKeyboardButton>
+#include <VexoNumericButton>
+#include <VexoPushButton>
+#include <VexoRadioButton>
 
 #include <QColor>
 #include <QMetaProperty>
+#include <QPixmap>
 #include <QPointF>
 #include <QSizeF>
 #include <QVariant>
@@ -23,6 +31,14 @@ QWidget *make(QWidget *parent)
     return new Widget(parent);
 }
 
+// Its value is clamped.
+QWidget *makeStepper(QWidget *parent)
+{
+    auto *stepper = new VexoNumericButton(parent);
+    stepper->setMaximum(100);
+    return stepper;
+}
+
 } // namespace
 
 const std::vector<WalkedClass> &walkedClasses()
@@ -31,14 +47,23 @@ const std::vector<WalkedClass> &walkedClasses()
         { "ActiveButton", make<ActiveButton> },
         { "ActiveVectorButton", make<ActiveVectorButton> },
         { "MeasuredPushButton", make<MeasuredPushButton> },
+        { "VexoCenteredVectorButton", make<VexoCenteredVectorButton> },
+        { "VexoCheckBox", make<VexoCheckBox> },
         { "VexoDesignVectorButton", make<VexoDesignVectorButton> },
+        { "VexoFunctionButton", make<VexoFunctionButton> },
+        { "VexoHorizontalTextIconButton", make<VexoHorizontalTextIconButton> },
         { "VexoIconButton", make<VexoIconButton> },
         { "VexoKeyboardButton", make<VexoKeyboardButton> },
+        { "VexoNumericButton", makeStepper },
+        { "VexoPushButton", make<VexoPushButton> },
+        { "VexoRadioButton", make<VexoRadioButton> },
     };
     return classes;
 }
 
 namespace {
+
+const QString IMAGE = QStringLiteral(":/cb_checked"); // for the stylesheet
 
 QVariant otherEnumerator(const QMetaProperty &property, int current)
 {
@@ -62,6 +87,8 @@ QVariant otherValue(const QMetaProperty &property, const QVariant &value, int st
         return value.toInt() + step;
     case QMetaType::Double:
         return value.toDouble() + step;
+    case QMetaType::Float:
+        return value.toFloat() + float(step);
     case QMetaType::QString:
         return QStringLiteral("text %1").arg(step);
     case QMetaType::QColor:
@@ -70,6 +97,8 @@ QVariant otherValue(const QMetaProperty &property, const QVariant &value, int st
         return value.toSizeF() + QSizeF(step, step);
     case QMetaType::QPointF:
         return value.toPointF() + QPointF(step, step);
+    case QMetaType::QPixmap:
+        return QPixmap(step == 3 ? QStringLiteral(":/rb_checked") : IMAGE);
     default:
         return QVariant();
     }
@@ -78,9 +107,11 @@ QVariant otherValue(const QMetaProperty &property, const QVariant &value, int st
 QString cssText(const QMetaProperty &property, const QVariant &value)
 {
     if (property.isEnumType())
-        return QLatin1String(property.enumerator().valueToKeys(value.toInt()));
+        return QLatin1String(property.enumerator().valueToKey(value.toInt()));
     if (value.userType() == QMetaType::QColor)
         return value.value<QColor>().name();
+    if (value.userType() == QMetaType::QPixmap)
+        return QStringLiteral("url(%1)").arg(IMAGE);
     return QLatin1Char('"') + value.toString() + QLatin1Char('"');
 }
 
@@ -103,7 +134,8 @@ bool takesByStylesheet(const QMetaProperty &property, QWidget *widget)
     // The toolkit's stylesheets know no pair of numbers.
     if (other.userType() == QMetaType::QSizeF || other.userType() == QMetaType::QPointF)
         return true;
-    widget->setStyleSheet(QStringLiteral("* { qproperty-%1: %2; }")
+    widget->setObjectName(QStringLiteral("walked")); // not its children
+    widget->setStyleSheet(QStringLiteral("#walked { qproperty-%1: %2; }")
                               .arg(QLatin1String(property.name()), cssText(property, other)));
     widget->ensurePolished();
     return holds(property, widget, other);

@@ -1,0 +1,308 @@
+#include "support/iconfiles.h"
+#include "support/paintcounter.h"
+#include "support/panelscale.h"
+#include "support/testcase.h"
+#include "support/touch.h"
+
+#include <VexoFunctionButton>
+
+#include <QAccessible>
+#include <QLabel>
+#include <QLayout>
+#include <QTest>
+
+using namespace vexo::hox::qt::ui;
+
+namespace {
+
+using Row = VexoFunctionButton;
+using Type = Row::VexoFunctionButtonType;
+const Type TYPES[] = { Row::CheckboxType, Row::ActionType, Row::RadiobuttonType,
+    Row::FullsizeRadiobuttonType, Row::TickAgreementType };
+const QPoint INSIDE(20, 15);
+
+/// A row in loud colours. Those names are also those that lookOf() gives.
+struct LoudRow : Row
+{
+    explicit LoudRow(Type type, QWidget *parent = nullptr)
+        : Row(parent, type)
+    {
+        setText(QStringLiteral("MMM"));
+        setTextColor(QColor("blue"));
+        setTextClickedColor(QColor("cyan"));
+        setTextInactiveColor(QColor("gray"));
+        setBackgroundColor(QColor("yellow"));
+        setBackgroundClickedColor(QColor("green"));
+        resize(400, height());
+    }
+    bool hasArrow() const { return getButtonInstance() == this; }
+    QLayoutItem *part(int index) const { return layout()->itemAt(index); }
+};
+
+/// Colours of text, ground and arrow (C3, C0, 220) as they are shown, such as "blue yellow
+/// #3c3c3c".
+QByteArray lookOf(LoudRow *row)
+{
+    const QImage image = row->grab().toImage();
+    const auto *label = qobject_cast<QLabel *>(row->part(1)->widget());
+    const QImage arrow = label ? label->pixmap(Qt::ReturnByValue).toImage() : QImage();
+    QByteArrayList look;
+    for (const char *color :
+        { "blue", "cyan", "gray", "yellow", "green", "#3c3c3c", "#ffffff", "#dcdcdc" }) {
+        if (!boxOf(*color == '#' ? arrow : image, QColor(color)).isEmpty())
+            look += color;
+    }
+    return look.join(' ');
+}
+
+const QByteArray UP("blue yellow #3c3c3c");
+const QByteArray DARK("cyan green #ffffff");
+const QByteArray OFF("gray yellow #dcdcdc");
+
+} // namespace
+
+class TestVexoFunctionButton : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyTypeTellsATapFromASwipe();
+    void fullRowsExcludeEachOther();
+    void looksFollowTheState();
+    void eachPartIsPaintedOncePerChange();
+    void measuresAreMillimetres();
+    void typeMayChangeInAnyState_data();
+    void typeMayChangeInAnyState();
+    void mayChangeAndBeDeletedInSignals();
+    void endedPressDoesNotClick();
+    void isOneAccessibleObject();
+
+private:
+    const PanelScale m_scale{ 10, 20 };
+};
+
+void TestVexoFunctionButton::everyTypeTellsATapFromASwipe()
+{
+    const QByteArray right("pressed; right toggled 1; right clicked 1; clicked 0; ");
+    const QByteArray told[] = { right, "down pressed; clicked 0; ", right,
+        "pressed; state 1; toggled 1; clicked 0; ", "pressed; " };
+    Row limits;
+    for (int px : { 3, 2, 24, 25 }) {
+        limits.setMouseMoveDelta(px);
+        QCOMPARE(limits.getMouseMoveDelta(), qBound(3, px, 24));
+    }
+    for (const Type type : TYPES) {
+        LoudRow row(type);
+        QByteArray log;
+        connect(&row, &Row::pressed, this, [&] { log += row.isDown() ? "down " : ""; });
+        connect(&row, &Row::stateChanged, this,
+            [&](bool on) { log += on ? "state 1; " : "state 0; "; });
+        record(&row, &log);
+        if (row.getButtonInstance() != &row)
+            record(row.getButtonInstance(), &log, "right ");
+        for (const QPoint &away : { INSIDE + QPoint(11, 0), INSIDE - QPoint(0, 11) }) {
+            log.clear();
+            touch(&row, { INSIDE, away, INSIDE });
+            QCOMPARE(log, QByteArray(type == Row::ActionType ? "down pressed; " : "pressed; "));
+            QVERIFY(!row.isDown());
+        }
+        log.clear();
+        touch(&row, { INSIDE, INSIDE + QPoint(-10, 10) });
+        QCOMPARE(log, told[type]);
+        QCOMPARE(row.isDown(), type == Row::FullsizeRadiobuttonType);
+        for (int i = 0; i < 2 && type == Row::TickAgreementType; ++i) {
+            touch(row.getButtonInstance());
+            QVERIFY(row.getButtonInstance()->isChecked()); // and stays it
+        }
+    }
+}
+
+void TestVexoFunctionButton::fullRowsExcludeEachOther()
+{
+    QWidget list;
+    LoudRow first(Row::FullsizeRadiobuttonType, &list);
+    LoudRow second(Row::FullsizeRadiobuttonType, &list);
+    touch(&first);
+    QCOMPARE(lookOf(&first), DARK);
+    QByteArray log;
+    record(&first, &log, "1 ");
+    record(&second, &log, "2 ");
+    connect(&first, &Row::stateChanged, this, [&](bool on) { log += on ? "1 on; " : "1 off; "; });
+    touch(&first); // stays chosen
+    touch(&second);
+    QCOMPARE(log,
+        QByteArray("1 pressed; 1 clicked 0; 2 pressed; 1 off; 1 toggled 0; 2 toggled 1; "
+                   "2 clicked 0; "));
+    QCOMPARE(lookOf(&first), UP);
+    QCOMPARE(lookOf(&second), DARK);
+    second.setEnabled(false);
+    QCOMPARE(lookOf(&second), QByteArray("gray green #dcdcdc"));
+}
+
+void TestVexoFunctionButton::looksFollowTheState()
+{
+    for (const Type type : TYPES) {
+        LoudRow row(type);
+        const QByteArray up = row.hasArrow() ? UP : "blue yellow";
+        const QByteArray off = row.hasArrow() ? OFF : "gray yellow";
+        QCOMPARE(lookOf(&row), up);
+        row.setDown(true);
+        QCOMPARE(lookOf(&row), row.hasArrow() ? DARK : up);
+        row.setEnabled(false);
+        QCOMPARE(lookOf(&row), off);
+        QCOMPARE(lookOf(&row), off);
+        row.setEnabled(true);
+        QCOMPARE(lookOf(&row), up);
+    }
+}
+
+void TestVexoFunctionButton::eachPartIsPaintedOncePerChange()
+{
+    QWidget window;
+    LoudRow row(Row::ActionType, &window);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    PaintCounter paints;
+    const QVector<QWidget *> parts{ &row, row.getLabelInstance(), row.part(1)->widget() };
+    for (QWidget *part : parts)
+        paints.watch(part);
+    const auto painted = [&] {
+        QVector<int> counts;
+        for (QWidget *part : parts)
+            counts += paints.take(part);
+        return counts;
+    };
+    painted();
+    QCOMPARE(painted(), QVector<int>(3, 0)); // at rest
+    finger(&row, QEvent::MouseButtonPress, INSIDE);
+    QCOMPARE(painted(), QVector<int>(3, 1));
+    finger(&row, QEvent::MouseButtonRelease, INSIDE);
+    QCOMPARE(painted(), QVector<int>(3, 1));
+    row.setEnabled(false);
+    QCOMPARE(painted(), QVector<int>(3, 1));
+    row.hide();
+    QCOMPARE(propertiesWithoutOneRepaint(&row),
+        (QByteArrayList{ "m_button_type", // the new part shows a round later
+            "m_text_font_size_in_pt" }));
+}
+
+void TestVexoFunctionButton::measuresAreMillimetres()
+{
+    LoudRow row(Row::CheckboxType);
+    const auto gap = [&] {
+        row.layout()->activate();
+        return row.width() - 1 - row.part(1)->geometry().right();
+    };
+    QCOMPARE(row.height(), 196);
+    QCOMPARE(row.getLabelInstance()->indent(), 30);
+    QCOMPARE(row.getLabelInstance()->font().pixelSize(), 63); // 9 pt = 63.5 px
+    QCOMPARE(row.getLabelInstance()->font().weight(), 57);
+    QCOMPARE(gap(), 20);
+    for (float mm : { 1.59F, -1.0F, std::numeric_limits<float>::quiet_NaN() })
+        row.setMmRightSpacer(mm);
+    QCOMPARE(gap(), 15);
+    row.setButtonType(Row::ActionType);
+    QCOMPARE(gap(), 30);
+    QWidget buddy;
+    QCOMPARE(row.addVisibleBuddy(&buddy), &buddy);
+    QVERIFY(buddy.testAttribute(Qt::WA_WState_ExplicitShowHide)); // hidden at once
+}
+
+void TestVexoFunctionButton::typeMayChangeInAnyState_data()
+{
+    QTest::addColumn<Type>("from");
+    QTest::addColumn<Type>("to");
+    QTest::addColumn<QByteArray>("look");
+    QTest::newRow("pressed") << Row::ActionType << Row::FullsizeRadiobuttonType << UP;
+    QTest::newRow("off") << Row::CheckboxType << Row::ActionType << OFF;
+    QTest::newRow("on") << Row::FullsizeRadiobuttonType << Row::ActionType << UP;
+    QTest::newRow("on box") << Row::FullsizeRadiobuttonType << Row::CheckboxType
+                            << QByteArray("blue yellow");
+    QTest::newRow("on still") << Row::FullsizeRadiobuttonType << Row::FullsizeRadiobuttonType
+                              << DARK;
+}
+
+void TestVexoFunctionButton::typeMayChangeInAnyState()
+{
+    QFETCH(Type, from);
+    QFETCH(Type, to);
+    const QByteArray state(QTest::currentDataTag());
+    LoudRow row(from);
+    row.setChecked(state.startsWith("on"));
+    row.setEnabled(state != "off");
+    finger(&row, QEvent::MouseButtonPress, INSIDE);
+    lookOf(&row);
+    row.setButtonType(to);
+    QTEST(lookOf(&row), "look");
+    finger(&row, QEvent::MouseButtonRelease, INSIDE);
+    row.setButtonType(Row::CheckboxType);
+    row.setButtonType(Row::FullsizeRadiobuttonType);
+    int changes = 0; // the choice is forgotten
+    connect(&row, &Row::stateChanged, this, [&] { ++changes; });
+    row.setChecked(true);
+    QCOMPARE(changes, 1);
+}
+
+void TestVexoFunctionButton::mayChangeAndBeDeletedInSignals()
+{
+    QVERIFY(ringsOnce<Row>());
+    for (const Type type : TYPES) {
+        QVERIFY(isGoneAfter(&QAbstractButton::pressed, new LoudRow(type)));
+        if (type != Row::TickAgreementType)
+            QVERIFY(isGoneAfter(&QAbstractButton::clicked, new LoudRow(type)));
+        const auto next = Type((type + 1) % 5);
+        for (const bool of_part : { false, true }) {
+            LoudRow row(type);
+            QAbstractButton *button = of_part ? row.getButtonInstance() : &row;
+            const auto change = [&] { row.setButtonType(next); };
+            connect(button, &QAbstractButton::clicked, this, change);
+            touch(of_part && type == Row::TickAgreementType ? button : &row);
+            QCOMPARE(row.property("m_button_type").toInt(), type == 4 && !of_part ? 4 : next);
+        }
+    }
+}
+
+void TestVexoFunctionButton::endedPressDoesNotClick()
+{
+    QWidget window;
+    LoudRow row(Row::ActionType, &window);
+    window.show();
+    QByteArray log;
+    record(&row, &log);
+    for (const bool hides : { false, true }) {
+        finger(&row, QEvent::MouseButtonPress, INSIDE);
+        finger(&row, QEvent::MouseMove, INSIDE * 3);
+        row.setVisible(!hides);
+        row.setEnabled(hides);
+        QVERIFY(!row.isDown());
+        row.setEnabled(true);
+        touch(&row); // the move is forgotten
+        QVERIFY(log.endsWith("clicked 0; "));
+    }
+}
+
+void TestVexoFunctionButton::isOneAccessibleObject()
+{
+    const QAccessible::Role roles[] = { QAccessible::CheckBox, QAccessible::Button,
+        QAccessible::RadioButton, QAccessible::RadioButton, QAccessible::CheckBox };
+    const QString press = QAccessibleActionInterface::pressAction();
+    for (const Type type : TYPES) {
+        LoudRow row(Type((type + 1) % 5));
+        QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(&row);
+        row.setButtonType(type);
+        QCOMPARE(seen->text(QAccessible::Name), QStringLiteral("MMM"));
+        QCOMPARE(seen->childCount(), 0);
+        QCOMPARE(seen->role(), roles[type]);
+        QCOMPARE(bool(seen->state().checkable), type != Row::ActionType);
+        QVERIFY(!seen->state().checked);
+        QVERIFY(seen->actionInterface()->actionNames().contains(press));
+        int clicks = 0;
+        connect(row.getButtonInstance(), &QAbstractButton::clicked, this, [&] { ++clicks; });
+        seen->actionInterface()->doAction(press);
+        QCOMPARE(clicks, 1);
+        QCOMPARE(bool(seen->state().checked), type != Row::ActionType);
+    }
+}
+
+QTEST_MAIN(TestVexoFunctionButton)
+#include "tst_vexofunctionbutton.moc"
