@@ -237,10 +237,9 @@ void VexoFunctionButton::mousePressEvent(QMouseEvent *event)
 void VexoFunctionButton::mouseReleaseEvent(QMouseEvent *)
 {
     const QPointer<VexoFunctionButton> self(this);
-    const VexoFunctionButtonType type = m_button_type;
     if (m_guard->release())
         tap();
-    if (self && type == ActionType)
+    if (self && m_button_type == ActionType)
         setDown(false);
 }
 

@@ -169,6 +169,7 @@ void VexoPushButton::setMmMargin(const QSizeF &mm)
     m_px_margin = finitePxSize(*m_scaling, mm);
     setIconDimension();
     setHeight();
+    update();
 }
 
 void VexoPushButton::setMmRadius(double mm)
@@ -177,6 +178,7 @@ void VexoPushButton::setMmRadius(double mm)
     m_px_radius = finitePxSize(*m_scaling, QSizeF(mm, mm));
     setIconDimension();
     setHeight();
+    update();
 }
 
 void VexoPushButton::setMmHorizCenterDistanceFromBorder(double mm)

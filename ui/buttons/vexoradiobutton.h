@@ -18,7 +18,8 @@ class VexoFeedbackDelegator;
 /// touched, shows no pressed look, and rings the feedback delegator that was installed when it was
 /// constructed.
 ///
-/// It may be deleted in its pressed(), toggled() and clicked().
+/// It may be deleted in its pressed() and clicked(), but not in toggled(), after which the toolkit
+/// goes on with it.
 class HOXQUI_EXPORT VexoRadioButton : public QRadioButton
 {
     Q_OBJECT

@@ -339,8 +339,8 @@ void TestVexoPushButton::changeRepaintsOnceOrNot()
 {
     VexoPushButton button;
     QCOMPARE(propertiesWithoutOneRepaint(&button),
-        (QByteArrayList{ "m_mm_margin", "m_mm_radius", "m_mm_horiz_center_distance_from_border",
-            "m_pt_font_size", "m_text_mm_margin_x", "m_text_alignment", "m_right_side_text" }));
+        (QByteArrayList{ "m_mm_horiz_center_distance_from_border", "m_pt_font_size",
+            "m_text_mm_margin_x", "m_text_alignment", "m_right_side_text" }));
 }
 
 int main(int argc, char *argv[])
