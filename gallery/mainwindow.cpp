@@ -24,6 +24,7 @@ using namespace vexo::hox::qt::ui;
 
 namespace {
 
+const double least_side_bar_width_in_mm = 38;
 const double indent_in_mm = 5;
 
 // Wide enough for the longest title on one line, its arrow and the scroll bar.
@@ -32,7 +33,7 @@ int sideBarWidth(const QFont &font)
     int title_px = 0;
     for (const PageEntry &page : pageList())
         title_px = qMax(title_px, QFontMetrics(font).horizontalAdvance(page.title));
-    return title_px + mmX(indent_in_mm + 8.5);
+    return qMax(mmX(least_side_bar_width_in_mm), title_px + mmX(indent_in_mm + 8.5));
 }
 
 QLabel *createLogo()
@@ -89,6 +90,11 @@ void MainWindow::showWholePage()
 void MainWindow::resizeEvent(QResizeEvent *)
 {
     bringRowIntoView();
+}
+
+void MainWindow::showEvent(QShowEvent *)
+{
+    bringRowIntoView(); // the rows have their places only now
 }
 
 QWidget *MainWindow::createSideBar()
@@ -155,10 +161,7 @@ void MainWindow::buildPage(int index)
     m_stack->setCurrentIndex(index);
 }
 
-// Once everything has its place.
 void MainWindow::bringRowIntoView()
 {
-    const auto bring
-        = [this] { m_row_area->ensureWidgetVisible(m_rows.at(m_stack->currentIndex()), 0, 0); };
-    QMetaObject::invokeMethod(this, bring, Qt::QueuedConnection);
+    m_row_area->ensureWidgetVisible(m_rows.at(m_stack->currentIndex()), 0, 0);
 }

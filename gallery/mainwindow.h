@@ -26,6 +26,7 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     using Row = vexo::hox::qt::ui::VexoFunctionButton;

@@ -18,9 +18,8 @@ VexoFunctionButton *createNetworkRow(const std::function<void()> &show_screen)
 }
 
 // Rows with radio buttons exclude each other in a group.
-void addToneRows(QVBoxLayout *list)
+void addToneRows(QVBoxLayout *list, QButtonGroup *group)
 {
-    auto *group = new QButtonGroup(list);
     for (const char *tone : { "Short", "Long", "None" }) {
         auto *row = new VexoFunctionButton(nullptr, VexoFunctionButton::RadiobuttonType);
         row->setText(tone);
@@ -30,15 +29,12 @@ void addToneRows(QVBoxLayout *list)
 }
 
 // Rows that are the choice themselves exclude each other below a parent of their own.
-QWidget *createLanguageRows()
+void fillLanguageRows(QWidget *rows, QVBoxLayout *column)
 {
-    auto *rows = new QWidget;
-    auto *column = new QVBoxLayout(rows);
     for (const char *language : { "Deutsch", "English" }) {
         auto *row = new VexoFunctionButton(rows, VexoFunctionButton::FullsizeRadiobuttonType);
         row->setText(language);
         column->addWidget(row);
     }
-    return rows;
 }
 //! [page]

@@ -6,15 +6,12 @@
 using namespace vexo::hox::qt::ui;
 
 // Those below one parent exclude each other; a swipe across them chooses none.
-QWidget *createUnitChoice()
+void fillUnitChoice(QWidget *choice, QVBoxLayout *column)
 {
-    auto *choice = new QWidget;
-    auto *column = new QVBoxLayout(choice);
     for (const char *unit : { "Celsius", "Fahrenheit" }) {
         auto *button = new VexoRadioButton(choice);
         button->setText(unit);
         column->addWidget(button);
     }
-    return choice;
 }
 //! [page]
