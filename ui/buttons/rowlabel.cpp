@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QImage>
 #include <QPainter>
+#include <QResizeEvent>
 
 #include <algorithm>
 
@@ -47,6 +48,14 @@ bool RowLabel::Look::operator==(const Look &other) const
 RowLabel::RowLabel(QWidget *parent)
     : QLabel(parent)
 {
+}
+
+QSize RowLabel::sizeHint() const
+{
+    QSize hint = QLabel::sizeHint();
+    if (m_is_laid_out && hasHeightForWidth())
+        hint.setHeight(heightForWidth(width()));
+    return hint;
 }
 
 QColor RowLabel::ink() const
@@ -107,6 +116,14 @@ void RowLabel::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     painter.drawPixmap(m_shown.position, m_shown.pixmap);
     m_shown = Print();
+}
+
+void RowLabel::resizeEvent(QResizeEvent *event)
+{
+    QLabel::resizeEvent(event);
+    m_is_laid_out = true;
+    if (sizeHint().height() != event->size().height())
+        updateGeometry(); // the layout asked for the height before it gave the width
 }
 
 RowLabel::Look RowLabel::lookOfNow(const QColor &ground) const

@@ -16,6 +16,9 @@ class RowLabel : public QLabel
 public:
     explicit RowLabel(QWidget *parent);
 
+    /// As high as the text is in the width that the layout gave. The toolkit asks for the height of
+    /// some width of its own, and the row would cut what is wrapped in a narrower one.
+    QSize sizeHint() const override;
     QColor ink() const;
     /// Replaces the label's palette by the application's with this text colour.
     void setInk(const QColor &ink);
@@ -25,6 +28,7 @@ public:
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     // Everything that can change without an event.
@@ -44,6 +48,7 @@ private:
     Look lookOfNow(const QColor &ground) const;
     Print print(const QColor &ground);
 
+    bool m_is_laid_out = false;
     PrintPair<Look> m_prints;
     Print m_shown; // for the paint to come; null to paint as any label
     bool m_is_printing = false;

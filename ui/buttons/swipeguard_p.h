@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPoint>
+#include <QWidget>
 
 #include <cstdlib>
 
@@ -36,10 +37,12 @@ public:
             m_is_swipe = true;
     }
 
-    /// Ends the press; true for a tap.
-    bool release()
+    /// Ends the press; true for a tap. A release far off every screen is how the toolkit's scroller
+    /// takes a press back: that is a swipe, even when its moves never came.
+    bool release(const QPoint &global_position = QPoint())
     {
-        const bool is_tap = !m_is_swipe;
+        const bool is_taken_back = global_position.x() <= -QWIDGETSIZE_MAX / 2;
+        const bool is_tap = !m_is_swipe && !is_taken_back;
         m_is_pressed = false;
         m_is_swipe = false;
         m_position = QPoint();

@@ -46,9 +46,9 @@ void VexoCheckBox::mousePressEvent(QMouseEvent *event)
     Q_EMIT pressed();
 }
 
-void VexoCheckBox::mouseReleaseEvent(QMouseEvent *)
+void VexoCheckBox::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (m_guard->release())
+    if (m_guard->release(event->globalPos()))
         toggleButton();
 }
 

@@ -234,10 +234,10 @@ void VexoFunctionButton::mousePressEvent(QMouseEvent *event)
     Q_EMIT pressed();
 }
 
-void VexoFunctionButton::mouseReleaseEvent(QMouseEvent *)
+void VexoFunctionButton::mouseReleaseEvent(QMouseEvent *event)
 {
     const QPointer<VexoFunctionButton> self(this);
-    if (m_guard->release())
+    if (m_guard->release(event->globalPos()))
         tap();
     if (self && m_button_type == ActionType)
         setDown(false);

@@ -59,9 +59,10 @@ VexoPushButton::VexoPushButton(QWidget *parent)
     , m_mm_icon_size(STANDARD_ICON_SIZE_IN_MM)
     , m_visible_buddies(std::make_unique<VisibleBuddies>())
     , m_styled_background(std::make_unique<StyledBackground>())
-    , m_first_line(std::make_unique<TextBlock>())
-    , m_second_line(std::make_unique<TextBlock>())
-    , m_right_text(std::make_unique<TextBlock>())
+    , m_wrapped_text(std::make_unique<TextBlock>())
+    , m_first_line(std::make_unique<TextBlock>(QTextOption::NoWrap))
+    , m_second_line(std::make_unique<TextBlock>(QTextOption::NoWrap))
+    , m_right_text(std::make_unique<TextBlock>(QTextOption::NoWrap))
     , m_grounds(std::make_unique<PrintPair<GroundLook>>())
 {
     setupUi();
@@ -438,13 +439,17 @@ const VexoPushButton::Label &VexoPushButton::measuredLabel() const
     return m_label;
 }
 
+// What was measured to fit on one line stays there: its advance may be a fraction wider, for which
+// the toolkit would wrap it.
 void VexoPushButton::splitLabel(const QRectF &upper)
 {
     if (m_label.line_px == upper.width())
         return;
     m_label.line_px = upper.width();
-    m_label.first_line = findFittingString(QFontMetrics(font()), text(), upper);
+    const QFontMetrics metrics(font());
+    m_label.first_line = findFittingString(metrics, text(), upper);
     m_label.second_line = text().mid(m_label.first_line.length());
+    m_label.second_fits = metrics.boundingRect(m_label.second_line).width() <= upper.width();
 }
 
 QColor VexoPushButton::fillOfNow() const
@@ -534,7 +539,7 @@ void VexoPushButton::drawLabel(
     QPainter *painter, const QRectF &area, const QRectF &ground, bool has_two_lines)
 {
     if (!has_two_lines) {
-        drawText(painter, m_first_line.get(), area, text(), ground);
+        drawText(painter, m_wrapped_text.get(), area, text(), ground);
         return;
     }
     QRectF upper = area;
@@ -543,7 +548,8 @@ void VexoPushButton::drawLabel(
     lower.setTop(upper.bottom());
     splitLabel(upper);
     drawText(painter, m_first_line.get(), upper, m_label.first_line, ground & upper);
-    drawText(painter, m_second_line.get(), lower, m_label.second_line, ground & lower);
+    TextBlock *second = m_label.second_fits ? m_second_line.get() : m_wrapped_text.get();
+    drawText(painter, second, lower, m_label.second_line, ground & lower);
 }
 
 void VexoPushButton::drawText(QPainter *painter, TextBlock *block, const QRectF &area,

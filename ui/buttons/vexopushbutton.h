@@ -189,6 +189,7 @@ private:
         double line_px = -1; // width for which it is split
         QString first_line;
         QString second_line;
+        bool second_fits = true;
     };
 
     struct GroundLook;
@@ -237,6 +238,7 @@ private:
     Qt::Alignment m_text_alignment = Qt::AlignCenter;
 
     const std::unique_ptr<StyledBackground> m_styled_background;
+    const std::unique_ptr<TextBlock> m_wrapped_text; // label, or a second line that is too long
     const std::unique_ptr<TextBlock> m_first_line;
     const std::unique_ptr<TextBlock> m_second_line;
     const std::unique_ptr<TextBlock> m_right_text;

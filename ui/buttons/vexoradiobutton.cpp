@@ -36,9 +36,9 @@ void VexoRadioButton::mousePressEvent(QMouseEvent *event)
     Q_EMIT pressed();
 }
 
-void VexoRadioButton::mouseReleaseEvent(QMouseEvent *)
+void VexoRadioButton::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (m_guard->release())
+    if (m_guard->release(event->globalPos()))
         toggleButton();
 }
 

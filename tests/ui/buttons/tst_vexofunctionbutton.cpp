@@ -9,6 +9,8 @@
 #include <QAccessible>
 #include <QLabel>
 #include <QLayout>
+#include <QScrollArea>
+#include <QScroller>
 #include <QTest>
 
 using namespace vexo::hox::qt::ui;
@@ -75,6 +77,8 @@ private Q_SLOTS:
     void typeMayChangeInAnyState();
     void mayChangeAndBeDeletedInSignals();
     void endedPressDoesNotClick();
+    void scrollerTakesAPressBack();
+    void textIsWrappedInItsRow();
     void isOneAccessibleObject();
 
 private:
@@ -172,14 +176,17 @@ void TestVexoFunctionButton::eachPartIsPaintedOncePerChange()
             counts += paints.take(part);
         return counts;
     };
-    painted();
+    for (const bool is_down : { true, false }) { // draws each look of the text once
+        row.setDown(is_down);
+        painted();
+    }
     QCOMPARE(painted(), QVector<int>(3, 0)); // at rest
     finger(&row, QEvent::MouseButtonPress, INSIDE);
     QCOMPARE(painted(), QVector<int>(3, 1));
     finger(&row, QEvent::MouseButtonRelease, INSIDE);
     QCOMPARE(painted(), QVector<int>(3, 1));
     row.setEnabled(false);
-    QCOMPARE(painted(), QVector<int>(3, 1));
+    QCOMPARE(painted(), (QVector<int>{ 1, 2, 1 })); // the text also for its new look
     row.hide();
     QCOMPARE(propertiesWithoutOneRepaint(&row),
         (QByteArrayList{ "m_button_type", // the new part shows a round later
@@ -279,6 +286,46 @@ void TestVexoFunctionButton::endedPressDoesNotClick()
         touch(&row); // the move is forgotten
         QVERIFY(log.endsWith("clicked 0; "));
     }
+}
+
+// In one leap, so that the row sees none of the moves.
+void TestVexoFunctionButton::scrollerTakesAPressBack()
+{
+    for (const Type type : { Row::ActionType, Row::CheckboxType, Row::FullsizeRadiobuttonType }) {
+        QScrollArea area;
+        auto *list = new QWidget;
+        list->setFixedSize(400, 2000);
+        LoudRow row(type, list);
+        area.setWidget(list);
+        area.show();
+        QScroller::grabGesture(area.viewport(), QScroller::LeftMouseButtonGesture);
+        QScroller *scroller = QScroller::scroller(area.viewport());
+        QScrollerProperties properties = scroller->scrollerProperties();
+        properties.setScrollMetric(QScrollerProperties::MousePressEventDelay, 0.001);
+        scroller->setScrollerProperties(properties);
+        QByteArray log;
+        record(&row, &log);
+        finger(&row, QEvent::MouseButtonPress, INSIDE);
+        QTRY_COMPARE(log, QByteArray("pressed; "));
+        finger(&row, QEvent::MouseMove, INSIDE - QPoint(0, 100));
+        QCOMPARE(scroller->state(), QScroller::Dragging);
+        finger(&row, QEvent::MouseButtonRelease, INSIDE - QPoint(0, 100));
+        QCOMPARE(log, QByteArray("pressed; "));
+        QVERIFY(!row.isDown() && !row.getButtonInstance()->isChecked());
+    }
+}
+
+void TestVexoFunctionButton::textIsWrappedInItsRow()
+{
+    QWidget window;
+    LoudRow row(Row::TickAgreementType, &window);
+    row.setText(QStringLiteral("MMMM MMMM MMMM"));
+    row.resize(2000, row.height());
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const int line = row.getLabelInstance()->height();
+    row.resize(800, row.height());
+    QTRY_VERIFY(row.getLabelInstance()->height() >= 2 * line);
 }
 
 void TestVexoFunctionButton::isOneAccessibleObject()
