@@ -10,11 +10,13 @@
 #include <VexoHorizontalTextIconButton>
 #include <VexoIconButton>
 #include <VexoKeyboardButton>
+#include <VexoLineEdit>
 #include <VexoNumericButton>
 #include <VexoPushButton>
 #include <VexoRadioButton>
 
 #include <QColor>
+#include <QIcon>
 #include <QMetaProperty>
 #include <QPixmap>
 #include <QPointF>
@@ -57,6 +59,7 @@ const std::vector<WalkedClass> &walkedClasses()
         { "VexoNumericButton", makeStepper },
         { "VexoPushButton", make<VexoPushButton> },
         { "VexoRadioButton", make<VexoRadioButton> },
+        { "VexoLineEdit", make<VexoLineEdit> },
     };
     return classes;
 }
@@ -99,6 +102,8 @@ QVariant otherValue(const QMetaProperty &property, const QVariant &value, int st
         return value.toPointF() + QPointF(step, step);
     case QMetaType::QPixmap:
         return QPixmap(step == 3 ? QStringLiteral(":/rb_checked") : IMAGE);
+    case QMetaType::QIcon:
+        return QIcon(QPixmap(step, step));
     default:
         return QVariant();
     }
@@ -118,6 +123,8 @@ QString cssText(const QMetaProperty &property, const QVariant &value)
 bool holds(const QMetaProperty &property, const QWidget *widget, const QVariant &expected)
 {
     const QVariant value = property.read(widget);
+    if (property.userType() == QMetaType::QIcon)
+        return value.value<QIcon>().cacheKey() == expected.value<QIcon>().cacheKey();
     return property.isEnumType() ? value.toInt() == expected.toInt() : value == expected;
 }
 
@@ -131,9 +138,11 @@ bool takesByName(const QMetaProperty &property, QWidget *widget)
 bool takesByStylesheet(const QMetaProperty &property, QWidget *widget)
 {
     const QVariant other = otherValue(property, property.read(widget), 5);
-    // The toolkit's stylesheets know no pair of numbers.
-    if (other.userType() == QMetaType::QSizeF || other.userType() == QMetaType::QPointF)
-        return true;
+    // The toolkit's stylesheets know no pair of numbers, and make icons of their own.
+    for (const int type : { QMetaType::QSizeF, QMetaType::QPointF, QMetaType::QIcon }) {
+        if (other.userType() == type)
+            return true;
+    }
     widget->setObjectName(QStringLiteral("walked")); // not its children
     widget->setStyleSheet(QStringLiteral("#walked { qproperty-%1: %2; }")
                               .arg(QLatin1String(property.name()), cssText(property, other)));

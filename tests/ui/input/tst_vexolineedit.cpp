@@ -1,0 +1,499 @@
+#include "support/iconfiles.h"
+#include "support/paintcounter.h"
+#include "support/panelscale.h"
+#include "support/testcase.h"
+#include "ui/input/placeholder_p.h"
+
+#include <FontLoader>
+#include <VexoFeedbackDelegator>
+#include <VexoIconButton>
+#include <VexoLineEdit>
+
+#include <QAccessible>
+#include <QMetaProperty>
+#include <QPaintEvent>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+#include <memory>
+
+using namespace vexo::hox::qt::ui;
+
+namespace {
+
+const QColor GROUND(Qt::yellow);
+const QColor INK(Qt::blue);
+const QColor EXPECTED(Qt::green);
+const QColor CURSOR(Qt::magenta);
+
+/// Opens what the toolkit calls, and keeps on a canvas what its repaints have drawn.
+class Field : public VexoLineEdit
+{
+public:
+    Field()
+    {
+        resize(400, height());
+        setBackgroundColor(GROUND);
+        setTextColor(INK);
+        setPlaceholderColor(EXPECTED);
+        setCursorColor(CURSOR);
+    }
+
+    using VexoLineEdit::mousePressEvent;
+    using VexoLineEdit::mouseReleaseEvent;
+
+    QImage picture() { return grab().toImage(); }
+
+    /// Shows the field and waits until nothing is due. Requests are recorded from here on.
+    void expose()
+    {
+        show();
+        QVERIFY(QTest::qWaitForWindowExposed(this));
+        settle();
+        canvas = picture();
+        settle();
+    }
+
+    /// Returns the area that was repainted, and repaints just that on the canvas.
+    QRegion settle()
+    {
+        m_painted = QRegion();
+        for (int i = 0; i < 10; ++i)
+            QCoreApplication::sendPostedEvents(); // and no timers
+        QRegion painted = m_painted;
+        if (!canvas.isNull() && !painted.isEmpty())
+            render(&canvas, painted.boundingRect().topLeft(), painted);
+        return painted;
+    }
+
+    bool step() { return QMetaObject::invokeMethod(this, "onShakeAnimationStep"); }
+    bool blink() { return QMetaObject::invokeMethod(findChild<QTimer *>(), "timeout"); }
+
+    QImage canvas;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        m_painted += event->region();
+        VexoLineEdit::paintEvent(event);
+    }
+
+private:
+    QRegion m_painted;
+};
+
+class Tone : public VexoFeedbackDelegator
+{
+public:
+    void tone() override { ++count; }
+    void down() override { }
+    void up() override { }
+
+    int count = 0;
+};
+
+} // namespace
+
+class TestVexoLineEdit : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void heightFollowsFromTheMillimetres();
+    void dotsStandForCharacters_data();
+    void dotsStandForCharacters();
+    void textStartsBehindMarginAndIcon();
+    void cursorStandsBehindTheText();
+    void placeholderCountsDown();
+    void senselessValuesDoNoHarm();
+    void changeRepaintsOnceAndShows();
+    void blinkRepaintsWhatItChanges_data();
+    void blinkRepaintsWhatItChanges();
+    void shakeShowsWhatWasWrong_data();
+    void shakeShowsWhatWasWrong();
+    void shakeEndsByItself();
+    void touchesRingAndAskForText();
+    void trailingButtonDeletes();
+    void mayBeDeletedInItsSignals();
+    void tellsNoSecret();
+};
+
+void TestVexoLineEdit::heightFollowsFromTheMillimetres()
+{
+    const PanelScale scale(20, 10);
+    VexoLineEdit field;
+    QCOMPARE(field.height(), 61); // 60 px and 1.76 px, both cut
+    field.setMmRadius(2.56);
+    QCOMPARE(field.height(), 52); // 51 px and 1.76 px
+    field.setMmMargin(QSizeF(9, 0.5));
+    field.setMmPenLine(0);
+    for (const double senseless : { -0.1, qQNaN() }) {
+        field.setMmRadius(senseless);
+        field.setMmPenLine(senseless);
+    }
+    QCOMPARE(field.minimumHeight(), 61);
+    QCOMPARE(field.maximumHeight(), 61);
+}
+
+void TestVexoLineEdit::dotsStandForCharacters_data()
+{
+    QTest::addColumn<int>("characters");
+    QTest::addColumn<bool>("centered");
+    QTest::addColumn<QVector<int>>("middles"); // px, dots are 30 px wide and 50 px apart
+    QTest::newRow("empty") << 0 << true << QVector<int>();
+    QTest::newRow("centred") << 4 << true << QVector<int>{ 125, 175, 225, 275 };
+    QTest::newRow("left") << 2 << false << QVector<int>{ 90, 140 };
+    QTest::newRow("too many") << 10000 << true << QVector<int>{ 90, 140, 190, 240, 290 };
+}
+
+void TestVexoLineEdit::dotsStandForCharacters()
+{
+    QFETCH(int, characters);
+    QFETCH(bool, centered);
+    QFETCH(QVector<int>, middles);
+    const PanelScale scale(20, 10);
+    Field field;
+    field.setUnderscores(20000);
+    field.setText(QString(characters, QLatin1Char('W')));
+    field.setCursorState(true);
+    field.setDrawPasswordSecured(true);
+    field.setDrawSecuredCentered(centered);
+    const QImage image = field.picture();
+    const QRect box = boxOf(image, INK);
+    QCOMPARE(box.isEmpty(), middles.isEmpty());
+    QVERIFY(middles.isEmpty() || qAbs(box.left() - middles.first() + 15) <= 3);
+    QVERIFY(middles.isEmpty() || qAbs(box.right() - middles.last() - 15) <= 3);
+    QVERIFY(middles.isEmpty() || qAbs(box.height() - 14) <= 2); // within the outline
+    for (const int x : qAsConst(middles)) {
+        QCOMPARE(image.pixelColor(x, 30), INK);
+        QCOMPARE(image.pixelColor(x + 25, 30), GROUND); // between the dots
+    }
+    QVERIFY(boxOf(image, EXPECTED).isEmpty() && boxOf(image, CURSOR).isEmpty());
+    field.setTextInactiveColor(Qt::cyan);
+    field.setEnabled(false);
+    QCOMPARE(boxOf(field.picture(), Qt::cyan), box);
+}
+
+void TestVexoLineEdit::textStartsBehindMarginAndIcon()
+{
+    const PanelScale scale(10, 20);
+    Field field;
+    field.setText(QStringLiteral("HH"));
+    const QRect ink = boxOf(field.picture(), INK);
+    QVERIFY(ink.left() >= 30 && ink.left() < 40); // behind the corner of 3 mm
+    QVERIFY(qAbs(ink.center().y() - 61) <= 8);
+    field.setMmMargin(QSizeF(1.5, 0));
+    QCOMPARE(boxOf(field.picture(), INK).left(), ink.left() + 15);
+    field.setMmLeftOffset(2);
+    QCOMPARE(boxOf(field.picture(), INK).left(), ink.left() + 35);
+    field.setMmLeadingIconSize(QSizeF(7, 4));
+    QPixmap green(70, 80);
+    green.fill(Qt::green);
+    field.setLeadingIcon(green);
+    field.enableLeadingLabelAction();
+    const QImage image = field.picture();
+    const QRect icon = boxOf(image, Qt::green);
+    QCOMPARE(icon.size(), green.size()); // none of it is cut off
+    QVERIFY(qAbs(icon.center().y() - 61) <= 1);
+    QCOMPARE(boxOf(image, INK).left(), ink.left() - 30 + icon.left() + 70 + 20);
+    field.setDrawCentered(true);
+    QVERIFY(qAbs(boxOf(field.picture(), INK).center().x() - 200) <= 2);
+}
+
+void TestVexoLineEdit::cursorStandsBehindTheText()
+{
+    const PanelScale scale(10, 20);
+    Field field;
+    field.setCursorPxPenWidth(2);
+    field.setCursorState(true);
+    QCOMPARE(boxOf(field.picture(), CURSOR), QRect(34, 20, 2, 82)); // 0.5 mm off, 4 mm high
+    field.setText(QStringLiteral("HH"));
+    field.setUnderscores(4);
+    const int x = boxOf(field.picture(), CURSOR).left();
+    QVERIFY(qAbs(boxOf(field.picture(), INK).right() + 5 - x) <= 5);
+    QVERIFY(qAbs(boxOf(field.picture(), EXPECTED).left() - x) <= 5);
+    field.setCursorState(false);
+    QVERIFY(boxOf(field.picture(), CURSOR).isEmpty());
+}
+
+void TestVexoLineEdit::placeholderCountsDown()
+{
+    const auto left = [](const char *placeholder, int typed, bool spaced) {
+        return placeholderRest(QString::fromUtf8(placeholder), typed, spaced);
+    };
+    QCOMPARE(left("____", 0, true), QStringLiteral("_ _ _ _"));
+    QCOMPARE(left("____", 2, true), QStringLiteral("_ _"));
+    QCOMPARE(left("____", 3, true), QStringLiteral("_"));
+    QCOMPARE(left("____", 4, true), QString());
+    QCOMPARE(left("____", 9, true), QString());
+    QCOMPARE(left("____", 2, false), QStringLiteral("__"));
+    QCOMPARE(left("\U0001F130b", 1, false), QStringLiteral("b")); // half a pair is not shown
+    VexoLineEdit field;
+    field.setUnderscores(4);
+    field.setUnderscores(-1);
+    QCOMPARE(field.placeholderText(), QStringLiteral("____"));
+    field.setPlaceholderText(QStringLiteral("____"));
+    QCOMPARE(field.property("m_underscores"), QVariant(0));
+}
+
+void TestVexoLineEdit::senselessValuesDoNoHarm()
+{
+    const double values[] = { qQNaN(), qInf(), -qInf(), 1e300, -1e9, -1, 0, 1e9 };
+    const QMetaObject &meta = VexoLineEdit::staticMetaObject;
+    QImage image(400, 60, QImage::Format_ARGB32_Premultiplied);
+    VexoLineEdit endless;
+    endless.setText(QString(10000, QLatin1Char('a')));
+    endless.render(&image);
+    for (const double value : values) {
+        for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
+            const QMetaProperty property = meta.property(i);
+            const bool is_refused = qstrcmp(property.name(), "m_mm_trailing_icon_size") == 0;
+            VexoLineEdit field;
+            field.setText(QStringLiteral("a\nb"));
+            field.enableLeadingLabelAction();
+            field.setCursorState(true);
+            if (property.userType() == QMetaType::Double)
+                property.write(&field, value);
+            else if (property.userType() == QMetaType::Int)
+                property.write(&field, value < 0 ? INT_MIN : INT_MAX);
+            else if (property.userType() == QMetaType::QSizeF && !is_refused)
+                property.write(&field, QSizeF(value, value));
+            field.render(&image);
+            field.setDrawPasswordSecured(true);
+            field.render(&image);
+        }
+    }
+}
+
+/// Nothing that a paint keeps may outlive a change.
+void TestVexoLineEdit::changeRepaintsOnceAndShows()
+{
+    VexoLineEdit repainted;
+    const QByteArrayList silent = { "left_offset_mm", "cursor_ms_blink_interval", "font_weight",
+        "m_leading_icon", "m_trailing_icon", "m_mm_trailing_icon_size", "m_pt_font_size" };
+    QCOMPARE(propertiesWithoutOneRepaint(&repainted), silent); // or had that font already
+    const QHash<int, QVariant> values{ { QMetaType::QColor, QColor(Qt::darkCyan) },
+        { QMetaType::QString, QStringLiteral("12345") }, { QMetaType::Int, 6 } };
+    const QMetaObject &meta = VexoLineEdit::staticMetaObject;
+    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
+        const QMetaProperty property = meta.property(i);
+        Field painted;
+        Field fresh;
+        QVariant value = property.read(&fresh);
+        if (value.userType() == QMetaType::Double)
+            value = value.toDouble() * 2;
+        value = values.value(value.userType(), value);
+        for (Field *each : { &painted, &fresh }) {
+            each->setUnderscores(4);
+            each->setText(QStringLiteral("12"));
+            if (each == &painted)
+                each->picture();
+            QVERIFY(property.write(each, value));
+            each->resize(300, each->height());
+        }
+        QVERIFY2(painted.picture() == fresh.picture(), property.name());
+    }
+}
+
+void TestVexoLineEdit::blinkRepaintsWhatItChanges_data()
+{
+    QTest::addColumn<QString>("setup");
+    QTest::addColumn<int>("width"); // px of the repainted area
+    QTest::newRow("plain") << QString() << 3;
+    QTest::newRow("centred") << QStringLiteral("centred") << 400;
+    QTest::newRow("moved silently") << QStringLiteral("offset") << 400;
+    QTest::newRow("secret") << QStringLiteral("secret") << 0;
+    QTest::newRow("shaking") << QStringLiteral("shake") << 0;
+}
+
+void TestVexoLineEdit::blinkRepaintsWhatItChanges()
+{
+    QFETCH(QString, setup);
+    QFETCH(int, width);
+    const PanelScale scale(10, 10);
+    Field field;
+    field.setUnderscores(4);
+    field.setText(QStringLiteral("12"));
+    field.setCursorState(true);
+    field.setDrawCentered(setup == QLatin1String("centred"));
+    field.setDrawPasswordSecured(setup == QLatin1String("secret"));
+    field.expose();
+    QVERIFY(field.settle().isEmpty());
+    if (setup == QLatin1String("offset"))
+        field.setMmLeftOffset(1);
+    if (setup == QLatin1String("shake"))
+        field.shake(500, 5, 10, true);
+    for (int i = 0; i < 3; ++i) {
+        QVERIFY(field.blink());
+        const QRect area = field.settle().boundingRect();
+        if (i == 0 || !setup.startsWith(QLatin1String("offset")))
+            QCOMPARE(area.width(), width);
+        if (setup != QLatin1String("shake"))
+            QCOMPARE(field.canvas, field.picture());
+        field.settle();
+    }
+}
+
+void TestVexoLineEdit::shakeShowsWhatWasWrong_data()
+{
+    QTest::addColumn<bool>("secret");
+    QTest::addColumn<bool>("centered");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("dots") << true << true << QStringLiteral("2026");
+    QTest::newRow("text") << false << false << QStringLiteral("2026");
+    QTest::newRow("centred text") << false << true << QStringLiteral("2026");
+    QTest::newRow("slanted beyond its advance") << false << false << QStringLiteral("TTT");
+}
+
+void TestVexoLineEdit::shakeShowsWhatWasWrong()
+{
+    QFETCH(bool, secret);
+    QFETCH(QString, text);
+    const PanelScale scale(10, 10);
+    Field field;
+    QFont font = field.font();
+    font.setFamily(FontLoader::loadFont(":/fonts/UniversNextW1G-Medium.otf"));
+    font.setItalic(QTest::currentDataTag() == QByteArray("slanted beyond its advance"));
+    field.setFont(font);
+    field.setUnderscores(6);
+    field.setCursorState(true);
+    field.setDrawPasswordSecured(secret);
+    QFETCH(bool, centered);
+    field.setDrawCentered(centered);
+    field.expose();
+    for (int round = 1; round <= 2; ++round) {
+        field.setText(text);
+        field.settle();
+        const QSize size = boxOf(field.canvas, INK).size();
+        field.clear();
+        field.settle();
+        const QImage empty = field.canvas;
+        field.shake(100, 3, 1, !secret);
+        field.shake(500, 5, 10, !secret); // from now on
+        QVERIFY(field.step());
+        field.settle();
+        const int middle = boxOf(field.canvas, INK).left() + 10;
+        for (const int offset : { 9, -8, 5, -3 }) {
+            QCOMPARE(field.canvas, field.picture());
+            QVERIFY(boxOf(field.canvas, CURSOR).isEmpty());
+            QVERIFY(field.step());
+            QVERIFY(field.settle().boundingRect().width() < 300);
+            const QRect ink = boxOf(field.canvas, INK);
+            QCOMPARE(ink, QRect(QPoint(middle + offset, ink.top()), size));
+        }
+        QVERIFY(field.step());
+        field.settle();
+        QCOMPARE(field.canvas, empty);
+    }
+}
+
+void TestVexoLineEdit::shakeEndsByItself()
+{
+    Field field;
+    Field hidden;
+    auto deleted = std::make_unique<Field>();
+    const QImage still = hidden.picture();
+    for (Field *each : { &field, deleted.get(), &hidden }) {
+        each->setText(QStringLiteral("1"));
+        each->picture();
+        each->clear();
+        each->shake(100, 20, 5, true);
+        QVERIFY(each->picture() != still);
+    }
+    deleted.reset();
+    field.expose();
+    QTRY_COMPARE(field.picture(), still);
+    QTRY_COMPARE(hidden.picture(), still);
+    field.settle();
+    QVERIFY(field.settle().isEmpty());
+}
+
+void TestVexoLineEdit::touchesRingAndAskForText()
+{
+    auto tone = std::make_unique<Tone>();
+    Field silent;
+    VexoFeedbackDelegator::tone_delegator = tone.get();
+    Field field;
+    const QSignalSpy wanted(&field, &VexoLineEdit::textEditWanted);
+    for (Field *each : { &silent, &field }) {
+        QTest::mouseClick(each, Qt::LeftButton);
+        QCOMPARE(tone->count, 0); // after the event has been handled
+    }
+    QCoreApplication::processEvents();
+    QCOMPARE(tone->count, 1);
+    field.setText(QStringLiteral("abc"));
+    field.mousePressEvent(nullptr);
+    field.mouseReleaseEvent(nullptr);
+    QTest::mouseClick(&field, Qt::LeftButton);
+    tone.reset(); // with a tone still to be rung
+    QTest::mousePress(&field, Qt::LeftButton);
+    QCoreApplication::processEvents();
+    QCOMPARE(wanted, (QList<QVariantList>{ { QString() }, { QStringLiteral("abc") } }));
+}
+
+void TestVexoLineEdit::trailingButtonDeletes()
+{
+    const PanelScale scale(10, 20);
+    Field field;
+    const QSignalSpy deletions(&field, &VexoLineEdit::deleteButtonClick);
+    QPixmap green(40, 80);
+    green.fill(Qt::green);
+    field.setMmTrailingIconSize(QSizeF(4, 4));
+    QVERIFY(!field.findChild<VexoIconButton *>());
+    field.setTrailingIcon(green);
+    for (int calls = 1; calls <= 2; ++calls) {
+        field.enableTrailingButtonAction();
+        auto *button = field.findChild<VexoIconButton *>(QStringLiteral("trailingButton"));
+        QCOMPARE(boxOf(field.picture(), Qt::green).size(), green.size());
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(deletions.count(), calls == 1 ? 1 : 3);
+    }
+    QVERIFY_EXCEPTION_THROWN(field.setMmTrailingIconSize(QSizeF(-1, 2)), std::out_of_range);
+    QCOMPARE(field.property("m_mm_trailing_icon_size").toSizeF(), QSizeF(4, 4));
+}
+
+void TestVexoLineEdit::mayBeDeletedInItsSignals()
+{
+    for (bool by_button : { true, false }) {
+        QWidget window;
+        const QPointer<VexoLineEdit> field = new VexoLineEdit(&window);
+        field->enableTrailingButtonAction();
+        field->enableTrailingButtonAction();
+        const auto kill = [&field] { delete field; };
+        connect(field, &VexoLineEdit::textEditWanted, this, kill);
+        connect(field, &VexoLineEdit::deleteButtonClick, this, kill);
+        QWidget *button = field->findChild<VexoIconButton *>();
+        QTest::mouseClick(by_button ? button : field.data(), Qt::LeftButton);
+        QVERIFY(!field);
+    }
+    VexoLineEdit field;
+    field.enableTrailingButtonAction();
+    delete field.findChild<QObject *>(QStringLiteral("trailingAction")); // takes the button along
+    field.setTrailingIcon(QIcon());
+    field.resize(200, 20);
+}
+
+void TestVexoLineEdit::tellsNoSecret()
+{
+    const QString secret = QStringLiteral("geheim");
+    VexoLineEdit field;
+    field.setText(secret);
+    field.setPlaceholderText(QStringLiteral("Password"));
+    QAccessibleInterface *told = QAccessible::queryAccessibleInterface(&field);
+    QCOMPARE(told->role(), QAccessible::EditableText);
+    QCOMPARE(told->text(QAccessible::Value), secret);
+    QCOMPARE(told->textInterface()->text(0, 3), QStringLiteral("geh"));
+    QVERIFY(!told->state().passwordEdit);
+    field.setDrawPasswordSecured(true);
+    QVERIFY(told->state().passwordEdit);
+    QCOMPARE(told->text(QAccessible::Value), QStringLiteral("******"));
+    QCOMPARE(told->text(QAccessible::Description), QStringLiteral("Password"));
+    QVERIFY(!told->textInterface()); // changes are reported, with their text, where there is one
+    QCOMPARE(field.text(), secret);
+    told->editableTextInterface()->replaceText(0, 2, QStringLiteral("x"));
+    QCOMPARE(field.text(), QStringLiteral("xheim"));
+}
+
+QTEST_MAIN(TestVexoLineEdit)
+#include "tst_vexolineedit.moc"

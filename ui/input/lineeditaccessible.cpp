@@ -1,0 +1,151 @@
+#include "ui/input/lineeditaccessible_p.h"
+
+#include "ui/input/vexolineedit.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QValidator>
+
+namespace vexo::hox::qt::ui {
+
+namespace {
+
+class LineEditAccessible : public QAccessibleWidget,
+                           public QAccessibleTextInterface,
+                           public QAccessibleEditableTextInterface
+{
+public:
+    explicit LineEditAccessible(VexoLineEdit *field)
+        : QAccessibleWidget(field, QAccessible::EditableText)
+    {
+    }
+
+    void *interface_cast(QAccessible::InterfaceType type) override;
+    QString text(QAccessible::Text kind) const override;
+    void setText(QAccessible::Text kind, const QString &text) override;
+    QAccessible::State state() const override;
+
+    void selection(int index, int *start, int *end) const override;
+    int selectionCount() const override { return field()->hasSelectedText() ? 1 : 0; }
+    void addSelection(int start, int end) override { setSelection(0, start, end); }
+    void removeSelection(int) override { field()->deselect(); }
+    void setSelection(int, int start, int end) override
+    {
+        field()->setSelection(start, end - start);
+    }
+    int cursorPosition() const override { return field()->cursorPosition(); }
+    void setCursorPosition(int position) override { field()->setCursorPosition(position); }
+    QString text(int start, int end) const override;
+    int characterCount() const override { return field()->text().size(); }
+    QRect characterRect(int) const override { return rect(); }
+    int offsetAtPoint(const QPoint &point) const override;
+    void scrollToSubstring(int start, int) override { field()->setCursorPosition(start); }
+    QString attributes(int offset, int *start, int *end) const override;
+
+    void deleteText(int start, int end) override { replaceText(start, end, QString()); }
+    void insertText(int offset, const QString &text) override { replaceText(offset, offset, text); }
+    void replaceText(int start, int end, const QString &text) override;
+
+private:
+    VexoLineEdit *field() const { return static_cast<VexoLineEdit *>(widget()); }
+    bool isSecret() const { return field()->echoMode() != QLineEdit::Normal; }
+};
+
+void *LineEditAccessible::interface_cast(QAccessible::InterfaceType type)
+{
+    if (type == QAccessible::TextInterface)
+        return isSecret() ? nullptr : static_cast<QAccessibleTextInterface *>(this);
+    if (type == QAccessible::EditableTextInterface)
+        return static_cast<QAccessibleEditableTextInterface *>(this);
+    return QAccessibleWidget::interface_cast(type);
+}
+
+QString LineEditAccessible::text(QAccessible::Text kind) const
+{
+    if (kind == QAccessible::Value) {
+        const QString text = field()->text();
+        return isSecret() ? QString(text.size(), QLatin1Char('*')) : text;
+    }
+    const QString text = QAccessibleWidget::text(kind);
+    const bool is_described = kind != QAccessible::Description || !text.isEmpty();
+    return is_described ? text : field()->placeholderText();
+}
+
+void LineEditAccessible::setText(QAccessible::Text kind, const QString &text)
+{
+    if (kind == QAccessible::Value)
+        replaceText(0, field()->text().size(), text);
+    else
+        QAccessibleWidget::setText(kind, text);
+}
+
+QAccessible::State LineEditAccessible::state() const
+{
+    QAccessible::State state = QAccessibleWidget::state();
+    state.editable = true;
+    state.selectableText = true;
+    state.readOnly = field()->isReadOnly();
+    state.passwordEdit = isSecret();
+    return state;
+}
+
+void LineEditAccessible::selection(int index, int *start, int *end) const
+{
+    const bool has_selection = index == 0 && field()->hasSelectedText();
+    *start = has_selection ? field()->selectionStart() : 0;
+    *end = has_selection ? field()->selectionEnd() : 0;
+}
+
+QString LineEditAccessible::text(int start, int end) const
+{
+    return isSecret() || start > end ? QString() : field()->text().mid(start, end - start);
+}
+
+int LineEditAccessible::offsetAtPoint(const QPoint &point) const
+{
+    return field()->cursorPositionAt(field()->mapFromGlobal(point));
+}
+
+QString LineEditAccessible::attributes(int offset, int *start, int *end) const
+{
+    *start = offset;
+    *end = offset;
+    return QString();
+}
+
+void LineEditAccessible::replaceText(int start, int end, const QString &text)
+{
+    QString changed = field()->text();
+    changed.replace(start, end - start, text);
+    int position = 0;
+    const QValidator *validator = field()->validator();
+    if (!validator || validator->validate(changed, position) == QValidator::Acceptable)
+        field()->setText(changed);
+}
+
+QAccessibleInterface *createLineEditAccessible(const QString &class_name, QObject *object)
+{
+    auto *field = qobject_cast<VexoLineEdit *>(object);
+    const bool is_field = class_name == QLatin1String(VexoLineEdit::staticMetaObject.className());
+    return field && is_field ? new LineEditAccessible(field) : nullptr;
+}
+
+// Removed when the library is unloaded.
+struct Factory
+{
+    Factory() = default;
+    ~Factory() { QAccessible::removeFactory(createLineEditAccessible); }
+    Q_DISABLE_COPY(Factory)
+};
+
+} // namespace
+
+void makeLineEditsAccessible()
+{
+    // Counts once; an application that ends takes all factories along.
+    QAccessible::installFactory(createLineEditAccessible);
+    static const Factory factory;
+    Q_UNUSED(factory)
+}
+
+} // namespace vexo::hox::qt::ui

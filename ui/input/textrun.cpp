@@ -1,0 +1,74 @@
+#include "ui/input/textrun_p.h"
+
+#include <QGlyphRun>
+#include <QTextOption>
+
+#include <algorithm>
+
+namespace vexo::hox::qt::ui {
+
+namespace {
+
+const double no_limit = 0x1000000; // px; the width of a line that is never broken
+
+QString singleLine(QString text)
+{
+    const auto breaks = [](QChar c) {
+        return c == QLatin1Char('\n') || c == QLatin1Char('\r') || c == QLatin1Char('\t')
+            || c == QChar(QChar::LineSeparator) || c == QChar(QChar::ParagraphSeparator);
+    };
+    if (std::any_of(text.cbegin(), text.cend(), breaks))
+        std::replace_if(text.begin(), text.end(), breaks, QLatin1Char(' '));
+    return text;
+}
+
+} // namespace
+
+void TextRun::set(const QString &text, const QFont &font)
+{
+    if (text == m_text && font == m_font)
+        return;
+    m_text = text;
+    m_font = font;
+    QTextOption option(Qt::AlignLeft);
+    option.setWrapMode(QTextOption::NoWrap);
+    m_layout.setTextOption(option);
+    m_layout.setFont(font);
+    m_layout.setText(singleLine(text));
+    m_layout.setCacheEnabled(true);
+    m_layout.beginLayout();
+    QTextLine line = m_layout.createLine();
+    if (line.isValid())
+        line.setLineWidth(no_limit);
+    m_layout.endLayout();
+    m_advance = line.isValid() ? qRound(line.horizontalAdvance()) : 0;
+}
+
+void TextRun::draw(QPainter *painter, const QRectF &rect, Qt::Alignment alignment) const
+{
+    if (m_layout.lineCount() > 0)
+        m_layout.lineAt(0).draw(painter, topLeft(rect, alignment));
+}
+
+QRectF TextRun::inkRect(const QRectF &rect, Qt::Alignment alignment) const
+{
+    if (m_layout.lineCount() == 0)
+        return QRectF();
+    const QTextLine line = m_layout.lineAt(0);
+    QRectF ink(0, 0, line.horizontalAdvance(), line.height());
+    const QList<QGlyphRun> runs = m_layout.glyphRuns();
+    for (const QGlyphRun &run : runs)
+        ink |= run.boundingRect();
+    const double slant = line.height() / 4; // not in the rectangles of slanted letters
+    return ink.translated(topLeft(rect, alignment)).adjusted(-slant, -2, slant, 2);
+}
+
+QPointF TextRun::topLeft(const QRectF &rect, Qt::Alignment alignment) const
+{
+    const QTextLine line = m_layout.lineAt(0);
+    const double spare = rect.width() - line.horizontalAdvance();
+    return QPointF(rect.x() + (alignment.testFlag(Qt::AlignHCenter) ? spare / 2 : 0),
+        rect.y() + (rect.height() - line.height()) / 2);
+}
+
+} // namespace vexo::hox::qt::ui

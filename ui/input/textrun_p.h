@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QFont>
+#include <QRectF>
+#include <QString>
+#include <QTextLayout>
+
+class QPainter;
+
+namespace vexo::hox::qt::ui {
+
+/// One line of text, laid out once for its font and drawn as QPainter::drawText() draws it in a
+/// rectangle, centred vertically, but without being cut there. Line breaks and tabs are blanks.
+class TextRun
+{
+public:
+    /// Lays out, unless text and font are those it has.
+    void set(const QString &text, const QFont &font);
+    /// What the text moves on by, px, as QFontMetrics tells it.
+    int advance() const { return m_advance; }
+    /// With the painter's pen; \a alignment tells Qt::AlignHCenter from left.
+    void draw(QPainter *painter, const QRectF &rect, Qt::Alignment alignment) const;
+    /// What draw() touches, marks far above and below the line included.
+    QRectF inkRect(const QRectF &rect, Qt::Alignment alignment) const;
+
+private:
+    QPointF topLeft(const QRectF &rect, Qt::Alignment alignment) const;
+
+    QString m_text;
+    QFont m_font;
+    QTextLayout m_layout;
+    int m_advance = 0;
+};
+
+} // namespace vexo::hox::qt::ui

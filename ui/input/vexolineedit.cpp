@@ -1,0 +1,568 @@
+#include "ui/input/vexolineedit.h"
+
+#include "ui/buttons/vexofeedbackdelegator.h"
+#include "ui/buttons/vexoiconbutton.h"
+#include "ui/foundation/imagefile_p.h"
+#include "ui/foundation/panelfont_p.h"
+#include "ui/input/fieldframe_p.h"
+#include "ui/input/lineeditaccessible_p.h"
+#include "ui/input/placeholder_p.h"
+#include "ui/input/secretdots_p.h"
+#include "ui/input/shakemotion_p.h"
+#include "ui/input/textrun_p.h"
+
+#include <QLabel>
+#include <QMouseEvent>
+#include <QWidgetAction>
+
+#include <cmath>
+
+namespace vexo::hox::qt::ui {
+
+namespace {
+
+const int most_underscores = 32767; // as many characters as a line edit takes
+const int widest_pen = 32767; // px; the toolkit refuses more with a warning
+
+// Kept so small that sums of some do not overflow; NaN gives 0.
+double bounded(float px)
+{
+    const double limit = QWIDGETSIZE_MAX;
+    return std::isnan(px) ? 0.0 : qBound(-limit, double(px), limit);
+}
+
+int boundedX(const ScalingInfo &scaling, double mm)
+{
+    return int(bounded(scaling.mm2px_X(float(mm))));
+}
+
+QPointF boundedXY(const ScalingInfo &scaling, double mm_x, double mm_y)
+{
+    return QPointF(bounded(scaling.mm2px_X(float(mm_x))), bounded(scaling.mm2px_Y(float(mm_y))));
+}
+
+} // namespace
+
+VexoLineEdit::VexoLineEdit(QWidget *parent)
+    : QLineEdit(parent)
+    , VexoLogging("gle")
+    , m_scaling(ScalingInfo::inst())
+    , m_tone_delegator(VexoFeedbackDelegator::tone_delegator)
+    , m_cursor_timer(new QTimer(this))
+    , m_leading_label(new QLabel)
+    , m_trailing_button(new VexoIconButton)
+    , m_frame(std::make_unique<FieldFrame>())
+    , m_shake(std::make_unique<ShakeMotion>())
+    , m_dots(std::make_unique<SecretDots>())
+    , m_text_run(std::make_unique<TextRun>())
+    , m_placeholder_run(std::make_unique<TextRun>())
+{
+    makeLineEditsAccessible();
+    setupUi();
+    connect(&m_shake_timer, &QTimer::timeout, this, &VexoLineEdit::onShakeAnimationStep);
+}
+
+VexoLineEdit::~VexoLineEdit()
+{
+    delete m_trailing_button;
+    delete m_leading_label;
+}
+
+void VexoLineEdit::setupUi()
+{
+    connect(m_cursor_timer, &QTimer::timeout, this, &VexoLineEdit::onCursorTimeout);
+    setAttribute(Qt::WA_StyleSheet);
+    setAttribute(Qt::WA_StyledBackground);
+    m_trailing_button->setObjectName(QStringLiteral("trailingButton"));
+    m_trailing_button->setAccessibleName(tr("Delete"));
+    setFocusPolicy(Qt::NoFocus);
+    m_font.setWeight(m_font_weight);
+    m_trailing_button->setCanChangeBackgroundColor(false);
+    reapplyProperties();
+    m_shake_timer.setSingleShot(true);
+    m_shake_timer.setTimerType(Qt::PreciseTimer);
+}
+
+void VexoLineEdit::reapplyProperties()
+{
+    setBackgroundColor(m_background_color);
+    setBorderColor(m_border_color);
+    setMmMargin(m_mm_margin);
+    setPtFontSize(m_pt_font_size);
+    setMmRadius(m_mm_radius);
+    setMmPenLine(m_mm_pen_line);
+    setDrawCentered(m_draw_centered);
+    setCursorMmHeight(m_cursor_mm_height);
+    setCursorPxPenWidth(1);
+    setCursorMsBlinkInterval(600);
+    setCursorColor(DEFAULT_CURSOR_COLOR);
+    setMmLeadingIconSize(m_mm_leading_icon_size);
+    setMmTrailingIconSize(m_mm_trailing_icon_size);
+}
+
+void VexoLineEdit::setPlaceholderText(const QString &text)
+{
+    QLineEdit::setPlaceholderText(text); // never drawn, but the same to whoever asks
+    m_placeholder_text = text;
+    m_placeholder_typed = -1;
+    m_underscores = 0;
+    update();
+}
+
+void VexoLineEdit::setUnderscores(int count)
+{
+    if (count < 0)
+        return;
+    count = qMin(count, most_underscores);
+    setPlaceholderText(QString(count, QLatin1Char('_')));
+    m_underscores = count;
+    update();
+}
+
+void VexoLineEdit::setPlaceholderColor(const QColor &color)
+{
+    m_placeholder_color = color;
+    update();
+}
+
+void VexoLineEdit::setBackgroundColor(const QColor &color)
+{
+    m_background_color = color;
+    m_frame->setGround(color);
+    update();
+}
+
+void VexoLineEdit::setBorderColor(const QColor &color)
+{
+    m_border_color = color;
+    m_frame->setLineColor(color);
+    update();
+}
+
+void VexoLineEdit::setTextColor(const QColor &color)
+{
+    m_text_color = color;
+    update();
+}
+
+void VexoLineEdit::setTextInactiveColor(const QColor &color)
+{
+    m_text_inactive_color = color;
+    update();
+}
+
+void VexoLineEdit::setCursorColor(const QColor &color)
+{
+    m_cursor_pen.setColor(color);
+    update();
+}
+
+void VexoLineEdit::setCursorMmIndent(double mm)
+{
+    m_cursor_mm_indent = mm;
+    update();
+}
+
+void VexoLineEdit::setMmLeftOffset(double mm)
+{
+    m_left_offset_mm = mm;
+}
+
+void VexoLineEdit::setCursorMsBlinkInterval(int ms)
+{
+    if (ms > 0)
+        m_cursor_timer->setInterval(ms);
+}
+
+void VexoLineEdit::setCursorPxPenWidth(int px)
+{
+    if (px <= 0)
+        return;
+    m_cursor_pen.setWidth(qMin(px, widest_pen));
+    update();
+}
+
+void VexoLineEdit::setCursorMmHeight(double mm)
+{
+    if (!(mm > 0)) // NaN too
+        return;
+    m_cursor_mm_height = mm;
+    calculateCursorPosition();
+    update();
+}
+
+void VexoLineEdit::setFontWeight(int weight)
+{
+    m_font_weight = weight;
+    m_font.setWeight(qBound(0, weight, 99));
+    setFont(m_font);
+}
+
+void VexoLineEdit::setLeadingIcon(const QIcon &icon)
+{
+    m_leading_icon = icon;
+    if (!m_leading_label)
+        return;
+    const QSize px = pxSize(*m_scaling, m_mm_leading_icon_size).expandedTo(QSize(0, 0));
+    const bool is_sane = qint64(px.width()) * px.height() <= ImageFile::MAX_PIXELS;
+    m_leading_label->setPixmap(is_sane ? icon.pixmap(px, QIcon::Normal, QIcon::Off) : QPixmap());
+}
+
+void VexoLineEdit::setTrailingIcon(const QIcon &icon)
+{
+    m_trailing_icon = icon;
+    if (m_trailing_button)
+        m_trailing_button->setIcon(icon);
+    setMmTrailingIconSize(m_mm_trailing_icon_size);
+}
+
+void VexoLineEdit::setMmLeadingIconSize(const QSizeF &mm)
+{
+    m_mm_leading_icon_size = mm;
+    if (m_leading_label) {
+        m_leading_label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+        m_leading_label->setFixedWidth(widgetPx(pxX(*m_scaling, mm.width())));
+    }
+    setLeadingIcon(m_leading_icon);
+    update();
+}
+
+void VexoLineEdit::setMmTrailingIconSize(const QSizeF &mm)
+{
+    if (m_trailing_button)
+        m_trailing_button->setMmIconSize(mm); // refuses sizes with an exception
+    m_mm_trailing_icon_size = mm;
+    placeSideWidgets();
+}
+
+void VexoLineEdit::setMmMargin(const QSizeF &mm)
+{
+    m_mm_margin = mm;
+    m_px_margin = boundedXY(*m_scaling, mm.width(), mm.height());
+    setHeight();
+}
+
+void VexoLineEdit::setMmRadius(double mm)
+{
+    if (!(mm >= 0)) // NaN too
+        return;
+    m_mm_radius = mm;
+    m_frame->setRadius(boundedXY(*m_scaling, mm, mm));
+    setHeight();
+}
+
+void VexoLineEdit::setMmPenLine(double mm)
+{
+    if (!(mm >= 0)) // NaN too
+        return;
+    m_mm_pen_line = mm;
+    m_px_pen_line = boundedXY(*m_scaling, mm, mm);
+    m_frame->setLine(m_px_pen_line);
+    setHeight();
+}
+
+void VexoLineEdit::setPtFontSize(double pt)
+{
+    if (!(pt >= 0)) // NaN too
+        return;
+    m_pt_font_size = pt;
+    setPtSize(m_font, pt);
+    setFont(m_font);
+}
+
+void VexoLineEdit::setDrawPasswordSecured(bool secured)
+{
+    m_draw_password_secured = secured;
+    setEchoMode(secured ? Password : Normal);
+    update();
+}
+
+void VexoLineEdit::setDrawCentered(bool centered)
+{
+    m_draw_centered = centered;
+    update();
+}
+
+void VexoLineEdit::setDrawSecuredCentered(bool centered)
+{
+    m_draw_secured_centered = centered;
+}
+
+void VexoLineEdit::setCursorState(bool on)
+{
+    m_cursor_visible = on;
+    if (on)
+        m_cursor_timer->start();
+    else
+        m_cursor_timer->stop();
+}
+
+void VexoLineEdit::enableLeadingLabelAction()
+{
+    m_leading_action = new QWidgetAction(this);
+    m_leading_action->setObjectName(QStringLiteral("leadingAction"));
+    m_leading_action->setDefaultWidget(m_leading_label);
+    addAction(m_leading_action, LeadingPosition);
+    placeSideWidgets();
+}
+
+void VexoLineEdit::enableTrailingButtonAction()
+{
+    m_trailing_action = new QWidgetAction(this);
+    m_trailing_action->setObjectName(QStringLiteral("trailingAction"));
+    m_trailing_action->setDefaultWidget(m_trailing_button);
+    addAction(m_trailing_action, TrailingPosition);
+    placeSideWidgets();
+    if (!m_trailing_button)
+        return;
+    m_trailing_button->setCanChangeBackgroundColor(false);
+    connect(m_trailing_button, &VexoIconButton::clicked, this, &VexoLineEdit::deleteButtonClick);
+}
+
+void VexoLineEdit::shake(
+    unsigned int duration_ms, unsigned int oscillations, unsigned int amplitude_px, bool show_text)
+{
+    m_shake->start(duration_ms, oscillations, amplitude_px);
+    m_shake_timer.start(m_shake->delay());
+    m_shake_shows_text = show_text;
+    m_shake_area = QRect();
+}
+
+void VexoLineEdit::mousePressEvent(QMouseEvent *event)
+{
+    if (!event)
+        return;
+    const QPointer<VexoLineEdit> self(this);
+    QLineEdit::mousePressEvent(event);
+    if (self && m_tone_delegator)
+        QMetaObject::invokeMethod(m_tone_delegator, "tone", Qt::QueuedConnection);
+}
+
+void VexoLineEdit::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (!event)
+        return;
+    const QPointer<VexoLineEdit> self(this);
+    QLineEdit::mouseReleaseEvent(event);
+    if (self)
+        Q_EMIT textEditWanted(text());
+}
+
+void VexoLineEdit::resizeEvent(QResizeEvent *event)
+{
+    QLineEdit::resizeEvent(event);
+    placeSideWidgets();
+}
+
+void VexoLineEdit::onCursorTimeout()
+{
+    m_cursor_visible = !m_cursor_visible;
+    if (m_shake->isRunning() ? !m_shake_shows_text : m_draw_password_secured)
+        return; // dots, without a cursor
+    const int x = cursorX(textRect(m_text_run->advance(), m_placeholder_run->advance(), 0));
+    if (m_draw_centered || x != m_cursor_x)
+        update(); // centred text moves with the cursor
+    else if (!m_shake->isRunning())
+        update(cursorArea());
+}
+
+void VexoLineEdit::onShakeAnimationStep()
+{
+    if (!m_shake->step()) {
+        m_shake_dot_count = 0;
+        m_shake_text.clear();
+        m_shake_shows_text = false;
+        update();
+        return;
+    }
+    m_shake_timer.start(m_shake->delay());
+    const QRect area = shakeArea();
+    if (m_shake_area.isEmpty())
+        update(); // the first step also takes cursor and placeholder away
+    else
+        update(m_shake_area | area);
+    m_shake_area = area;
+}
+
+void VexoLineEdit::setHeight()
+{
+    const double mm = 2 * (m_mm_radius + m_mm_margin.height());
+    setFixedHeight(widgetPx(truncated(pxY(*m_scaling, mm) + m_px_pen_line.y())));
+    calculateCursorPosition();
+    update();
+}
+
+void VexoLineEdit::calculateCursorPosition()
+{
+    const int length = widgetPx(pxY(*m_scaling, m_cursor_mm_height));
+    m_cursor_top = (height() - length) / 2;
+    m_cursor_bottom = m_cursor_top + length;
+}
+
+// The toolkit puts them at the ends, but as large as its own small icons, which would cut ours.
+void VexoLineEdit::placeSideWidgets()
+{
+    QLabel *const label = m_leading_label;
+    if (m_leading_action && label)
+        label->setGeometry(label->x(), 0, label->width(), height());
+    VexoIconButton *const button = m_trailing_button;
+    if (!m_trailing_action || !button)
+        return;
+    QRect place(button->x(), 0, button->width(), height());
+    const int missing = qMax(0, button->pxIconSize().width() - place.width());
+    if (layoutDirection() == Qt::RightToLeft)
+        place.setRight(place.right() + missing);
+    else
+        place.setLeft(place.left() - missing);
+    button->setGeometry(place);
+}
+
+QRectF VexoLineEdit::textRect(int advance, int placeholder_advance, int dx) const
+{
+    const int indent = boundedX(*m_scaling, m_cursor_mm_indent);
+    const int offset = boundedX(*m_scaling, m_left_offset_mm);
+    const QLabel *const label = m_leading_action ? m_leading_label.data() : nullptr;
+    double x = dx;
+    if (m_draw_centered) {
+        int left = width() / 2 - advance / 2;
+        if (m_cursor_visible)
+            left -= (m_cursor_pen.width() + indent) / 2;
+        if (m_show_placeholder)
+            left -= (indent + placeholder_advance) / 2;
+        x += left;
+    } else if (label) {
+        x += label->x() + boundedX(*m_scaling, m_mm_leading_icon_size.width()) + offset;
+    } else {
+        x += bounded(m_scaling->mm2px_X(float(m_mm_radius))) + m_px_margin.x() + offset;
+    }
+    return QRectF(x, m_px_margin.y(), advance, height() - 2 * m_px_margin.y());
+}
+
+int VexoLineEdit::cursorX(const QRectF &text_rect) const
+{
+    return truncated(text_rect.right()) + boundedX(*m_scaling, m_cursor_mm_indent);
+}
+
+QRect VexoLineEdit::cursorArea() const
+{
+    const int seam = m_cursor_pen.width() / 2 + 1;
+    return QRect(QPoint(m_cursor_x, m_cursor_top), QPoint(m_cursor_x, m_cursor_bottom))
+        .adjusted(-seam, -seam, seam, seam);
+}
+
+QRect VexoLineEdit::shakeArea() const
+{
+    QRectF area;
+    if (m_shake_shows_text) {
+        m_text_run->set(m_shake_text, font());
+        area = m_text_run->inkRect(
+            textRect(m_text_run->advance(), 0, m_shake->offset()), textAlignment());
+    } else {
+        const QVector<QRectF> dots = dotRects(m_shake->offset(), m_shake_dot_count);
+        for (const QRectF &dot : dots)
+            area |= dot;
+        const double seam = m_frame->pen().widthF() / 2 + 1;
+        area.adjust(-seam, -seam, seam, seam);
+    }
+    return (area & QRectF(rect())).toAlignedRect();
+}
+
+QVector<QRectF> VexoLineEdit::dotRects(int dx, int count) const
+{
+    const float left = m_scaling->mm2px_X(float(m_mm_radius + m_left_offset_mm + 0.75));
+    return SecretDots::rects(
+        *m_scaling, size(), bounded(left) + m_px_margin.x(), dx, count, m_draw_secured_centered);
+}
+
+Qt::Alignment VexoLineEdit::textAlignment() const
+{
+    return (m_draw_centered ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter;
+}
+
+void VexoLineEdit::layOut(const QString &text)
+{
+    m_text_run->set(text, font());
+    if (text.size() != m_placeholder_typed) {
+        m_placeholder_typed = text.size();
+        m_placeholder_rest
+            = placeholderRest(m_placeholder_text, m_placeholder_typed, m_underscores > 0);
+    }
+    m_placeholder_run->set(m_placeholder_rest, font());
+}
+
+void VexoLineEdit::paintEvent(QPaintEvent *)
+{
+    if (!m_painter.begin(this))
+        return;
+    m_painter.setRenderHint(QPainter::Antialiasing);
+    m_frame->draw(&m_painter, size());
+    const QColor ink = isEnabled() ? m_text_color : m_text_inactive_color;
+    if (m_shake->isRunning())
+        drawShake(ink);
+    else if (m_draw_password_secured)
+        drawSecuredText(ink);
+    else
+        drawPlainText(ink);
+    m_painter.end();
+}
+
+void VexoLineEdit::drawPlainText(const QColor &ink)
+{
+    const QString text = this->text();
+    if (!text.isEmpty())
+        m_shake_text = text;
+    layOut(text);
+    m_show_placeholder = text.size() < m_placeholder_text.size();
+    drawUserText(ink, m_placeholder_run->advance(), 0);
+    m_cursor_x = cursorX(m_text_rect);
+    if (m_cursor_visible)
+        drawCursor(m_cursor_x);
+    if (m_show_placeholder)
+        drawPlaceholder(m_cursor_x);
+}
+
+void VexoLineEdit::drawUserText(const QColor &ink, int placeholder_advance, int dx)
+{
+    m_painter.setPen(ink);
+    m_text_rect = textRect(m_text_run->advance(), placeholder_advance, dx);
+    m_text_run->draw(&m_painter, m_text_rect, textAlignment());
+}
+
+void VexoLineEdit::drawCursor(int x)
+{
+    m_painter.setPen(m_cursor_pen);
+    m_painter.drawLine(x, m_cursor_top, x, m_cursor_bottom);
+}
+
+void VexoLineEdit::drawPlaceholder(int x)
+{
+    m_text_rect.setLeft(x);
+    m_text_rect.setWidth(m_placeholder_run->advance());
+    m_painter.setPen(m_placeholder_color);
+    m_placeholder_run->draw(&m_painter, m_text_rect, Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void VexoLineEdit::drawSecuredText(const QColor &ink)
+{
+    const int count = text().size();
+    if (count > 0)
+        m_shake_dot_count = count;
+    drawSecuredTextInternal(ink, 0, count);
+}
+
+void VexoLineEdit::drawSecuredTextInternal(const QColor &ink, int dx, int count)
+{
+    m_dots->draw(&m_painter, dotRects(dx, count), m_frame->pen(), ink);
+}
+
+void VexoLineEdit::drawShake(const QColor &ink)
+{
+    if (!m_shake_shows_text) {
+        drawSecuredTextInternal(ink, m_shake->offset(), m_shake_dot_count);
+        return;
+    }
+    m_text_run->set(m_shake_text, font());
+    drawUserText(ink, 0, m_shake->offset());
+}
+
+} // namespace vexo::hox::qt::ui
