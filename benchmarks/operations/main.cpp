@@ -46,6 +46,7 @@ int main(int argc, char **argv)
     bench::addIcons();
     bench::addButtons();
     bench::addActiveButtons();
+    bench::addLineEdits();
     bench::addRows();
     LineReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);

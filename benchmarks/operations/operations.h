@@ -13,6 +13,7 @@ void addActiveButtons();
 void addButtons();
 void addConversions();
 void addIcons();
+void addLineEdits();
 void addRows();
 
 /// Registers what is run under \a subject, "operations what variant". \a times fixes the number of
