@@ -5,8 +5,11 @@
 #include "gallery/pages/icontilespage.h"
 #include "gallery/pages/imagespage.h"
 #include "gallery/pages/keyboardpage.h"
+#include "gallery/pages/lineeditspage.h"
+#include "gallery/pages/loginpage.h"
 #include "gallery/pages/measuredbuttonpage.h"
 #include "gallery/pages/palettepage.h"
+#include "gallery/pages/pinpage.h"
 #include "gallery/pages/pushbuttonspage.h"
 #include "gallery/pages/rowspage.h"
 #include "gallery/pages/settingspage.h"
@@ -42,6 +45,9 @@ const QVector<PageEntry> &pageList()
         { "check-and-radio", "Check and radio", build<CheckAndRadioPage> },
         { "stepper", "Stepper", build<StepperPage> },
         { "settings", "Settings screen", build<SettingsPage> },
+        { "line-edits", "Line edits", build<LineEditsPage> },
+        { "pin", "PIN entry", build<PinPage> },
+        { "login", "Login form", build<LoginPage> },
     };
     return pages;
 }

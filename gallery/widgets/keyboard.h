@@ -20,6 +20,9 @@ public:
 
     explicit Keyboard(QWidget *parent = nullptr);
 
+    /// Shows digits and symbols instead of letters.
+    void showSymbols() { showLayer(Symbols); }
+
 Q_SIGNALS:
     /// A character key was clicked.
     void typed(const QString &text);

@@ -1,8 +1,15 @@
-# The keyboard of the gallery, and its command line.
+# The keyboard of the gallery, pages that it types into, and the command line.
 hoxq_test(gallery/tst_keyboard.cpp
   ${PROJECT_SOURCE_DIR}/gallery/measures.cpp
   ${PROJECT_SOURCE_DIR}/gallery/widgets/keyboard.cpp
   ${PROJECT_SOURCE_DIR}/gallery/widgets/keyboard.h)
+
+foreach(file measures page pages/loginpage pages/pinpage
+    widgets/fieldentry widgets/formground widgets/ground widgets/keyboard)
+  list(APPEND entry ${PROJECT_SOURCE_DIR}/gallery/${file}.cpp ${PROJECT_SOURCE_DIR}/gallery/${file}.h)
+endforeach()
+hoxq_test(gallery/tst_entry.cpp ${entry})
+target_include_directories(tst_entry PRIVATE ${PROJECT_SOURCE_DIR})
 
 hoxq_test(gallery/tst_gallery.cpp)
 add_dependencies(tst_gallery hoxqgallery)

@@ -1,0 +1,100 @@
+#include "gallery/keys.h"
+#include "gallery/pages/loginpage.h"
+#include "gallery/pages/pinpage.h"
+#include "support/testcase.h"
+
+#include <VexoIconButton>
+#include <VexoLineEdit>
+
+#include <QLabel>
+#include <QLayout>
+
+using vexo::hox::qt::ui::VexoIconButton;
+using vexo::hox::qt::ui::VexoLineEdit;
+
+/// The pages on which an on-screen keyboard fills line edits.
+class TestEntry : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void wrongPinShakesAndGoes_data();
+    void wrongPinShakesAndGoes();
+    void loginFormGoesFromFieldToField();
+};
+
+namespace {
+
+VexoLineEdit *fieldOf(const QWidget &page, const char *name)
+{
+    return page.findChild<VexoLineEdit *>(QLatin1String(name));
+}
+
+QString textOf(const QWidget &page, const char *name)
+{
+    return page.findChild<QLabel *>(QLatin1String(name))->text();
+}
+
+void expose(Page *page)
+{
+    page->layout()->setSizeConstraint(QLayout::SetNoConstraint);
+    page->resize(800, 480);
+    page->show();
+    QVERIFY(QTest::qWaitForWindowExposed(page));
+}
+
+QImage pictureOf(VexoLineEdit *field)
+{
+    field->setCursorState(false); // it would blink
+    return field->grab().toImage();
+}
+
+} // namespace
+
+void TestEntry::wrongPinShakesAndGoes_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("dots") << QByteArray("pinField");
+    QTest::newRow("underscores") << QByteArray("codeField");
+}
+
+void TestEntry::wrongPinShakesAndGoes()
+{
+    QFETCH(QByteArray, name);
+    PinPage page;
+    expose(&page);
+    VexoLineEdit *field = fieldOf(page, name);
+    QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(2, 2));
+    const QImage empty = pictureOf(field);
+    clickKeys(page, QStringLiteral("2 0"));
+    const QImage half = pictureOf(field);
+    clickKeys(page, QStringLiteral("3"));
+    QTest::mouseClick(field, Qt::LeftButton); // moves the toolkit's cursor, not ours
+    clickKeys(page, QStringLiteral("Delete"));
+    QCOMPARE(pictureOf(field), half);
+    clickKeys(page, QStringLiteral("1 1"));
+    QCOMPARE(field->text(), QString());
+    QCOMPARE(textOf(page, "pinResult"), QStringLiteral("Wrong, try again"));
+    QVERIFY(pictureOf(field) != empty);
+    QTRY_COMPARE(pictureOf(field), empty);
+    clickKeys(page, QStringLiteral("2 0 2 6"));
+    QCOMPARE(textOf(page, "pinResult"), QStringLiteral("Right"));
+}
+
+void TestEntry::loginFormGoesFromFieldToField()
+{
+    LoginPage page;
+    expose(&page);
+    clickKeys(page, QStringLiteral("p a n e l x Delete Enter v e x x Enter"));
+    QCOMPARE(textOf(page, "loginResult"), QStringLiteral("Wrong name or password"));
+    clickKeys(page, QStringLiteral("v e x o y"));
+    VexoLineEdit *password = fieldOf(page, "passwordField");
+    QTest::mouseClick(password->findChild<VexoIconButton *>(), Qt::LeftButton);
+    QCOMPARE(password->text(), QStringLiteral("vexo"));
+    clickKeys(page, QStringLiteral("Enter"));
+    QCOMPARE(textOf(page, "loginResult"), QStringLiteral("Logged in"));
+    QCOMPARE(fieldOf(page, "nameField")->text(), QStringLiteral("panel"));
+}
+
+QTEST_MAIN(TestEntry)
+#include "tst_entry.moc"
