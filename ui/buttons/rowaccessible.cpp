@@ -1,6 +1,7 @@
 #include "ui/buttons/rowaccessible_p.h"
 
 #include "ui/buttons/vexofunctionbutton.h"
+#include "ui/foundation/accessible_p.h"
 
 #include <QAccessibleWidget>
 
@@ -92,21 +93,11 @@ QAccessibleInterface *createRowAccessible(const QString &class_name, QObject *ob
     return row && is_row ? new RowAccessible(row) : nullptr;
 }
 
-// Removed when the library is unloaded.
-struct Factory
-{
-    Factory() { QAccessible::installFactory(createRowAccessible); }
-    ~Factory() { QAccessible::removeFactory(createRowAccessible); }
-    Factory(const Factory &) = delete;
-    Factory &operator=(const Factory &) = delete;
-};
-
 } // namespace
 
 void makeRowsAccessible()
 {
-    static const Factory factory;
-    Q_UNUSED(factory)
+    installAccessible<createRowAccessible>();
 }
 
 } // namespace vexo::hox::qt::ui

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAccessible>
 #include <QWidget>
 
 namespace vexo::hox::qt::ui {
@@ -17,6 +18,23 @@ inline void followDescription(QWidget *widget, const QString &before, const QStr
 {
     if (widget->accessibleDescription() == before)
         widget->setAccessibleDescription(now);
+}
+
+/// From now on assistive technology asks \a create first what it sees of a widget, until the
+/// library is unloaded.
+template <QAccessible::InterfaceFactory create>
+void installAccessible()
+{
+    struct Remover
+    {
+        Remover() = default;
+        ~Remover() { QAccessible::removeFactory(create); }
+        Q_DISABLE_COPY(Remover)
+    };
+    // Counts once; an application that ends takes all factories along, and the next one needs them.
+    QAccessible::installFactory(create);
+    static const Remover remover;
+    Q_UNUSED(remover)
 }
 
 } // namespace vexo::hox::qt::ui

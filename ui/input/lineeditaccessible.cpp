@@ -1,5 +1,6 @@
 #include "ui/input/lineeditaccessible_p.h"
 
+#include "ui/foundation/accessible_p.h"
 #include "ui/input/vexolineedit.h"
 
 #include <QAccessible>
@@ -130,22 +131,11 @@ QAccessibleInterface *createLineEditAccessible(const QString &class_name, QObjec
     return field && is_field ? new LineEditAccessible(field) : nullptr;
 }
 
-// Removed when the library is unloaded.
-struct Factory
-{
-    Factory() = default;
-    ~Factory() { QAccessible::removeFactory(createLineEditAccessible); }
-    Q_DISABLE_COPY(Factory)
-};
-
 } // namespace
 
 void makeLineEditsAccessible()
 {
-    // Counts once; an application that ends takes all factories along.
-    QAccessible::installFactory(createLineEditAccessible);
-    static const Factory factory;
-    Q_UNUSED(factory)
+    installAccessible<createLineEditAccessible>();
 }
 
 } // namespace vexo::hox::qt::ui
