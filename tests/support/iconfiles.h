@@ -27,7 +27,7 @@ public:
     QString svg(const QColor &color, const QSize &box = QSize(10, 10)) const
     {
         const QString text = QStringLiteral("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 "
-                                            "%1 %2'><path d='M0 0H99V99H0z' fill='%3'/></svg>");
+                                            "%1 %2'><path d='M0 0H%1V%2H0z' fill='%3'/></svg>");
         return write(QStringLiteral("%1-%2.svg").arg(color.rgb()).arg(box.width()),
             text.arg(box.width()).arg(box.height()).arg(color.name()).toUtf8());
     }

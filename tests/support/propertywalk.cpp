@@ -10,6 +10,7 @@
 #include <VexoHorizontalTextIconButton>
 #include <VexoIconButton>
 #include <VexoKeyboardButton>
+#include <VexoLabel>
 #include <VexoLineEdit>
 #include <VexoNumericButton>
 #include <VexoPushButton>
@@ -56,10 +57,11 @@ const std::vector<WalkedClass> &walkedClasses()
         { "VexoHorizontalTextIconButton", make<VexoHorizontalTextIconButton> },
         { "VexoIconButton", make<VexoIconButton> },
         { "VexoKeyboardButton", make<VexoKeyboardButton> },
+        { "VexoLabel", make<VexoLabel> },
+        { "VexoLineEdit", make<VexoLineEdit> },
         { "VexoNumericButton", makeStepper },
         { "VexoPushButton", make<VexoPushButton> },
         { "VexoRadioButton", make<VexoRadioButton> },
-        { "VexoLineEdit", make<VexoLineEdit> },
     };
     return classes;
 }

@@ -27,8 +27,9 @@ bool TextBlock::Look::operator==(const Look &other) const
         && ratio == other.ratio;
 }
 
-TextBlock::TextBlock(QTextOption::WrapMode wrap_mode)
+TextBlock::TextBlock(QTextOption::WrapMode wrap_mode, Qt::LayoutDirection direction)
     : m_wrap_mode(wrap_mode)
+    , m_direction(direction)
 {
     m_text.setTextFormat(Qt::PlainText);
 }
@@ -81,8 +82,10 @@ void TextBlock::layOut(
     // A static text counts the leading of its last line, drawText() does not.
     m_height = m_text.size().height() - qMax(0.0, QFontMetricsF(font).leading());
     const QRectF lines = coveredByLines();
-    // drawText() cuts the ends of a line that is too long, and justifies in a way of its own.
-    m_is_static = lines.width() <= width && !(alignment & Qt::AlignJustify);
+    // drawText() cuts the ends of a line that is too long, and has ways of its own to justify and
+    // to place the blanks at the ends of lines that it finds to run from right to left.
+    const bool is_turned = m_direction == Qt::LayoutDirectionAuto && text.isRightToLeft();
+    m_is_static = lines.width() <= width && !(alignment & Qt::AlignJustify) && !is_turned;
     // Letters may reach a little beyond their lines, accents also above and below.
     const int beside = font.pixelSize() / 3;
     const int above = 2;
@@ -109,6 +112,7 @@ QTextOption TextBlock::option(Qt::Alignment alignment) const
 {
     QTextOption option(alignment);
     option.setWrapMode(m_wrap_mode);
+    option.setTextDirection(m_direction);
     return option;
 }
 

@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QGuiApplication>
 #include <QRectF>
 #include <QStaticText>
 
@@ -23,11 +24,13 @@ public:
         QRectF area;
     };
 
-    explicit TextBlock(QTextOption::WrapMode wrap_mode = QTextOption::WordWrap);
+    /// With Qt::LayoutDirectionAuto a text runs as its first letters do.
+    explicit TextBlock(QTextOption::WrapMode wrap_mode = QTextOption::WordWrap,
+        Qt::LayoutDirection direction = QGuiApplication::layoutDirection());
 
     /// Draws \a text into \a area in the painter's font and pen. Lays out anew only when text,
     /// font, alignment or the width of the area have changed since the last call; but a text that
-    /// does not fit into the area, each time.
+    /// does not fit into the area, or that is found to run from right to left, each time.
     ///
     /// With a \a ground that is already drawn around the text, the pixmap cache keeps the text
     /// together with it, for two pairs of colours: to blend letters costs several times as much as
@@ -55,6 +58,7 @@ private:
     Print print(const Look &look) const;
 
     const QTextOption::WrapMode m_wrap_mode;
+    const Qt::LayoutDirection m_direction;
     QString m_source;
     QFont m_font;
     Qt::Alignment m_alignment;

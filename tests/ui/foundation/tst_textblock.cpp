@@ -62,11 +62,14 @@ void TestTextBlock::looksAsDrawTextDoes()
     QFETCH(QString, text);
     const QVector<Qt::Alignment> alignments{ Qt::AlignCenter, Qt::AlignLeft | Qt::AlignVCenter,
         Qt::AlignRight | Qt::AlignTop, Qt::AlignJustify | Qt::AlignBottom, Qt::Alignment() };
-    for (const auto wrap_mode : { QTextOption::WordWrap, QTextOption::NoWrap }) {
-        TextBlock block(wrap_mode);
-        for (const Qt::Alignment alignment : alignments) {
-            QTextOption option(alignment);
-            option.setWrapMode(wrap_mode);
+    for (const Qt::Alignment alignment : alignments) {
+        QTextOption plain(alignment);
+        QTextOption unwrapped(alignment);
+        unwrapped.setWrapMode(QTextOption::NoWrap);
+        QTextOption turning(alignment);
+        turning.setTextDirection(Qt::LayoutDirectionAuto);
+        for (const QTextOption &option : { plain, unwrapped, turning }) {
+            TextBlock block(option.wrapMode(), option.textDirection());
             for (int px : { 13, 13, 24 }) { // the second time everything is laid out
                 const QImage expected = drawn(text, px, option);
                 QCOMPARE(drawn(text, px, option, &block), expected);

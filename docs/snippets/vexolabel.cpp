@@ -1,0 +1,17 @@
+//! [page]
+#include <VexoLabel>
+
+#include <QLineEdit>
+
+using namespace vexo::hox::qt::ui;
+
+// A caption over its field. Both appear with label->show() and go with label->hide().
+VexoLabel *createCaption(const QString &text, QLineEdit *field)
+{
+    auto *label = new VexoLabel(text, field->parentWidget());
+    label->setBackgroundColor(VexoColors::C2);
+    label->setBuddy(field); // tells assistive technology what the field is called
+    label->addVisibleBuddy(field); // hides it until label->show()
+    return label;
+}
+//! [page]

@@ -1,0 +1,124 @@
+#include "support/paintcounter.h"
+#include "support/panelscale.h"
+#include "support/testcase.h"
+
+#include <FontLoader>
+#include <VexoLabel>
+
+#include <QAccessible>
+#include <QPainter>
+#include <QTest>
+
+using namespace vexo::hox::qt::ui;
+
+class TestVexoLabel : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isAsThePainterDrawsIt_data();
+    void isAsThePainterDrawsIt();
+    void measuresArePhysical();
+    void wildNumbersAreHarmless();
+    void buddiesFollow();
+    void changeRepaintsOnce();
+};
+
+void TestVexoLabel::isAsThePainterDrawsIt_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("alignment");
+    const QString words = QStringLiteral("one two three four five six seven");
+    const QString hebrew = QString::fromUtf8(
+        "\u05d0\u05d1\u05d2 \u05d3\u05d4\u05d5 \u05d6\u05d7\u05d8 \u05d9\u05db\u05dc");
+    QTest::newRow("right, bottom") << "Text" << int(Qt::AlignRight | Qt::AlignBottom);
+    QTest::newRow("wrapped") << words << int(Qt::AlignCenter);
+    QTest::newRow("line breaks, markup") << "a\nb <b>c</b> &amp; d" << int(Qt::AlignLeft);
+    QTest::newRow("right to left") << hebrew << int(Qt::AlignJustify);
+    QTest::newRow("pairs") << QString::fromUtf8("A\U0001f600").repeated(20) << int(Qt::AlignTop);
+    QTest::newRow("10,000 characters") << words.repeated(310) << int(Qt::AlignCenter);
+}
+
+void TestVexoLabel::isAsThePainterDrawsIt()
+{
+    QFETCH(QString, text);
+    QFETCH(int, alignment);
+    const PanelScale scale(8, 10);
+    FontLoader();
+    QTextOption option; // finds the direction in the text
+    option.setAlignment(Qt::Alignment(alignment));
+    VexoLabel label(QStringLiteral("before"));
+    label.setMmHeight(8.6);
+    label.resize(151, 86);
+    label.grab(); // nothing of this look may outlive the changes
+    label.setPtFontSize(10);
+    label.setTextColor(Qt::red);
+    label.setBackgroundColor(Qt::green);
+    label.setText(text);
+    label.setTextAlignment(Qt::Alignment(alignment));
+    QImage expected(151, 86, QImage::Format_RGB32);
+    expected.fill(Qt::green);
+    QPainter painter(&expected);
+    QFont font;
+    font.setPixelSize(35); // 10 pt
+    font.setWeight(QFont::Medium);
+    painter.setFont(font);
+    painter.setPen(Qt::red);
+    painter.drawText(QRectF(expected.rect()), text, option);
+    painter.end();
+    QCOMPARE(label.grab().toImage().convertToFormat(QImage::Format_RGB32), expected);
+}
+
+void TestVexoLabel::measuresArePhysical()
+{
+    const PanelScale scale(10, 20);
+    VexoLabel label;
+    QCOMPARE(label.minimumHeight(), 100);
+    QCOMPARE(label.maximumHeight(), 100);
+    QCOMPARE(label.font().pixelSize(), 49);
+    label.setMmIndent(2.09);
+    QCOMPARE(label.indent(), 20);
+    QCOMPARE(label.mmIndent(), double(20.9F / 10.0F));
+}
+
+void TestVexoLabel::wildNumbersAreHarmless()
+{
+    for (const double wild : { qQNaN(), qInf(), -qInf(), -1.0 }) {
+        VexoLabel label(QStringLiteral("text"));
+        label.setPtFontSize(wild);
+        label.setFontWeight(wild > 0 ? 1000 : -1000);
+        label.setMmIndent(wild);
+        label.setMmHeight(wild);
+        label.setMinimumHeight(40);
+        label.grab(QRect(0, 0, 40, 40));
+        QVERIFY(label.sizeHint().isValid());
+    }
+}
+
+void TestVexoLabel::buddiesFollow()
+{
+    QWidget window;
+    VexoLabel label(QStringLiteral("<b>pH"), &window);
+    QWidget buddy(&window);
+    window.show();
+    QCOMPARE(label.addVisibleBuddy(&buddy), &buddy);
+    QVERIFY(buddy.isHidden());
+    QCOMPARE(label.addVisibleBuddy(nullptr), nullptr);
+    label.show();
+    QVERIFY(buddy.isVisible());
+    label.clearVisibleBuddies();
+    label.hide();
+    QVERIFY(buddy.isVisible());
+    QCOMPARE(QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name), label.text());
+}
+
+void TestVexoLabel::changeRepaintsOnce()
+{
+    VexoLabel label;
+    // Font and height are those it has; a new alignment waits for the next paint.
+    QCOMPARE(propertiesWithoutOneRepaint(&label),
+        (QByteArrayList{ "pt_font_size", "height_in_mm", "text_alignment" }));
+}
+
+QTEST_MAIN(TestVexoLabel)
+#include "tst_vexolabel.moc"
