@@ -12,9 +12,11 @@
 #include <VexoKeyboardButton>
 #include <VexoLabel>
 #include <VexoLineEdit>
+#include <VexoLineSpacer>
 #include <VexoNumericButton>
 #include <VexoPushButton>
 #include <VexoRadioButton>
+#include <VexoRuler>
 
 #include <QColor>
 #include <QIcon>
@@ -59,9 +61,11 @@ const std::vector<WalkedClass> &walkedClasses()
         { "VexoKeyboardButton", make<VexoKeyboardButton> },
         { "VexoLabel", make<VexoLabel> },
         { "VexoLineEdit", make<VexoLineEdit> },
+        { "VexoLineSpacer", make<VexoLineSpacer> },
         { "VexoNumericButton", makeStepper },
         { "VexoPushButton", make<VexoPushButton> },
         { "VexoRadioButton", make<VexoRadioButton> },
+        { "VexoRuler", make<VexoRuler> },
     };
     return classes;
 }

@@ -1,3 +1,3 @@
-foreach(class vexolabel)
+foreach(class vexolabel vexolinespacer vexoruler)
   hoxq_test(ui/text/tst_${class}.cpp)
 endforeach()
