@@ -13,6 +13,7 @@
 #include <VexoLabel>
 #include <VexoLineEdit>
 #include <VexoLineSpacer>
+#include <VexoLogoLabel>
 #include <VexoNumericButton>
 #include <VexoPushButton>
 #include <VexoRadioButton>
@@ -62,6 +63,7 @@ const std::vector<WalkedClass> &walkedClasses()
         { "VexoLabel", make<VexoLabel> },
         { "VexoLineEdit", make<VexoLineEdit> },
         { "VexoLineSpacer", make<VexoLineSpacer> },
+        { "VexoLogoLabel", make<VexoLogoLabel> },
         { "VexoNumericButton", makeStepper },
         { "VexoPushButton", make<VexoPushButton> },
         { "VexoRadioButton", make<VexoRadioButton> },

@@ -137,6 +137,11 @@ VectorFile::VectorFile(const QString &path)
 
 VectorFile::~VectorFile() = default;
 
+QSvgRenderer *VectorFile::renderer()
+{
+    return isSafe() && read().isValid() ? m_renderer.get() : nullptr;
+}
+
 QSize VectorFile::read()
 {
     m_renderer = loadSvg(m_path);

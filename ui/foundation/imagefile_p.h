@@ -29,11 +29,14 @@ public:
     QSize naturalSize();
     /// The whole image stretched to \a px; null for an empty size and beyond the limits.
     QPixmap pixmap(const QSize &px);
+    /// Stands for the content; empty for a file that may still be changing or that is gone.
+    const QString &key() const { return m_key; }
 
 protected:
     /// \a kind keeps the renderings of both kinds apart.
     ImageFile(const QString &path, char kind);
 
+    bool isSafe() const { return m_is_safe; }
     /// Reads the file and returns its natural size, invalid on failure.
     virtual QSize read() = 0;
     /// Renders what read() has read.
@@ -46,7 +49,7 @@ private:
     void identifyFile(char kind);
 
     bool m_is_safe = false;
-    QString m_key; // stands for the content; empty when the file may still be changing
+    QString m_key;
     bool m_is_read = false;
 };
 
@@ -56,6 +59,9 @@ class VectorFile : public ImageFile
 public:
     explicit VectorFile(const QString &path);
     ~VectorFile() override;
+
+    /// Reads the file now, past all caches and in whatever thread; null when it cannot be read.
+    QSvgRenderer *renderer();
 
 protected:
     QSize read() override;

@@ -1,3 +1,3 @@
-foreach(class vexolabel vexolinespacer vexoruler)
+foreach(class vexolabel vexolinespacer vexologo vexologolabel vexoruler)
   hoxq_test(ui/text/tst_${class}.cpp)
 endforeach()

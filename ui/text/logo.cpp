@@ -1,0 +1,43 @@
+#include "ui/text/logo_p.h"
+
+#include "ui/foundation/imagefile_p.h"
+#include "ui/foundation/scalinginfo.h"
+
+#include <QPainter>
+#include <QSvgRenderer>
+
+namespace vexo::hox::qt::ui {
+
+QImage logoImage(int width, int height, QImage::Format format)
+{
+    return qint64(width) * height > ImageFile::MAX_PIXELS ? QImage()
+                                                          : QImage(width, height, format);
+}
+
+QRectF logoRect(const QSize &natural, double mm, const QSizeF &room)
+{
+    if (natural.isEmpty())
+        return QRectF();
+    const ScalingInfo &scaling = *ScalingInfo::inst();
+    const double height_mm = mm * natural.height() / natural.width();
+    const QSizeF size(
+        mm * double(scaling.m_px_per_mm_x), height_mm * double(scaling.m_px_per_mm_y));
+    if (size.isEmpty() || !qIsFinite(size.width()) || !qIsFinite(size.height()))
+        return QRectF();
+    return QRectF(
+        QPointF((room.width() - size.width()) / 2, (room.height() - size.height()) / 2), size);
+}
+
+void drawLogo(QImage *image, QSvgRenderer *renderer, const QRectF &rect)
+{
+    QPainter painter;
+    if (image->isNull() || !painter.begin(image))
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBackground(Qt::white);
+    painter.eraseRect(image->rect());
+    if (renderer && !rect.isEmpty())
+        renderer->render(&painter, rect);
+}
+
+} // namespace vexo::hox::qt::ui
