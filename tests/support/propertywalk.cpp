@@ -7,6 +7,7 @@
 #include <VexoCheckBox>
 #include <VexoDesignVectorButton>
 #include <VexoFunctionButton>
+#include <VexoHorizontalLabelWidget>
 #include <VexoHorizontalTextIconButton>
 #include <VexoIconButton>
 #include <VexoKeyboardButton>
@@ -18,6 +19,7 @@
 #include <VexoPushButton>
 #include <VexoRadioButton>
 #include <VexoRuler>
+#include <VexoTextEnumeration>
 
 #include <QColor>
 #include <QIcon>
@@ -57,6 +59,7 @@ const std::vector<WalkedClass> &walkedClasses()
         { "VexoCheckBox", make<VexoCheckBox> },
         { "VexoDesignVectorButton", make<VexoDesignVectorButton> },
         { "VexoFunctionButton", make<VexoFunctionButton> },
+        { "VexoHorizontalLabelWidget", make<VexoHorizontalLabelWidget> },
         { "VexoHorizontalTextIconButton", make<VexoHorizontalTextIconButton> },
         { "VexoIconButton", make<VexoIconButton> },
         { "VexoKeyboardButton", make<VexoKeyboardButton> },
@@ -68,6 +71,7 @@ const std::vector<WalkedClass> &walkedClasses()
         { "VexoPushButton", make<VexoPushButton> },
         { "VexoRadioButton", make<VexoRadioButton> },
         { "VexoRuler", make<VexoRuler> },
+        { "VexoTextEnumeration", make<VexoTextEnumeration> },
     };
     return classes;
 }

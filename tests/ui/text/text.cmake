@@ -1,3 +1,4 @@
-foreach(class vexolabel vexolinespacer vexologo vexologolabel vexoruler)
+foreach(class vexohorizontallabelwidget vexolabel vexolinespacer vexologo vexologolabel vexoruler
+    vexotextenumeration)
   hoxq_test(ui/text/tst_${class}.cpp)
 endforeach()

@@ -1,0 +1,123 @@
+#include "ui/text/vexohorizontallabelwidget.h"
+
+#include "ui/foundation/panelfont_p.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+namespace vexo::hox::qt::ui {
+
+namespace {
+
+QString rgb(const QColor &color)
+{
+    return QStringLiteral("rgb(%1, %2, %3)").arg(color.red()).arg(color.green()).arg(color.blue());
+}
+
+} // namespace
+
+VexoHorizontalLabelWidget::VexoHorizontalLabelWidget(QWidget *parent)
+    : QWidget(parent)
+    , m_left_label(new QLabel)
+    , m_right_label(new QLabel)
+    , m_scaling(ScalingInfo::inst())
+{
+    setupUi();
+}
+
+void VexoHorizontalLabelWidget::setLeftLabelText(const QString &text)
+{
+    m_left_text = text;
+    m_left_label->setText(text);
+}
+
+void VexoHorizontalLabelWidget::setRightLabelText(const QString &text)
+{
+    m_right_text = text;
+    m_right_label->setText(text);
+}
+
+void VexoHorizontalLabelWidget::setTextColor(const QColor &color)
+{
+    m_text_color = color;
+    setStyleSheetFromColors();
+}
+
+void VexoHorizontalLabelWidget::setBackgroundColor(const QColor &color)
+{
+    m_background_color = color;
+    setStyleSheetFromColors();
+}
+
+void VexoHorizontalLabelWidget::setPtFontSize(int pt)
+{
+    m_pt_font_size = pt;
+    for (QLabel *label : { m_left_label, m_right_label }) {
+        QFont font = label->font();
+        setPtSize(font, pt);
+        label->setFont(font);
+    }
+}
+
+void VexoHorizontalLabelWidget::setMmIndent(double mm)
+{
+    m_mm_indent = mm;
+    const int indent_px = qMin(pxX(*m_scaling, mm), QWIDGETSIZE_MAX);
+    m_left_label->setIndent(indent_px);
+    m_right_label->setIndent(indent_px);
+}
+
+void VexoHorizontalLabelWidget::setLeftLabelMmWidth(double mm)
+{
+    m_left_label_mm_width = mm;
+    m_left_label->setFixedWidth(widgetPx(pxX(*m_scaling, mm)));
+}
+
+void VexoHorizontalLabelWidget::setRightLabelMmWidth(double mm)
+{
+    m_right_label_mm_width = mm;
+    m_right_label->setFixedWidth(widgetPx(pxX(*m_scaling, mm)));
+}
+
+void VexoHorizontalLabelWidget::setMmHeight(double mm)
+{
+    m_mm_height = mm;
+    const int height_px = widgetPx(pxY(*m_scaling, mm));
+    m_left_label->setFixedHeight(height_px);
+    m_right_label->setFixedHeight(height_px);
+    setFixedHeight(height_px);
+}
+
+// Parsing a stylesheet is dear, also one that a label has already.
+void VexoHorizontalLabelWidget::setStyleSheetFromColors() const
+{
+    const QString sheet = QStringLiteral("QLabel {color: %1;background: %2;}")
+                              .arg(rgb(m_text_color), rgb(m_background_color));
+    for (QLabel *label : { m_left_label, m_right_label }) {
+        if (label->styleSheet() != sheet)
+            label->setStyleSheet(sheet);
+    }
+}
+
+void VexoHorizontalLabelWidget::setupUi()
+{
+    setObjectName(QStringLiteral("vexoHorizontalLabelWidget"));
+    auto *layout = new QHBoxLayout(this);
+    layout->setSpacing(0);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_left_label);
+    layout->addWidget(m_right_label);
+    setTextColor(m_text_color);
+    setBackgroundColor(m_background_color);
+    setPtFontSize(m_pt_font_size);
+    setMmIndent(m_mm_indent);
+    setLeftLabelMmWidth(m_left_label_mm_width);
+    setRightLabelMmWidth(m_right_label_mm_width);
+    setMmHeight(m_mm_height);
+    m_left_label->setWordWrap(true);
+    m_right_label->setWordWrap(true);
+    m_left_label->setObjectName(QStringLiteral("leftLabel"));
+    m_right_label->setObjectName(QStringLiteral("rightLabel"));
+}
+
+} // namespace vexo::hox::qt::ui

@@ -1,0 +1,94 @@
+#include "ui/text/vexotextenumeration.h"
+
+#include "ui/foundation/panelfont_p.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace vexo::hox::qt::ui {
+
+namespace {
+
+const ScalingInfo &scaling()
+{
+    return *ScalingInfo::inst();
+}
+
+void clearSpace(QBoxLayout *layout)
+{
+    layout->setSpacing(0);
+    layout->setContentsMargins(0, 0, 0, 0);
+}
+
+/// A column with \a label below a gap.
+QWidget *columnOf(QLabel *label, double gap_mm)
+{
+    auto *column = new QWidget;
+    auto *layout = new QVBoxLayout(column);
+    clearSpace(layout);
+    layout->addSpacing(pxY(scaling(), gap_mm));
+    layout->addWidget(label, 32);
+    return column;
+}
+
+void setLook(QLabel *label, double pt, int weight)
+{
+    label->setFont(panelFont(pt, weight));
+    label->setStyleSheet(QStringLiteral("color: rgb(60, 60, 60)"));
+    label->setTextInteractionFlags(Qt::NoTextInteraction);
+    label->setAlignment(Qt::AlignTop);
+}
+
+} // namespace
+
+VexoTextEnumeration::VexoTextEnumeration(QWidget *parent)
+    : QWidget(parent)
+    , m_text_label(new QLabel)
+    , m_number_label(new QLabel)
+{
+    setupUi();
+}
+
+void VexoTextEnumeration::setText(const QString &text, int number)
+{
+    m_text_label->setText(text);
+    m_number_label->setText(QString::number(number) + QLatin1Char('.'));
+}
+
+void VexoTextEnumeration::setupUi()
+{
+    setFixedHeight(widgetPx(pxY(scaling(), 14.5)));
+    setupTextLabel();
+    setupNumberLabel();
+    setupLayouts();
+}
+
+void VexoTextEnumeration::setupTextLabel()
+{
+    setLook(m_text_label, 9.0, QFont::Light);
+    m_text_label->setWordWrap(true);
+    m_text_label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    m_text_label->setFixedHeight(widgetPx(pxY(scaling(), 11.25)));
+}
+
+void VexoTextEnumeration::setupNumberLabel()
+{
+    setLook(m_number_label, 10.0, QFont::Medium);
+    m_number_label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_number_label->setFixedSize(widgetPx(pxX(scaling(), 3.0)), widgetPx(pxY(scaling(), 11.55)));
+}
+
+void VexoTextEnumeration::setupLayouts()
+{
+    const int gap_px = pxX(scaling(), 3.0);
+    auto *layout = new QHBoxLayout(this);
+    clearSpace(layout);
+    layout->addSpacing(gap_px);
+    layout->addWidget(columnOf(m_number_label, 2.95));
+    layout->addSpacing(gap_px);
+    layout->addWidget(columnOf(m_text_label, 3.25));
+    layout->addSpacing(gap_px);
+}
+
+} // namespace vexo::hox::qt::ui
