@@ -5,16 +5,20 @@
 #include "gallery/pages/icontilespage.h"
 #include "gallery/pages/imagespage.h"
 #include "gallery/pages/keyboardpage.h"
+#include "gallery/pages/labelspage.h"
 #include "gallery/pages/lineeditspage.h"
 #include "gallery/pages/loginpage.h"
+#include "gallery/pages/logopage.h"
 #include "gallery/pages/measuredbuttonpage.h"
 #include "gallery/pages/palettepage.h"
 #include "gallery/pages/pinpage.h"
 #include "gallery/pages/pushbuttonspage.h"
 #include "gallery/pages/rowspage.h"
+#include "gallery/pages/rulerspage.h"
 #include "gallery/pages/settingspage.h"
 #include "gallery/pages/stepperpage.h"
 #include "gallery/pages/stylesheetpage.h"
+#include "gallery/pages/textrowspage.h"
 #include "gallery/pages/tilespage.h"
 #include "gallery/pages/typepage.h"
 
@@ -45,6 +49,10 @@ const QVector<PageEntry> &pageList()
         { "check-and-radio", "Check and radio", build<CheckAndRadioPage> },
         { "stepper", "Stepper", build<StepperPage> },
         { "settings", "Settings screen", build<SettingsPage> },
+        { "labels", "Labels", build<LabelsPage> },
+        { "rulers", "Rulers and spacers", build<RulersPage> },
+        { "logo", "Logo", build<LogoPage> },
+        { "text-rows", "Text rows", build<TextRowsPage> },
         { "line-edits", "Line edits", build<LineEditsPage> },
         { "pin", "PIN entry", build<PinPage> },
         { "login", "Login form", build<LoginPage> },
