@@ -48,6 +48,7 @@ int main(int argc, char **argv)
     bench::addActiveButtons();
     bench::addLineEdits();
     bench::addRows();
+    bench::addLabels();
     LineReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return 0;

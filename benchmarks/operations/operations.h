@@ -15,6 +15,7 @@ void addConversions();
 void addIcons();
 void addLineEdits();
 void addRows();
+void addLabels();
 
 /// Registers what is run under \a subject, "operations what variant". \a times fixes the number of
 /// steps in a series; with 0 it is found by the time the steps take.
