@@ -1,12 +1,11 @@
 //! [page]
 #include <VexoLabel>
-
-#include <QLineEdit>
+#include <VexoLineEdit>
 
 using namespace vexo::hox::qt::ui;
 
 // A caption over its field. Both appear with label->show() and go with label->hide().
-VexoLabel *createCaption(const QString &text, QLineEdit *field)
+VexoLabel *createCaption(const QString &text, VexoLineEdit *field)
 {
     auto *label = new VexoLabel(text, field->parentWidget());
     label->setBackgroundColor(VexoColors::C2);

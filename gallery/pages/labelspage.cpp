@@ -6,10 +6,10 @@
 
 #include <VexoColors>
 #include <VexoLabel>
+#include <VexoLineEdit>
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QVBoxLayout>
 
 using namespace vexo::hox::qt::ui;
@@ -116,8 +116,8 @@ void LabelsPage::addBuddies()
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(mmY(1));
     auto *caption = new VexoLabel("Name of the device");
-    auto *field = new QLineEdit("Panel 1");
-    field->setFont(ptFont(9));
+    auto *field = new VexoLineEdit;
+    field->setText("Panel 1");
     caption->setBuddy(field);
     column->addWidget(caption);
     column->addWidget(field);
