@@ -33,7 +33,8 @@ void TestVexoCenteredVectorButton::measuresPlaceTheIcon()
     const auto icon = [&] { return boxOf(tile.grab().toImage(), Qt::magenta); };
     tile.setIconPath(m_files.svg(Qt::red));
     tile.setIconPath(m_files.svg(Qt::magenta)); // in its place
-    for (QLabel *label : tile.findChildren<QLabel *>())
+    const auto labels = tile.findChildren<QLabel *>();
+    for (QLabel *label : labels)
         label->setFixedHeight(73); // fills the tile
     QCOMPARE(tile.size(), QSize(300, 560));
     QCOMPARE(icon(), QRect(80, 100, 140, 280));
