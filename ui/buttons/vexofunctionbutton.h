@@ -34,8 +34,9 @@ class VisibleBuddies;
 /// The row draws its ground, whatever a stylesheet says; text and right-hand widget are children
 /// with the names "vexoFunctionButtonLabel" and "vexoFunctionButtonWidgetRight". Assistive
 /// technology sees it as one object with the text, the role and the checked state of what it shows.
-/// Press it rings the feedback delegator that was installed when it was constructed. It may be
-/// deleted, and its type changed, in its pressed() and clicked().
+/// A press rings the feedback delegator that was installed when the row was constructed. It may be
+/// deleted, and its type changed, in pressed() and clicked(), also in those of its right-hand
+/// widget; but not in toggled(), after which the toolkit goes on with it.
 class HOXQUI_EXPORT VexoFunctionButton // clazy:exclude=copyable-polymorphic
     : public QToolButton,
       private vexo::hox::qt::system::VexoLogging
