@@ -87,6 +87,7 @@ def statements(body, section):
         elif not line.startswith("//"):
             declaration, _, behind = line.partition("///<")
             code = f"{code} {declaration.partition(' //')[0].strip()}".strip()
+            code = code.replace("( ", "(")
             if behind:
                 name = "" if is_complete(code) else f"- \\a {re.match(r'[^ ,=]+', line)[0]}:"
                 comment.append(f"///{name}{behind}")
@@ -99,7 +100,7 @@ def without_body(code):
     if not is_operation(code):
         return re.sub(r"^(static |constexpr |const(?=expr))+", "", code.rstrip(";"))
     code = re.sub(r"\s*(\{.*\})?;?$", "", code)
-    return re.sub(r"^explicit | override$", "", code)
+    return re.sub(r"^\[\[.*?\]\] |^explicit | override$", "", code)
 
 
 def items_of(body, section):
