@@ -49,6 +49,7 @@ int main(int argc, char **argv)
     bench::addLineEdits();
     bench::addRows();
     bench::addLabels();
+    bench::addStrings();
     LineReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return 0;

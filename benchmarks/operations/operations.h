@@ -16,6 +16,7 @@ void addIcons();
 void addLineEdits();
 void addRows();
 void addLabels();
+void addStrings();
 
 /// Registers what is run under \a subject, "operations what variant". \a times fixes the number of
 /// steps in a series; with 0 it is found by the time the steps take.
