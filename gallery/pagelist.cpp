@@ -17,6 +17,7 @@
 #include "gallery/pages/rulerspage.h"
 #include "gallery/pages/settingspage.h"
 #include "gallery/pages/stepperpage.h"
+#include "gallery/pages/stringspage.h"
 #include "gallery/pages/stylesheetpage.h"
 #include "gallery/pages/textrowspage.h"
 #include "gallery/pages/tilespage.h"
@@ -56,6 +57,7 @@ const QVector<PageEntry> &pageList()
         { "line-edits", "Line edits", build<LineEditsPage> },
         { "pin", "PIN entry", build<PinPage> },
         { "login", "Login form", build<LoginPage> },
+        { "strings", "Strings", build<StringsPage> },
     };
     return pages;
 }

@@ -4,7 +4,7 @@ hoxq_test(gallery/tst_keyboard.cpp
   ${PROJECT_SOURCE_DIR}/gallery/widgets/keyboard.cpp
   ${PROJECT_SOURCE_DIR}/gallery/widgets/keyboard.h)
 
-foreach(file measures page pages/loginpage pages/pinpage
+foreach(file measures page pages/loginpage pages/pinpage pages/stringspage
     widgets/fieldentry widgets/formground widgets/ground widgets/keyboard)
   list(APPEND entry ${PROJECT_SOURCE_DIR}/gallery/${file}.cpp ${PROJECT_SOURCE_DIR}/gallery/${file}.h)
 endforeach()

@@ -1,6 +1,7 @@
 #include "gallery/keys.h"
 #include "gallery/pages/loginpage.h"
 #include "gallery/pages/pinpage.h"
+#include "gallery/pages/stringspage.h"
 #include "support/testcase.h"
 
 #include <VexoIconButton>
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void wrongPinShakesAndGoes_data();
     void wrongPinShakesAndGoes();
     void loginFormGoesFromFieldToField();
+    void converterFollowsTheText();
 };
 
 namespace {
@@ -94,6 +96,23 @@ void TestEntry::loginFormGoesFromFieldToField()
     clickKeys(page, QStringLiteral("Enter"));
     QCOMPARE(textOf(page, "loginResult"), QStringLiteral("Logged in"));
     QCOMPARE(fieldOf(page, "nameField")->text(), QStringLiteral("panel"));
+}
+
+void TestEntry::converterFollowsTheText()
+{
+    StringsPage page;
+    expose(&page);
+    const auto resultOf = [&](const char *name) {
+        return textOf(page, name).remove(QChar(0x200b)); // where a line may break
+    };
+    clickKeys(page, QStringLiteral("Enter Shift A Space b"));
+    QCOMPARE(resultOf("hexResult"), QStringLiteral("412062"));
+    QCOMPARE(resultOf("base64Result"), QStringLiteral("QSBi"));
+    QCOMPARE(resultOf("lowerResult"), QStringLiteral("a b"));
+    QCOMPARE(resultOf("splitResult"), QStringLiteral("A | b"));
+    QCOMPARE(resultOf("fromBase64Result"), QStringLiteral("Invalid base64 length!"));
+    clickKeys(page, QStringLiteral("Delete Delete Delete 123 4 8 6 9"));
+    QCOMPARE(resultOf("fromHexResult"), QStringLiteral("Hi"));
 }
 
 QTEST_MAIN(TestEntry)
