@@ -3,6 +3,8 @@
 #include <ActiveButton>
 #include <ActiveVectorButton>
 #include <MeasuredPushButton>
+#include <UpdateMainWindow>
+#include <UpdatePage>
 #include <VexoCenteredVectorButton>
 #include <VexoCheckBox>
 #include <VexoDesignVectorButton>
@@ -10,6 +12,7 @@
 #include <VexoHorizontalLabelWidget>
 #include <VexoHorizontalTextIconButton>
 #include <VexoIconButton>
+#include <VexoImageHeadline>
 #include <VexoKeyboardButton>
 #include <VexoLabel>
 #include <VexoLineEdit>
@@ -20,6 +23,8 @@
 #include <VexoRadioButton>
 #include <VexoRuler>
 #include <VexoTextEnumeration>
+#include <VideoArea>
+#include <VideoCapturePanning>
 
 #include <QColor>
 #include <QIcon>
@@ -55,6 +60,8 @@ const std::vector<WalkedClass> &walkedClasses()
         { "ActiveButton", make<ActiveButton> },
         { "ActiveVectorButton", make<ActiveVectorButton> },
         { "MeasuredPushButton", make<MeasuredPushButton> },
+        { "UpdateMainWindow", make<UpdateMainWindow> },
+        { "UpdatePage", make<UpdatePage> },
         { "VexoCenteredVectorButton", make<VexoCenteredVectorButton> },
         { "VexoCheckBox", make<VexoCheckBox> },
         { "VexoDesignVectorButton", make<VexoDesignVectorButton> },
@@ -62,6 +69,7 @@ const std::vector<WalkedClass> &walkedClasses()
         { "VexoHorizontalLabelWidget", make<VexoHorizontalLabelWidget> },
         { "VexoHorizontalTextIconButton", make<VexoHorizontalTextIconButton> },
         { "VexoIconButton", make<VexoIconButton> },
+        { "VexoImageHeadline", make<VexoImageHeadline> },
         { "VexoKeyboardButton", make<VexoKeyboardButton> },
         { "VexoLabel", make<VexoLabel> },
         { "VexoLineEdit", make<VexoLineEdit> },
@@ -72,6 +80,8 @@ const std::vector<WalkedClass> &walkedClasses()
         { "VexoRadioButton", make<VexoRadioButton> },
         { "VexoRuler", make<VexoRuler> },
         { "VexoTextEnumeration", make<VexoTextEnumeration> },
+        { "VideoArea", make<VideoArea> },
+        { "VideoCapturePanning", make<VideoCapturePanning> },
     };
     return classes;
 }

@@ -1,0 +1,92 @@
+#include "ui/update/rotationpixmap.h"
+
+#include "ui/foundation/pixels_p.h"
+
+#include <QMutexLocker>
+#include <QTimer>
+
+namespace vexo::hox::qt::ui {
+
+RotationPixmap::RotationPixmap(const QStringList &files, float width_mm, float height_mm)
+    : QThread(nullptr)
+    , m_scaling(ScalingInfo::inst())
+    , m_timer(new QTimer(this))
+    , m_files(files)
+    , m_width_mm(truncated(double(width_mm)))
+    , m_height_mm(truncated(double(height_mm)))
+    , m_px(pxSize(*m_scaling, QSizeF(m_width_mm, m_height_mm)))
+{
+    setObjectName(QStringLiteral("Pixmap-Rotater"));
+    connect(m_timer, &QTimer::timeout, this, &RotationPixmap::onTimeout);
+    start();
+}
+
+RotationPixmap::~RotationPixmap()
+{
+    requestInterruption();
+    wait();
+}
+
+void RotationPixmap::startRotating()
+{
+    const int step_ms = 500;
+    m_timer->start(step_ms);
+}
+
+void RotationPixmap::stopRotating()
+{
+    m_timer->stop();
+    resetRotation();
+}
+
+void RotationPixmap::resetRotation()
+{
+    m_current_index = 0;
+}
+
+void RotationPixmap::setCurrentRotationIndex()
+{
+    ++m_current_index;
+    if (m_current_index >= m_files.size())
+        m_current_index = 0;
+}
+
+QPixmap RotationPixmap::rotate()
+{
+    setCurrentRotationIndex();
+    const auto frame = m_frames.constFind(m_current_index);
+    if (frame != m_frames.constEnd())
+        return frame.value();
+    convertLoaded(m_current_index);
+    return m_frames.value(m_current_index);
+}
+
+// A pixmap can only be made in the GUI thread.
+void RotationPixmap::run()
+{
+    for (int i = 0; i < m_files.size() && !isInterruptionRequested(); ++i) {
+        QImage image(m_files.at(i));
+        if (!image.isNull())
+            image = image.scaled(m_px, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+        const QMutexLocker lock(&m_mutex);
+        m_loaded.insert(i, image);
+    }
+}
+
+void RotationPixmap::onTimeout()
+{
+    Q_EMIT pixmapRotated(rotate());
+}
+
+// One frame at a time, so that the GUI thread is never held up for more.
+void RotationPixmap::convertLoaded(int index)
+{
+    QMutexLocker lock(&m_mutex);
+    if (!m_loaded.contains(index))
+        return;
+    const QImage image = m_loaded.take(index);
+    lock.unlock();
+    m_frames.insert(index, QPixmap::fromImage(image));
+}
+
+} // namespace vexo::hox::qt::ui

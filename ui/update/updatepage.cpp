@@ -1,0 +1,34 @@
+#include "ui/update/updatepage.h"
+
+#include "ui/foundation/pixels_p.h"
+#include "ui_updatepage.h"
+
+namespace vexo::hox::qt::ui {
+
+UpdatePage::UpdatePage(QWidget *parent)
+    : QWidget(parent)
+    , m_ui(std::make_unique<Ui_UpdatePage>())
+{
+    setupUi();
+}
+
+UpdatePage::~UpdatePage() = default;
+
+void UpdatePage::setupUi()
+{
+    const ScalingInfo &scaling = *ScalingInfo::inst();
+    m_ui->setupUi(this);
+    m_ui->VexoIconLabel->setPixmap(QStringLiteral(":/widgetimages/vexo-inverted.png"));
+    m_ui->VexoIconLabel->setAccessibleName(QStringLiteral("vexo"));
+    m_ui->VexoIconLabel->setFixedHeight(widgetPx(pxY(scaling, 7.0)));
+    const QSize gap = pxSize(scaling, QSizeF(6.0, 6.0));
+    m_ui->middleSpacer->changeSize(
+        widgetPx(gap.width()), widgetPx(gap.height()), QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_ui->middleSpacer->invalidate();
+    QFont font = m_ui->VexoSubTextLabel->font();
+    font.setPointSize(10);
+    font.setWeight(QFont::Normal);
+    m_ui->VexoSubTextLabel->setFont(font);
+}
+
+} // namespace vexo::hox::qt::ui
