@@ -68,7 +68,8 @@ void VideoCapturePanning::mousePressEvent(QMouseEvent *event)
 {
     const qint64 longest_ms = 250;
     const QPointer<VideoCapturePanning> self(this);
-    QWidget::mousePressEvent(event);
+    // The scroll area itself would hand the press to its viewport's content.
+    QWidget::mousePressEvent(event); // NOLINT(bugprone-parent-virtual-call)
     if (m_tap_timer.restart() <= longest_ms)
         Q_EMIT tap();
     if (!self)

@@ -26,7 +26,7 @@ private:
     {
         QImage image(px, QImage::Format_RGB32);
         image.fill(color);
-        const QString path = m_files.path(color.name() + QStringLiteral(".png"));
+        QString path = m_files.path(color.name() + QStringLiteral(".png"));
         image.save(path);
         return path;
     }
