@@ -3,6 +3,7 @@
 #include <ActiveButton>
 #include <ActiveVectorButton>
 #include <MeasuredPushButton>
+#include <ScaleDisplayWidget>
 #include <UpdateMainWindow>
 #include <UpdatePage>
 #include <VexoCenteredVectorButton>
@@ -22,6 +23,8 @@
 #include <VexoPushButton>
 #include <VexoRadioButton>
 #include <VexoRuler>
+#include <VexoSlider>
+#include <VexoSliderDecoration>
 #include <VexoTextEnumeration>
 #include <VideoArea>
 #include <VideoCapturePanning>
@@ -44,6 +47,11 @@ QWidget *make(QWidget *parent)
     return new Widget(parent);
 }
 
+QWidget *makeScale(QWidget *parent)
+{
+    return new ScaleDisplayWidget(Qt::Horizontal, 56, parent);
+}
+
 // Its value is clamped.
 QWidget *makeStepper(QWidget *parent)
 {
@@ -60,6 +68,7 @@ const std::vector<WalkedClass> &walkedClasses()
         { "ActiveButton", make<ActiveButton> },
         { "ActiveVectorButton", make<ActiveVectorButton> },
         { "MeasuredPushButton", make<MeasuredPushButton> },
+        { "ScaleDisplayWidget", makeScale },
         { "UpdateMainWindow", make<UpdateMainWindow> },
         { "UpdatePage", make<UpdatePage> },
         { "VexoCenteredVectorButton", make<VexoCenteredVectorButton> },
@@ -79,6 +88,8 @@ const std::vector<WalkedClass> &walkedClasses()
         { "VexoPushButton", make<VexoPushButton> },
         { "VexoRadioButton", make<VexoRadioButton> },
         { "VexoRuler", make<VexoRuler> },
+        { "VexoSlider", make<VexoSlider> },
+        { "VexoSliderDecoration", make<VexoSliderDecoration> },
         { "VexoTextEnumeration", make<VexoTextEnumeration> },
         { "VideoArea", make<VideoArea> },
         { "VideoCapturePanning", make<VideoCapturePanning> },

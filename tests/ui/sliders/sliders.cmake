@@ -1,0 +1,3 @@
+foreach(class vexoslider vexosliderdecoration)
+  hoxq_test(ui/sliders/tst_${class}.cpp)
+endforeach()

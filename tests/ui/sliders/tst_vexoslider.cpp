@@ -1,0 +1,133 @@
+#include "support/testcase.h"
+#include "support/touch.h"
+
+#include <VexoSlider>
+
+#include <QAbstractEventDispatcher>
+#include <QAccessible>
+#include <QSignalSpy>
+#include <QStyleOptionSlider>
+#include <QTest>
+
+#include <limits>
+
+using namespace vexo::hox::qt::ui;
+
+namespace {
+
+using Numbers = QVector<int>;
+using Types = QVector<QEvent::Type>;
+
+/// Its handle is where a touch() without a way is.
+struct Slider : VexoSlider
+{
+    explicit Slider(const Numbers &minimum_maximum_step_value = { 0, 99, 1, 3 })
+        : VexoSlider(Qt::Horizontal)
+    {
+        setFixedSize(400, 40);
+        setMinimum(minimum_maximum_step_value[0]);
+        setMaximum(minimum_maximum_step_value[1]);
+        setTickInterval(minimum_maximum_step_value[2]);
+        setValue(minimum_maximum_step_value[3]);
+        finishSliderConfiguration();
+        const auto note = [this](QMouseEvent *event) { forwarded += event->type(); };
+        connect(this, &VexoSlider::forwardPressEvent, this, note);
+        connect(this, &VexoSlider::forwardMoveEvent, this, note);
+        connect(this, &VexoSlider::forwardReleaseEvent, this, note);
+    }
+
+    Types forwarded;
+};
+
+} // namespace
+
+class TestVexoSlider : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void movesInSteps_data();
+    void movesInSteps();
+    void onlyTheHandleMoves();
+    void assistiveTechnologySeesRealValues();
+    void ringsAndMayBeDeleted();
+};
+
+void TestVexoSlider::movesInSteps_data()
+{
+    const int lowest = std::numeric_limits<int>::min();
+    const int highest = std::numeric_limits<int>::max();
+    QTest::addColumn<Numbers>("given"); // minimum, maximum, step, value
+    QTest::addColumn<Numbers>("raw"); // minimum, maximum, value
+    QTest::addColumn<int>("told"); // for one further
+    QTest::newRow("steps of 10") << Numbers{ 20, 80, 10, 50 } << Numbers{ 0, 6, 3 } << 60;
+    QTest::newRow("last part is lost") << Numbers{ 0, 10, 3, 8 } << Numbers{ 0, 3, 2 } << 9;
+    QTest::newRow("step 1") << Numbers{ -5, 5, 1, 2 } << Numbers{ -5, 5, 2 } << 3;
+    QTest::newRow("step 0") << Numbers{ 5, 9, 0, 6 } << Numbers{ 5, 9, 6 } << 7;
+    QTest::newRow("saturates") << Numbers{ lowest, highest, 2, lowest } << Numbers{ 0, highest, 0 }
+                               << lowest + 2;
+}
+
+void TestVexoSlider::movesInSteps()
+{
+    QFETCH(Numbers, given);
+    QFETCH(Numbers, raw);
+    Slider slider(given);
+    QCOMPARE((Numbers{ slider.minimum(), slider.maximum(), slider.value() }), raw);
+    int told = 0;
+    connect(&slider, &VexoSlider::valueChanged, this, [&](int value) { told = value; });
+    slider.setRawValue(raw[2] + 1);
+    QTEST(told, "told");
+    slider.finishSliderConfiguration(); // back to what was set
+    QCOMPARE(slider.value(), raw[2]);
+}
+
+void TestVexoSlider::onlyTheHandleMoves()
+{
+    Slider slider({ 0, 100, 50, 0 });
+    const QSignalSpy values(&slider, &VexoSlider::valueChanged);
+    finger(&slider, QEvent::MouseButtonPress, QPoint(300, 20));
+    // The toolkit would page on until a release that it does not get.
+    QVERIFY(QAbstractEventDispatcher::instance()->registeredTimers(&slider).isEmpty());
+    finger(&slider, QEvent::MouseMove, QPoint(5, 20)); // over the handle
+    finger(&slider, QEvent::MouseMove, QPoint(399, 20));
+    finger(&slider, QEvent::MouseButtonRelease, QPoint(399, 20));
+    QCOMPARE(slider.forwarded,
+        (Types{ QEvent::MouseButtonPress, QEvent::MouseMove, QEvent::MouseMove,
+            QEvent::MouseButtonRelease }));
+    QCOMPARE(values.size(), 0);
+    touch(&slider, { { 5, 20 }, { 399, 20 }, { 399, -90 }, { 210, 20 } });
+    QCOMPARE(slider.forwarded.size(), 4);
+    QCOMPARE(values, (QList<QVariantList>{ { 100 }, { 50 } }));
+}
+
+void TestVexoSlider::assistiveTechnologySeesRealValues()
+{
+    Slider slider({ 20, 80, 10, 50 });
+    slider.setAccessibleName(QStringLiteral("Volume"));
+    QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(&slider);
+    QCOMPARE(seen->role(), QAccessible::Slider);
+    QCOMPARE(
+        seen->text(QAccessible::Name) + seen->text(QAccessible::Value), QStringLiteral("Volume50"));
+    QAccessibleValueInterface *value = seen->valueInterface();
+    QCOMPARE((Numbers{ value->minimumValue().toInt(), value->maximumValue().toInt(),
+                 value->minimumStepSize().toInt() }),
+        (Numbers{ 20, 80, 10 }));
+    value->setCurrentValue(70);
+    QCOMPARE(slider.value(), 5);
+}
+
+void TestVexoSlider::ringsAndMayBeDeleted()
+{
+    QVERIFY(ringsOnce<Slider>());
+    const Way drag{ { 20, 15 }, { 300, 20 } };
+    const Way beside{ { 300, 20 }, { 310, 20 } };
+    QVERIFY(isGoneAfter(&QAbstractSlider::sliderPressed, new Slider, drag));
+    QVERIFY(isGoneAfter(&VexoSlider::valueChanged, new Slider, drag));
+    QVERIFY(isGoneAfter(&VexoSlider::forwardPressEvent, new Slider, beside));
+    QVERIFY(isGoneAfter(&VexoSlider::forwardMoveEvent, new Slider, beside));
+    QVERIFY(isGoneAfter(&VexoSlider::forwardReleaseEvent, new Slider, beside));
+}
+
+QTEST_MAIN(TestVexoSlider)
+#include "tst_vexoslider.moc"

@@ -1,0 +1,133 @@
+#include "ui/sliders/vexoslider.h"
+
+#include "ui/buttons/tone_p.h"
+#include "ui/foundation/quietly_p.h"
+#include "ui/sliders/slideraccessible_p.h"
+
+#include <QPointer>
+
+#include <limits>
+
+namespace vexo::hox::qt::ui {
+
+namespace {
+
+int saturated(qint64 number)
+{
+    using Limits = std::numeric_limits<int>;
+    return int(qBound(qint64(Limits::min()), number, qint64(Limits::max())));
+}
+
+} // namespace
+
+VexoSlider::VexoSlider(QWidget *parent)
+    : QSlider(parent)
+{
+    makeSlidersAccessible();
+    setPageStep(0); // a press on the groove does not page
+    connect(this, &QAbstractSlider::valueChanged, this, &VexoSlider::onValueChanged);
+    connectTone(this, &QAbstractSlider::sliderPressed);
+}
+
+VexoSlider::VexoSlider(Qt::Orientation orientation, QWidget *parent)
+    : VexoSlider(parent)
+{
+    setOrientation(orientation);
+}
+
+void VexoSlider::setMinimum(int minimum)
+{
+    m_minimum = minimum;
+    QSlider::setMinimum(minimum);
+}
+
+void VexoSlider::setMaximum(int maximum)
+{
+    m_maximum = maximum;
+    QSlider::setMaximum(maximum);
+}
+
+void VexoSlider::setTickInterval(int step)
+{
+    m_step = step;
+    QSlider::setTickInterval(step);
+}
+
+void VexoSlider::setValue(int value)
+{
+    m_value = value;
+    setRawValue(m_step < 2 ? value : getTemporarySliderValue(value));
+}
+
+void VexoSlider::finishSliderConfiguration()
+{
+    const QPointer<VexoSlider> self(this); // each step may emit valueChanged()
+    if (m_step < 2)
+        QSlider::setMaximum(m_maximum);
+    else
+        QSlider::setMinimum(0);
+    if (self && m_step < 2)
+        QSlider::setMinimum(m_minimum);
+    else if (self)
+        QSlider::setMaximum(getTemporarySliderValue(m_maximum));
+    if (self)
+        setValue(m_value);
+}
+
+void VexoSlider::setRawValue(int raw_value)
+{
+    QSlider::setValue(raw_value);
+}
+
+int VexoSlider::getTemporarySliderValue(int real) const
+{
+    const qint64 distance = qint64(real) - m_minimum;
+    return saturated(m_step == 0 ? distance : distance / m_step);
+}
+
+int VexoSlider::getRealSliderValue(int index) const
+{
+    return saturated(m_minimum + qint64(index) * m_step);
+}
+
+void VexoSlider::onValueChanged(int value)
+{
+    Q_EMIT valueChanged(m_step > 1 ? getRealSliderValue(value) : value);
+}
+
+void VexoSlider::mousePressEvent(QMouseEvent *event)
+{
+    const QPointer<VexoSlider> self(this);
+    QSlider::mousePressEvent(event);
+    if (!self || isSliderDown())
+        return;
+    endPress(*event);
+    Q_EMIT forwardPressEvent(event);
+}
+
+void VexoSlider::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (isSliderDown())
+        QSlider::mouseReleaseEvent(event);
+    else
+        Q_EMIT forwardReleaseEvent(event);
+}
+
+void VexoSlider::mouseMoveEvent(QMouseEvent *event)
+{
+    if (isSliderDown())
+        QSlider::mouseMoveEvent(event);
+    else
+        Q_EMIT forwardMoveEvent(event);
+}
+
+// The release of a press beside the handle does not reach the toolkit, which would page 20 times a
+// second and look pressed until it came.
+void VexoSlider::endPress(const QMouseEvent &press)
+{
+    QMouseEvent release(QEvent::MouseButtonRelease, press.localPos(), press.windowPos(),
+        press.screenPos(), press.button(), Qt::NoButton, press.modifiers());
+    quietly(this, [&] { QSlider::mouseReleaseEvent(&release); });
+}
+
+} // namespace vexo::hox::qt::ui
