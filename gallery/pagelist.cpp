@@ -16,6 +16,7 @@
 #include "gallery/pages/rowspage.h"
 #include "gallery/pages/rulerspage.h"
 #include "gallery/pages/settingspage.h"
+#include "gallery/pages/sliderspage.h"
 #include "gallery/pages/stepperpage.h"
 #include "gallery/pages/stringspage.h"
 #include "gallery/pages/stylesheetpage.h"
@@ -57,6 +58,7 @@ const QVector<PageEntry> &pageList()
         { "line-edits", "Line edits", build<LineEditsPage> },
         { "pin", "PIN entry", build<PinPage> },
         { "login", "Login form", build<LoginPage> },
+        { "sliders", "Sliders", build<SlidersPage> },
         { "strings", "Strings", build<StringsPage> },
     };
     return pages;

@@ -2,6 +2,7 @@
 
 #include "gallery/measures.h"
 #include "gallery/widgets/plainbutton.h"
+#include "gallery/widgets/plainslider.h"
 
 #include <VexoColors>
 
@@ -9,55 +10,26 @@
 #include <QFile>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPainter>
 #include <QRadioButton>
 #include <QSlider>
-#include <QStyleOptionSlider>
 
 using vexo::hox::qt::ui::VexoColors;
 
 namespace {
 
 // Follows another widget and takes no input.
-void setUpMirror(QWidget *mirror)
-{
-    mirror->setAttribute(Qt::WA_TransparentForMouseEvents);
-    mirror->setFocusPolicy(Qt::NoFocus);
-}
-
 template <typename Plain, typename Original>
 Plain *createPlain(const Original *original)
 {
     auto *plain = new Plain;
-    setUpMirror(plain);
+    plain->setAttribute(Qt::WA_TransparentForMouseEvents);
+    plain->setFocusPolicy(Qt::NoFocus);
     plain->setText(original->text());
     plain->setAutoExclusive(false); // it follows, it does not choose
     plain->setChecked(original->isChecked());
     QObject::connect(original, &Original::toggled, plain, &Plain::setChecked);
     return plain;
 }
-
-class PlainSlider : public QSlider
-{
-public:
-    explicit PlainSlider(const QSlider *original)
-        : QSlider(original->orientation())
-    {
-        setUpMirror(this);
-        setValue(original->value());
-        connect(original, &QSlider::valueChanged, this, &QSlider::setValue);
-    }
-
-protected:
-    void paintEvent(QPaintEvent *) override
-    {
-        QStyleOptionSlider option;
-        initStyleOption(&option);
-        option.subControls = QStyle::SC_SliderGroove | QStyle::SC_SliderHandle;
-        QPainter painter(this);
-        plainStyle().drawComplexControl(QStyle::CC_Slider, &option, &painter);
-    }
-};
 
 QSlider *createSlider(Qt::Orientation orientation)
 {

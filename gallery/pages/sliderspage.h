@@ -1,0 +1,20 @@
+#pragma once
+
+#include "gallery/page.h"
+
+class TileLayout;
+
+/// Sliders with end images, unit and scale.
+class SlidersPage : public Page
+{
+public:
+    SlidersPage();
+
+private:
+    void addStyles();
+    void addSteps();
+    void addUnits();
+    void addImages();
+    void addLooks();
+    TileLayout *addTiles(const QString &heading, double column_mm = 64);
+};
