@@ -3,6 +3,7 @@
 #include "ui/buttons/vexoiconbutton.h"
 #include "ui/foundation/accessible_p.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/tightlayout_p.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -19,12 +20,6 @@ QSpacerItem *createSpacer(int px)
 void changeSpacer(QSpacerItem *spacer, int px)
 {
     spacer->changeSize(widgetPx(px), widgetPx(px), QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
-
-void removeMargins(QBoxLayout *layout)
-{
-    layout->setSpacing(0);
-    layout->setContentsMargins(0, 0, 0, 0);
 }
 
 } // namespace
@@ -144,7 +139,7 @@ void VexoCenteredVectorButton::setupUi()
     setUpIconRow();
 
     auto *column = new QVBoxLayout(this);
-    removeMargins(column);
+    tighten(column);
     column->setAlignment(Qt::AlignHCenter);
     m_top_spacer = createSpacer(pxY(*m_scaling, m_icon_top_spacing_in_mm));
     m_bottom_spacer = createSpacer(pxY(*m_scaling, m_icon_bottom_spacing_in_mm));
@@ -165,7 +160,7 @@ void VexoCenteredVectorButton::setupUi()
 void VexoCenteredVectorButton::setUpIconRow()
 {
     auto *row = new QHBoxLayout(m_icon_row);
-    removeMargins(row);
+    tighten(row);
     m_left_spacer = createSpacer(pxX(*m_scaling, m_icon_side_spacing_in_mm));
     m_right_spacer = createSpacer(pxX(*m_scaling, m_icon_side_spacing_in_mm));
     row->addItem(m_left_spacer);

@@ -151,7 +151,7 @@ void VexoFunctionButton::setBackgroundClickedColor(const QColor &color)
 void VexoFunctionButton::setMmIndent(double mm)
 {
     m_mm_indent = mm;
-    m_label->setIndent(positionPx(double(m_scaling->mm2px_X(float(mm)))));
+    m_label->setIndent(positionX(*m_scaling, mm));
     update();
 }
 

@@ -105,7 +105,7 @@ void VexoHorizontalTextIconButton::setPtFontSize(int pt)
 void VexoHorizontalTextIconButton::setMmIndent(double mm)
 {
     m_mm_indent = mm;
-    m_indent_px = positionPx(double(m_scaling->mm2px_X(float(mm))));
+    m_indent_px = positionX(*m_scaling, mm);
     update();
 }
 

@@ -2,6 +2,7 @@
 
 #include "ui/buttons/vexoiconbutton.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/tightlayout_p.h"
 
 #include <QBoxLayout>
 #include <QCoreApplication>
@@ -113,8 +114,7 @@ void VexoNumericButton::setupUi()
 
     const int edge_px = widgetPx(pxX(*ScalingInfo::inst(), 18.0));
     auto *row = new QHBoxLayout(this);
-    row->setSpacing(0);
-    row->setContentsMargins(0, 0, 0, 0);
+    tighten(row);
     row->addItem(new QSpacerItem(edge_px, 0));
     row->addWidget(m_decrease_button);
     row->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding, QSizePolicy::Expanding));

@@ -59,10 +59,10 @@ VexoPushButton::VexoPushButton(QWidget *parent)
     , m_mm_icon_size(STANDARD_ICON_SIZE_IN_MM)
     , m_visible_buddies(std::make_unique<VisibleBuddies>())
     , m_styled_background(std::make_unique<StyledBackground>())
-    , m_wrapped_text(std::make_unique<TextBlock>())
-    , m_first_line(std::make_unique<TextBlock>(QTextOption::NoWrap))
-    , m_second_line(std::make_unique<TextBlock>(QTextOption::NoWrap))
-    , m_right_text(std::make_unique<TextBlock>(QTextOption::NoWrap))
+    , m_wrapped_text(std::make_unique<TextBlock>(QTextOption::WordWrap, Qt::LayoutDirectionAuto))
+    , m_first_line(std::make_unique<TextBlock>(QTextOption::NoWrap, Qt::LayoutDirectionAuto))
+    , m_second_line(std::make_unique<TextBlock>(QTextOption::NoWrap, Qt::LayoutDirectionAuto))
+    , m_right_text(std::make_unique<TextBlock>(QTextOption::NoWrap, Qt::LayoutDirectionAuto))
     , m_grounds(std::make_unique<PrintPair<GroundLook>>())
 {
     setupUi();
@@ -312,7 +312,7 @@ void VexoPushButton::setPenColor(const QColor &color)
 void VexoPushButton::setMmPenLine(double mm)
 {
     m_mm_pen_line = mm;
-    m_pen.setWidthF(qMax(0.0, finitePx(m_scaling->mm2px_Y(float(mm)))));
+    m_pen.setWidthF(qBound(0.0, finitePx(m_scaling->mm2px_Y(float(mm))), double(WIDEST_PEN)));
     update();
 }
 

@@ -44,10 +44,12 @@ inline QSize pxSize(const ScalingInfo &scaling, const QSizeF &mm)
     return QSize(pxX(scaling, mm.width()), pxY(scaling, mm.height()));
 }
 
-/// Pixels that are not cut, as a painter takes them; 0 for what is no finite number.
+/// Pixels that are not cut, as a painter takes them; kept so small that sums of some do not
+/// overflow. NaN gives 0.
 inline double finitePx(float px)
 {
-    return std::isfinite(px) ? double(px) : 0;
+    const double limit = QWIDGETSIZE_MAX;
+    return std::isnan(px) ? 0.0 : qBound(-limit, double(px), limit);
 }
 
 /// Such pixels of a size in mm.
@@ -62,6 +64,15 @@ inline int positionPx(double px)
 {
     return qBound(-QWIDGETSIZE_MAX, truncated(px), QWIDGETSIZE_MAX);
 }
+
+/// Such pixels of a width in mm.
+inline int positionX(const ScalingInfo &scaling, double mm)
+{
+    return positionPx(double(scaling.mm2px_X(float(mm))));
+}
+
+/// The widest pen that the toolkit takes without a warning, px.
+constexpr int WIDEST_PEN = 32767;
 
 /// \a px as a widget's fixed size takes it; beyond these limits the toolkit prints a warning.
 inline int widgetPx(int px)

@@ -1,5 +1,7 @@
 #include "ui/input/fieldframe_p.h"
 
+#include "ui/foundation/pixels_p.h"
+
 #include <QPainter>
 #include <QPainterPath>
 
@@ -8,7 +10,6 @@ namespace vexo::hox::qt::ui {
 namespace {
 
 const qint64 most_kept = 1 << 22; // px; more than a panel has
-const double widest_pen = 32767; // px; the toolkit refuses more with a warning
 
 } // namespace
 
@@ -22,7 +23,7 @@ void FieldFrame::setLine(const QPointF &px)
 {
     m_line = px;
     m_rect.setTopLeft(px / 2);
-    m_pen.setWidthF(qMin(px.y(), widest_pen));
+    m_pen.setWidthF(qMin(px.y(), double(WIDEST_PEN)));
     m_pixmap = QPixmap();
 }
 

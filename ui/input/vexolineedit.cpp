@@ -22,23 +22,10 @@ namespace vexo::hox::qt::ui {
 namespace {
 
 const int most_underscores = 32767; // as many characters as a line edit takes
-const int widest_pen = 32767; // px; the toolkit refuses more with a warning
 
-// Kept so small that sums of some do not overflow; NaN gives 0.
-double bounded(float px)
+QPointF finitePxXY(const ScalingInfo &scaling, double mm_x, double mm_y)
 {
-    const double limit = QWIDGETSIZE_MAX;
-    return std::isnan(px) ? 0.0 : qBound(-limit, double(px), limit);
-}
-
-int boundedX(const ScalingInfo &scaling, double mm)
-{
-    return int(bounded(scaling.mm2px_X(float(mm))));
-}
-
-QPointF boundedXY(const ScalingInfo &scaling, double mm_x, double mm_y)
-{
-    return QPointF(bounded(scaling.mm2px_X(float(mm_x))), bounded(scaling.mm2px_Y(float(mm_y))));
+    return QPointF(finitePx(scaling.mm2px_X(float(mm_x))), finitePx(scaling.mm2px_Y(float(mm_y))));
 }
 
 } // namespace
@@ -178,7 +165,7 @@ void VexoLineEdit::setCursorPxPenWidth(int px)
 {
     if (px <= 0)
         return;
-    m_cursor_pen.setWidth(qMin(px, widest_pen));
+    m_cursor_pen.setWidth(qMin(px, WIDEST_PEN));
     update();
 }
 
@@ -238,7 +225,7 @@ void VexoLineEdit::setMmTrailingIconSize(const QSizeF &mm)
 void VexoLineEdit::setMmMargin(const QSizeF &mm)
 {
     m_mm_margin = mm;
-    m_px_margin = boundedXY(*m_scaling, mm.width(), mm.height());
+    m_px_margin = finitePxXY(*m_scaling, mm.width(), mm.height());
     setHeight();
 }
 
@@ -247,7 +234,7 @@ void VexoLineEdit::setMmRadius(double mm)
     if (!(mm >= 0)) // NaN too
         return;
     m_mm_radius = mm;
-    m_frame->setRadius(boundedXY(*m_scaling, mm, mm));
+    m_frame->setRadius(finitePxXY(*m_scaling, mm, mm));
     setHeight();
 }
 
@@ -256,7 +243,7 @@ void VexoLineEdit::setMmPenLine(double mm)
     if (!(mm >= 0)) // NaN too
         return;
     m_mm_pen_line = mm;
-    m_px_pen_line = boundedXY(*m_scaling, mm, mm);
+    m_px_pen_line = finitePxXY(*m_scaling, mm, mm);
     m_frame->setLine(m_px_pen_line);
     setHeight();
 }
@@ -419,8 +406,8 @@ void VexoLineEdit::placeSideWidgets()
 
 QRectF VexoLineEdit::textRect(int advance, int placeholder_advance, int dx) const
 {
-    const int indent = boundedX(*m_scaling, m_cursor_mm_indent);
-    const int offset = boundedX(*m_scaling, m_left_offset_mm);
+    const int indent = positionX(*m_scaling, m_cursor_mm_indent);
+    const int offset = positionX(*m_scaling, m_left_offset_mm);
     const QLabel *const label = m_leading_action ? m_leading_label.data() : nullptr;
     double x = dx;
     if (m_draw_centered) {
@@ -431,16 +418,16 @@ QRectF VexoLineEdit::textRect(int advance, int placeholder_advance, int dx) cons
             left -= (indent + placeholder_advance) / 2;
         x += left;
     } else if (label) {
-        x += label->x() + boundedX(*m_scaling, m_mm_leading_icon_size.width()) + offset;
+        x += label->x() + positionX(*m_scaling, m_mm_leading_icon_size.width()) + offset;
     } else {
-        x += bounded(m_scaling->mm2px_X(float(m_mm_radius))) + m_px_margin.x() + offset;
+        x += finitePx(m_scaling->mm2px_X(float(m_mm_radius))) + m_px_margin.x() + offset;
     }
     return QRectF(x, m_px_margin.y(), advance, height() - 2 * m_px_margin.y());
 }
 
 int VexoLineEdit::cursorX(const QRectF &text_rect) const
 {
-    return truncated(text_rect.right()) + boundedX(*m_scaling, m_cursor_mm_indent);
+    return truncated(text_rect.right()) + positionX(*m_scaling, m_cursor_mm_indent);
 }
 
 QRect VexoLineEdit::cursorArea() const
@@ -471,7 +458,7 @@ QVector<QRectF> VexoLineEdit::dotRects(int dx, int count) const
 {
     const float left = m_scaling->mm2px_X(float(m_mm_radius + m_left_offset_mm + 0.75));
     return SecretDots::rects(
-        *m_scaling, size(), bounded(left) + m_px_margin.x(), dx, count, m_draw_secured_centered);
+        *m_scaling, size(), finitePx(left) + m_px_margin.x(), dx, count, m_draw_secured_centered);
 }
 
 Qt::Alignment VexoLineEdit::textAlignment() const

@@ -3,6 +3,7 @@
 #include "ui/foundation/accessible_p.h"
 #include "ui/foundation/cachedvectoricon.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/tightlayout_p.h"
 #include "ui/sliders/vexoslider.h"
 #include "ui/text/scaledisplaywidget.h"
 
@@ -49,12 +50,6 @@ void retire(QWidget *widget)
     auto *attic = new QWidget;
     widget->setParent(attic);
     attic->deleteLater();
-}
-
-void tighten(QLayout *layout, int side_margin_px = 0)
-{
-    layout->setSpacing(0);
-    layout->setContentsMargins(side_margin_px, 0, side_margin_px, 0);
 }
 
 } // namespace

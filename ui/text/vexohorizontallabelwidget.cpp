@@ -1,6 +1,7 @@
 #include "ui/text/vexohorizontallabelwidget.h"
 
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/tightlayout_p.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -62,7 +63,7 @@ void VexoHorizontalLabelWidget::setPtFontSize(int pt)
 void VexoHorizontalLabelWidget::setMmIndent(double mm)
 {
     m_mm_indent = mm;
-    const int indent_px = qMin(pxX(*m_scaling, mm), QWIDGETSIZE_MAX);
+    const int indent_px = positionX(*m_scaling, mm);
     m_left_label->setIndent(indent_px);
     m_right_label->setIndent(indent_px);
 }
@@ -103,8 +104,7 @@ void VexoHorizontalLabelWidget::setupUi()
 {
     setObjectName(QStringLiteral("vexoHorizontalLabelWidget"));
     auto *layout = new QHBoxLayout(this);
-    layout->setSpacing(0);
-    layout->setContentsMargins(0, 0, 0, 0);
+    tighten(layout);
     layout->addWidget(m_left_label);
     layout->addWidget(m_right_label);
     setTextColor(m_text_color);

@@ -2,6 +2,7 @@
 
 #include "ui/foundation/cachedvectoricon.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/tightlayout_p.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -92,8 +93,7 @@ void VexoImageHeadline::setupUi()
     const int gap_px = widgetPx(pxX(*m_scaling, m_spacer_size_in_mm));
     auto *row = new QHBoxLayout;
     row->setObjectName(QStringLiteral("vexoImageHeadlineLayout"));
-    row->setSpacing(0);
-    row->setContentsMargins(0, 0, 0, 0);
+    tighten(row);
     m_spacer = new QSpacerItem(gap_px, gap_px);
     row->addWidget(m_icon_label, equal_stretch);
     row->addItem(m_spacer);

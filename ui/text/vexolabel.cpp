@@ -18,7 +18,7 @@ VexoLabel::VexoLabel(const QString &text, QWidget *parent)
     , m_scaling(ScalingInfo::inst())
     , m_visible_buddies(new VisibleBuddies)
     , m_px_indent(m_scaling->mm2px_X(3.0F))
-    , m_text(std::make_unique<TextBlock>(m_text_option.wrapMode(), m_text_option.textDirection()))
+    , m_text(std::make_unique<TextBlock>(QTextOption::WordWrap, Qt::LayoutDirectionAuto))
 {
     setupUi();
 }
@@ -53,7 +53,7 @@ double VexoLabel::mmIndent() const
 void VexoLabel::setMmIndent(double mm)
 {
     m_px_indent = m_scaling->mm2px_X(float(mm));
-    setIndent(qMin(truncated(double(m_px_indent)), QWIDGETSIZE_MAX));
+    setIndent(positionPx(double(m_px_indent)));
 }
 
 void VexoLabel::setMmHeight(double mm)
@@ -64,7 +64,6 @@ void VexoLabel::setMmHeight(double mm)
 
 void VexoLabel::setTextAlignment(Qt::Alignment alignment)
 {
-    m_text_option.setAlignment(alignment);
     m_text_alignment = alignment;
 }
 
@@ -101,8 +100,7 @@ void VexoLabel::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setPen(m_text_color);
     painter.fillRect(rect(), m_background_color);
-    m_text->draw(
-        &painter, rect(), text(), m_text_option.alignment(), { m_background_color, beyond });
+    m_text->draw(&painter, rect(), text(), m_text_alignment, { m_background_color, beyond });
 }
 
 void VexoLabel::setupUi()
@@ -113,7 +111,6 @@ void VexoLabel::setupUi()
     setTextFormat(Qt::PlainText); // else markup is measured and read out other than it is drawn
     setBackgroundColor(m_background_color);
     setFontWeight(QFont::Medium);
-    m_text_option.setAlignment(m_text_alignment);
     setPtFontSize(m_pt_font_size);
     setMmHeight(m_mm_height);
     setMmIndent(3.0);

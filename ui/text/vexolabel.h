@@ -4,7 +4,6 @@
 
 #include <QFont>
 #include <QLabel>
-#include <QTextOption>
 
 #include <memory>
 
@@ -79,7 +78,6 @@ private:
     const ScalingInfo *const m_scaling;
     QFont m_font;
     const std::unique_ptr<VisibleBuddies> m_visible_buddies;
-    QTextOption m_text_option;
     QColor m_text_color = VexoColors::C3;
     QColor m_background_color = VexoColors::C0;
     Qt::Alignment m_text_alignment = Qt::AlignLeft | Qt::AlignVCenter;

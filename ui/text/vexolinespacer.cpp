@@ -65,8 +65,7 @@ void VexoLineSpacer::paintEvent(QPaintEvent *)
 
 int VexoLineSpacer::penWidth(double mm) const
 {
-    const int widest = 32767; // that the toolkit's pens can be
-    return qBound(1, m_is_vertical ? pxX(*m_scaling, mm) : pxY(*m_scaling, mm), widest);
+    return qBound(1, m_is_vertical ? pxX(*m_scaling, mm) : pxY(*m_scaling, mm), WIDEST_PEN);
 }
 
 void VexoLineSpacer::setPoints()

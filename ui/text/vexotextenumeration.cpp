@@ -1,6 +1,7 @@
 #include "ui/text/vexotextenumeration.h"
 
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/tightlayout_p.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -15,18 +16,12 @@ const ScalingInfo &scaling()
     return *ScalingInfo::inst();
 }
 
-void clearSpace(QBoxLayout *layout)
-{
-    layout->setSpacing(0);
-    layout->setContentsMargins(0, 0, 0, 0);
-}
-
 /// A column with \a label below a gap.
 QWidget *columnOf(QLabel *label, double gap_mm)
 {
     auto *column = new QWidget;
     auto *layout = new QVBoxLayout(column);
-    clearSpace(layout);
+    tighten(layout);
     layout->addSpacing(pxY(scaling(), gap_mm));
     layout->addWidget(label, 32);
     return column;
@@ -83,7 +78,7 @@ void VexoTextEnumeration::setupLayouts()
 {
     const int gap_px = pxX(scaling(), 3.0);
     auto *layout = new QHBoxLayout(this);
-    clearSpace(layout);
+    tighten(layout);
     layout->addSpacing(gap_px);
     layout->addWidget(columnOf(m_number_label, 2.95));
     layout->addSpacing(gap_px);

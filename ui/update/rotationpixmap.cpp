@@ -9,12 +9,10 @@ namespace vexo::hox::qt::ui {
 
 RotationPixmap::RotationPixmap(const QStringList &files, float width_mm, float height_mm)
     : QThread(nullptr)
-    , m_scaling(ScalingInfo::inst())
     , m_timer(new QTimer(this))
     , m_files(files)
-    , m_width_mm(truncated(double(width_mm)))
-    , m_height_mm(truncated(double(height_mm)))
-    , m_px(pxSize(*m_scaling, QSizeF(m_width_mm, m_height_mm)))
+    , m_px(pxSize(
+          *ScalingInfo::inst(), QSize(truncated(double(width_mm)), truncated(double(height_mm)))))
 {
     setObjectName(QStringLiteral("Pixmap-Rotater"));
     connect(m_timer, &QTimer::timeout, this, &RotationPixmap::onTimeout);

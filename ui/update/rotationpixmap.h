@@ -13,8 +13,6 @@ class QTimer;
 
 namespace vexo::hox::qt::ui {
 
-class ScalingInfo;
-
 /// A busy animation: flips through a sequence of images every 500 ms, such as a symbol drawn at
 /// several angles. The images are loaded and scaled once, in a thread of its own that starts with
 /// the construction, so that the GUI thread is not held up; a frame that is asked for before it is
@@ -56,12 +54,9 @@ private Q_SLOTS:
 private:
     void convertLoaded(int index);
 
-    const ScalingInfo *const m_scaling;
     QTimer *const m_timer;
     QMap<int, QPixmap> m_frames; // by index; only the GUI thread touches it
     const QStringList m_files;
-    const int m_width_mm;
-    const int m_height_mm;
     int m_current_index = 0;
     const QSize m_px; // of each frame
     QMutex m_mutex; // guards the next field

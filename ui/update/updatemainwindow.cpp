@@ -1,6 +1,7 @@
 #include "ui/update/updatemainwindow.h"
 
 #include "ui/foundation/pixels_p.h"
+#include "ui/foundation/tightlayout_p.h"
 #include "ui/update/updatepage.h"
 
 #include <QCoreApplication>
@@ -25,9 +26,8 @@ void UpdateMainWindow::setupUi()
     m_central_widget = new QWidget(this);
     m_central_widget->setObjectName(QStringLiteral("centralwidget"));
     m_layout = new QVBoxLayout(m_central_widget);
-    m_layout->setSpacing(0);
+    tighten(m_layout);
     m_layout->setObjectName(QStringLiteral("verticalLayout"));
-    m_layout->setContentsMargins(0, 0, 0, 0);
     m_update_page = new UpdatePage(m_central_widget);
     m_update_page->setObjectName(QStringLiteral("UpdatePage"));
     m_layout->addWidget(m_update_page);

@@ -68,7 +68,7 @@ void VideoCapturePanning::mousePressEvent(QMouseEvent *event)
 {
     const qint64 longest_ms = 250;
     const QPointer<VideoCapturePanning> self(this);
-    // The scroll area itself would hand the press to its viewport's content.
+    // A press is for this widget alone, so it is handled as by one without content.
     QWidget::mousePressEvent(event); // NOLINT(bugprone-parent-virtual-call)
     if (m_tap_timer.restart() <= longest_ms)
         Q_EMIT tap();
