@@ -1,0 +1,26 @@
+//! [page]
+#include <VexoFunctionButton>
+#include <VexoSlider>
+#include <VexoVerticalScrollArea>
+#include <VexoVerticalScrollContent>
+
+#include <QLayout>
+
+using namespace vexo::hox::qt::ui;
+
+// A list that is flicked with a finger, also where the finger hits the groove of the slider.
+VexoVerticalScrollArea *createList(const QStringList &titles, VexoSlider *volume)
+{
+    auto *area = new VexoVerticalScrollArea;
+    auto *content = new VexoVerticalScrollContent;
+    for (const QString &title : titles) {
+        auto *row = new VexoFunctionButton(nullptr, VexoFunctionButton::ActionType);
+        row->setText(title);
+        content->layout()->addWidget(row);
+    }
+    content->layout()->addWidget(volume);
+    area->setWidget(content);
+    area->forwardSliderEvents(volume);
+    return area;
+}
+//! [page]

@@ -1,0 +1,125 @@
+#include "support/testcase.h"
+
+#include <VexoVerticalButtonScrollArea>
+#include <VexoVerticalScrollArea>
+
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+
+#include <memory>
+
+using namespace vexo::hox::qt::ui;
+
+using Type = VexoVerticalButtonScrollArea::VexoVerticalButtonScrollAreaType;
+
+namespace {
+
+QString lettersOf(const VexoVerticalButtonScrollArea &bar)
+{
+    QString letters;
+    const auto buttons = bar.findChildren<QPushButton *>(QStringLiteral("letterButton"));
+    for (const QPushButton *button : buttons)
+        letters += button->text();
+    return letters;
+}
+
+QPushButton *buttonOf(const VexoVerticalButtonScrollArea &bar, const char *name)
+{
+    return bar.findChild<QPushButton *>(QLatin1String(name));
+}
+
+} // namespace
+
+class TestVexoVerticalButtonScrollArea : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void holdsTheButtonsOfItsType_data();
+    void holdsTheButtonsOfItsType();
+    void pagesWithinItsEnds();
+    void handlersGoWithButtonsAndReceiver();
+    void handlerMayChangeTheType();
+};
+
+void TestVexoVerticalButtonScrollArea::holdsTheButtonsOfItsType_data()
+{
+    QTest::addColumn<Type>("type");
+    QTest::addColumn<QString>("letters");
+    const QString alphabet = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+    QTest::newRow("none") << Type::None << QString();
+    QTest::newRow("letters") << Type::Alphabetic << alphabet;
+    QTest::newRow("digits") << Type::Numbers << QStringLiteral("0123456789");
+    QTest::newRow("hash") << Type::AlphabeticWithHash << QLatin1Char('#') + alphabet;
+}
+
+void TestVexoVerticalButtonScrollArea::holdsTheButtonsOfItsType()
+{
+    QFETCH(Type, type);
+    QFETCH(QString, letters);
+    const VexoVerticalButtonScrollArea built(nullptr, type);
+    QCOMPARE(lettersOf(built), letters);
+    QWidget window;
+    VexoVerticalButtonScrollArea changed(&window);
+    QVERIFY(changed.setProperty("m_type", QVariant::fromValue(type)));
+    QCOMPARE(lettersOf(changed), letters);
+    changed.resize(changed.width(), 600);
+    window.show();
+    QCOMPARE(changed.width(), 60);
+    QCOMPARE(buttonOf(changed, "upButton")->geometry(), QRect(0, 0, 60, 60));
+    QCOMPARE(buttonOf(changed, "downButton")->geometry(), QRect(0, 540, 60, 60));
+    QCOMPARE(changed.verticalScrollArea()->widget()->height(), qMax(480, 60 * letters.size()));
+    changed.setNavigationButtonVisibility(false);
+    QVERIFY(!buttonOf(changed, "upButton")->isVisible());
+    QVERIFY(!buttonOf(changed, "downButton")->isVisible());
+}
+
+void TestVexoVerticalButtonScrollArea::pagesWithinItsEnds()
+{
+    QWidget window;
+    VexoVerticalButtonScrollArea bar(&window);
+    bar.resize(60, 600);
+    window.show();
+    QScrollBar *scrolled = bar.verticalScrollArea()->verticalScrollBar();
+    scrolled->setValue(scrolled->maximum() - 200);
+    QVector<int> left_px;
+    for (const char *name : { "downButton", "downButton", "downButton", "upButton" }) {
+        buttonOf(bar, name)->click();
+        left_px += scrolled->maximum() - scrolled->value();
+    }
+    QCOMPARE(left_px, (QVector<int>{ 50, 0, 0, 150 }));
+}
+
+void TestVexoVerticalButtonScrollArea::handlersGoWithButtonsAndReceiver()
+{
+    VexoVerticalButtonScrollArea bar;
+    QString log;
+    auto receiver = std::make_unique<QObject>();
+    bar.setButtonConnection(receiver.get(), [&] { log += QLatin1Char('a'); });
+    bar.setButtonConnection(this, [&] { log += qobject_cast<QPushButton *>(sender())->text(); });
+    bar.setButtonConnection(nullptr, [&] { log += QLatin1Char('x'); });
+    bar.setButtonConnection(this, nullptr);
+    buttonOf(bar, "letterButton")->click();
+    QCOMPARE(log, QStringLiteral("aA"));
+    receiver.reset();
+    buttonOf(bar, "letterButton")->click();
+    QCOMPARE(log, QStringLiteral("aAA"));
+    bar.setType(Type::Alphabetic); // the same
+    buttonOf(bar, "letterButton")->click();
+    QCOMPARE(log, QStringLiteral("aAAA"));
+    bar.setType(Type::Numbers);
+    buttonOf(bar, "letterButton")->click();
+    QCOMPARE(log, QStringLiteral("aAAA"));
+}
+
+void TestVexoVerticalButtonScrollArea::handlerMayChangeTheType()
+{
+    VexoVerticalButtonScrollArea bar;
+    bar.setButtonConnection(&bar, [&] { bar.setType(Type::Numbers); });
+    QTest::mouseClick(buttonOf(bar, "letterButton"), Qt::LeftButton);
+    QCOMPARE(lettersOf(bar), QStringLiteral("0123456789"));
+}
+
+QTEST_MAIN(TestVexoVerticalButtonScrollArea)
+#include "tst_vexoverticalbuttonscrollarea.moc"

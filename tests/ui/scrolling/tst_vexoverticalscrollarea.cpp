@@ -1,0 +1,251 @@
+#include "support/panelscale.h"
+#include "support/testcase.h"
+
+#include <VexoFunctionButton>
+#include <VexoSlider>
+#include <VexoVerticalScrollArea>
+#include <VexoVerticalScrollContent>
+
+#include <QLayout>
+#include <QScrollBar>
+#include <QTest>
+#include <QWindow>
+
+#include <memory>
+
+using namespace vexo::hox::qt::ui;
+
+namespace {
+
+const int row_px = 50;
+const int press_delay_ms = 150;
+const int frame_ms = 100; // and more than one of 20 per second
+
+/// 300 rows of 400 x 50 px in a view of 500 px; each tenth is a slider, the first too.
+struct List : QWidget
+{
+    List()
+    {
+        resize(400, 500);
+        area.resize(size());
+        auto *content = new VexoVerticalScrollContent;
+        for (int i = 0; i < 300; ++i)
+            content->layout()->addWidget(i % 10 == 0 ? createSlider() : createRow());
+        area.setWidget(content);
+        show();
+    }
+
+    QWidget *createRow()
+    {
+        auto *row = new VexoFunctionButton(nullptr, VexoFunctionButton::ActionType);
+        row->setFixedSize(400, row_px);
+        connect(row, &VexoFunctionButton::clicked, this, [this] { ++clicks; });
+        return row;
+    }
+
+    QWidget *createSlider()
+    {
+        auto *slider = new VexoSlider(Qt::Horizontal);
+        slider->setFixedSize(400, row_px);
+        slider->setMaximum(99);
+        slider->finishSliderConfiguration();
+        connect(slider, &VexoSlider::valueChanged, this, [this] { ++slides; });
+        sliders += slider;
+        return slider;
+    }
+
+    VexoFunctionButton *rowAt(int index) const
+    {
+        return qobject_cast<VexoFunctionButton *>(area.widget()->layout()->itemAt(index)->widget());
+    }
+    int scrolled() const { return area.verticalScrollBar()->value(); }
+
+    VexoVerticalScrollArea area{ this };
+    QVector<VexoSlider *> sliders;
+    int clicks = 0;
+    int slides = 0;
+};
+
+/// The finger of the real window system, so that the real scroller sees it.
+class Finger
+{
+public:
+    Finger(QWidget *widget, const QPoint &at)
+        : m_window(widget->window()->windowHandle())
+        , m_at(at)
+    {
+        QTest::mousePress(m_window, Qt::LeftButton, Qt::NoModifier, m_at);
+    }
+
+    void hold(int ms) { QTest::qWait(ms); }
+
+    void move(const QPoint &way, int steps = 10)
+    {
+        const QPoint from = m_at;
+        for (int i = 1; i <= steps; ++i) {
+            m_at = from + way * i / steps;
+            QTest::mouseMove(m_window, m_at);
+            QTest::qWait(5);
+        }
+    }
+
+    void release() { QTest::mouseRelease(m_window, Qt::LeftButton, Qt::NoModifier, m_at); }
+
+private:
+    QWindow *const m_window;
+    QPoint m_at;
+};
+
+} // namespace
+
+class TestVexoVerticalScrollArea : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tellsATapFromAScroll_data();
+    void tellsATapFromAScroll();
+    void slidersDoNotStopASwipe_data();
+    void slidersDoNotStopASwipe();
+    void stopsAtTheEnd();
+    void rowMayDeleteItself();
+    void scrollBarIsOptional();
+    void rowsLieTight();
+};
+
+void TestVexoVerticalScrollArea::tellsATapFromAScroll_data()
+{
+    QTest::addColumn<int>("hold_ms");
+    QTest::addColumn<int>("way_px"); // 5 mm are 19 px here
+    QTest::addColumn<bool>("scrolls");
+    QTest::newRow("tap") << 0 << 0 << false;
+    QTest::newRow("long tap") << 2 * press_delay_ms << 0 << false;
+    QTest::newRow("less than 5 mm") << 0 << -12 << false;
+    QTest::newRow("swipe") << 0 << -200 << true;
+    QTest::newRow("swipe after a while") << 2 * press_delay_ms << -200 << true;
+}
+
+void TestVexoVerticalScrollArea::tellsATapFromAScroll()
+{
+    QFETCH(int, hold_ms);
+    QFETCH(int, way_px);
+    QFETCH(bool, scrolls);
+    List list;
+    QVector<QScroller::State> states;
+    connect(&list.area, &VexoVerticalScrollArea::scrollerStateChanged, this,
+        [&](QScroller::State state) { states += state; });
+    const auto *row = list.rowAt(5);
+    Finger finger(&list, { 200, 275 });
+    QVERIFY(!row->isDown()); // not before the delay
+    finger.hold(hold_ms);
+    QCOMPARE(row->isDown(), hold_ms > press_delay_ms);
+    finger.move({ 0, way_px });
+    finger.hold(frame_ms);
+    QCOMPARE(list.scrolled() > 150, scrolls);
+    finger.release();
+    QCOMPARE(list.clicks, scrolls ? 0 : 1);
+    QTRY_COMPARE(list.area.getScroller()->state(), QScroller::Inactive);
+    QCOMPARE(states.contains(QScroller::Dragging), scrolls);
+    QVERIFY(!row->isDown());
+    QCOMPARE(list.slides, 0);
+}
+
+void TestVexoVerticalScrollArea::slidersDoNotStopASwipe_data()
+{
+    QTest::addColumn<int>("slider");
+    QTest::addColumn<bool>("is_forwarded");
+    QTest::addColumn<int>("x");
+    QTest::addColumn<bool>("scrolls");
+    QTest::newRow("beside the handle") << 1 << true << 200 << true;
+    QTest::newRow("of the first row") << 0 << true << 200 << true;
+    QTest::newRow("handle") << 1 << true << 5 << false;
+    QTest::newRow("unknown slider") << 1 << false << 200 << false;
+}
+
+void TestVexoVerticalScrollArea::slidersDoNotStopASwipe()
+{
+    QFETCH(int, slider);
+    QFETCH(bool, is_forwarded);
+    QFETCH(int, x);
+    QFETCH(bool, scrolls);
+    List list;
+    list.area.forwardSliderEvents(nullptr);
+    if (is_forwarded)
+        list.area.forwardSliderEvents(list.sliders[slider]);
+    list.area.verticalScrollBar()->setValue(slider == 0 ? 0 : 300);
+    const int before = list.scrolled();
+    Finger finger(&list, { x, slider * 10 * row_px - before + 25 });
+    finger.move({ 40, -120 });
+    finger.hold(frame_ms);
+    // The finger takes the list along but for the 5 mm of the start.
+    const int way = list.scrolled() - before;
+    QVERIFY2(scrolls ? way > 80 && way <= 120 : way == 0, qPrintable(QString::number(way)));
+    finger.release();
+    QTRY_COMPARE(list.area.getScroller()->state(), QScroller::Inactive);
+    QCOMPARE(list.slides > 0, x == 5);
+    QCOMPARE(list.clicks, 0);
+}
+
+void TestVexoVerticalScrollArea::stopsAtTheEnd()
+{
+    List list;
+    QScrollBar *bar = list.area.verticalScrollBar();
+    bar->setValue(bar->maximum() - 60);
+    int lowest = 0;
+    Finger finger(&list, { 200, 275 });
+    finger.move({ 0, -200 }, 5);
+    finger.release();
+    while (list.area.getScroller()->state() != QScroller::Inactive) {
+        QTest::qWait(10);
+        lowest = qMin(lowest, list.area.viewport()->y());
+    }
+    QCOMPARE(list.scrolled(), bar->maximum());
+    QCOMPARE(lowest, 0);
+    list.area.scrollToTop();
+    QCOMPARE(list.scrolled(), 0);
+}
+
+void TestVexoVerticalScrollArea::rowMayDeleteItself()
+{
+    List list;
+    const QPointer<VexoFunctionButton> row(list.rowAt(1));
+    connect(row, &VexoFunctionButton::clicked, this, [=] { delete row; });
+    Finger finger(&list, { 200, 75 });
+    finger.release();
+    QVERIFY(!row);
+}
+
+void TestVexoVerticalScrollArea::scrollBarIsOptional()
+{
+    VexoVerticalScrollArea area;
+    area.resize(300, 200);
+    area.setWidget(new VexoVerticalScrollContent);
+    area.show();
+    QVERIFY(!area.verticalScrollBar()->isVisible());
+    area.setProperty("scroll_bar_enabled", true); // also when everything fits
+    QVERIFY(area.verticalScrollBar()->isVisible());
+    QVERIFY(area.property("scroll_bar_enabled").toBool());
+    QVERIFY(VexoVerticalScrollArea(nullptr, true).property("scroll_bar_enabled").toBool());
+}
+
+void TestVexoVerticalScrollArea::rowsLieTight()
+{
+    VexoVerticalScrollContent content;
+    for (int i = 0; i < 2; ++i) {
+        auto *row = new QWidget;
+        row->setFixedSize(60, 20);
+        content.layout()->addWidget(row);
+    }
+    QCOMPARE(content.layout()->objectName(), QStringLiteral("ScrollVBoxLayout"));
+    const auto second = [&] {
+        content.layout()->activate();
+        return content.layout()->itemAt(1)->geometry();
+    };
+    content.resize(200, 200);
+    QCOMPARE(second(), QRect(0, 20, 60, 20));
+    content.centered();
+    QCOMPARE(second(), QRect(70, 20, 60, 20));
+}
+
+QTEST_MAIN(TestVexoVerticalScrollArea)
+#include "tst_vexoverticalscrollarea.moc"

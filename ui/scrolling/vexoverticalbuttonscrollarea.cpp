@@ -1,0 +1,161 @@
+#include "ui/scrolling/vexoverticalbuttonscrollarea.h"
+
+#include "ui/foundation/tightlayout_p.h"
+#include "ui/scrolling/vexoverticalscrollarea.h"
+#include "ui/scrolling/vexoverticalscrollcontent.h"
+
+#include <QPushButton>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include <memory>
+
+namespace vexo::hox::qt::ui {
+
+namespace {
+
+const int button_px = 60;
+const int page_px = 150;
+
+} // namespace
+
+VexoVerticalButtonScrollArea::VexoVerticalButtonScrollArea(
+    QWidget *parent, VexoVerticalButtonScrollAreaType type)
+    : QWidget(parent)
+    , m_scroll_area(new VexoVerticalScrollArea)
+    , m_up_button(new QPushButton)
+    , m_down_button(new QPushButton)
+    , m_type(type)
+{
+    setupUi();
+    qRegisterMetaType<VexoVerticalButtonScrollAreaType>();
+    qRegisterMetaType<VexoVerticalButtonScrollAreaType>("VexoVerticalButtonScrollAreaType");
+}
+
+void VexoVerticalButtonScrollArea::setType(VexoVerticalButtonScrollAreaType type)
+{
+    if (type == m_type)
+        return;
+    m_type = type;
+    removeScrollAreaContent();
+    addScrollAreaContent();
+}
+
+void VexoVerticalButtonScrollArea::addButton(const QString &text)
+{
+    auto *button = new QPushButton(tr(text.toUtf8().constData()));
+    button->setFixedSize(button_px, button_px);
+    button->setObjectName(QStringLiteral("letterButton"));
+    m_scroll_area->widget()->layout()->addWidget(button);
+}
+
+void VexoVerticalButtonScrollArea::addAlphabeticButtons(bool with_hash)
+{
+    if (with_hash)
+        addButton(QStringLiteral("#"));
+    for (char letter = 'A'; letter <= 'Z'; ++letter)
+        addButton(QString(QLatin1Char(letter)));
+}
+
+void VexoVerticalButtonScrollArea::addNumericButtons()
+{
+    for (int digit = 0; digit <= 9; ++digit)
+        addButton(QString::number(digit));
+}
+
+void VexoVerticalButtonScrollArea::addScrollAreaContent()
+{
+    switch (m_type) {
+    case VexoVerticalButtonScrollAreaType::None:
+        break;
+    case VexoVerticalButtonScrollAreaType::Alphabetic:
+        addAlphabeticButtons(false);
+        break;
+    case VexoVerticalButtonScrollAreaType::Numbers:
+        addNumericButtons();
+        break;
+    case VexoVerticalButtonScrollAreaType::AlphabeticWithHash:
+        addAlphabeticButtons(true);
+        break;
+    }
+}
+
+void VexoVerticalButtonScrollArea::removeScrollAreaContent()
+{
+    QLayout *column = m_scroll_area->widget()->layout();
+    while (column->count() > 0) {
+        const std::unique_ptr<QLayoutItem> item(column->takeAt(0));
+        delete item->widget();
+    }
+}
+
+void VexoVerticalButtonScrollArea::setButtonConnection(
+    QObject *receiver, std::function<void()> handler)
+{
+    if (!receiver || !handler)
+        return;
+    const QList<QPushButton *> buttons = m_scroll_area->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons)
+        connect(button, &QPushButton::clicked, receiver, handler);
+}
+
+void VexoVerticalButtonScrollArea::setUpIcon(const QIcon &icon)
+{
+    m_up_icon = icon;
+    m_up_button->setIcon(icon);
+}
+
+void VexoVerticalButtonScrollArea::setDownIcon(const QIcon &icon)
+{
+    m_down_icon = icon;
+    m_down_button->setIcon(icon);
+}
+
+void VexoVerticalButtonScrollArea::setNavigationButtonVisibility(bool visible)
+{
+    m_up_button->setVisible(visible);
+    m_down_button->setVisible(visible);
+}
+
+void VexoVerticalButtonScrollArea::onUpButtonClicked()
+{
+    page(-page_px);
+}
+
+void VexoVerticalButtonScrollArea::onDownButtonClicked()
+{
+    page(page_px);
+}
+
+void VexoVerticalButtonScrollArea::page(int px)
+{
+    QScrollBar *bar = m_scroll_area->verticalScrollBar();
+    bar->setValue(bar->value() + px);
+}
+
+void VexoVerticalButtonScrollArea::setupUi()
+{
+    setFixedWidth(button_px);
+    auto *outer = new QVBoxLayout(this);
+    tighten(outer);
+    tighten(new QVBoxLayout(m_scroll_area));
+    m_scroll_area->setWidget(new VexoVerticalScrollContent);
+    outer->addWidget(m_up_button);
+    outer->addWidget(m_scroll_area);
+    outer->addWidget(m_down_button);
+    setUpIcon(QIcon(QStringLiteral(":widgetimages/back.svg")));
+    setDownIcon(QIcon(QStringLiteral(":widgetimages/forward.svg")));
+    m_up_button->setObjectName(QStringLiteral("upButton"));
+    m_up_button->setAccessibleName(tr("Up"));
+    m_down_button->setObjectName(QStringLiteral("downButton"));
+    m_down_button->setAccessibleName(tr("Down"));
+    m_up_button->setFixedSize(button_px, button_px);
+    m_down_button->setFixedSize(button_px, button_px);
+    addScrollAreaContent();
+    connect(
+        m_up_button, &QPushButton::clicked, this, &VexoVerticalButtonScrollArea::onUpButtonClicked);
+    connect(m_down_button, &QPushButton::clicked, this,
+        &VexoVerticalButtonScrollArea::onDownButtonClicked);
+}
+
+} // namespace vexo::hox::qt::ui

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "ui/hoxqui_export.h"
+
+#include <QIcon>
+#include <QWidget>
+
+#include <functional>
+
+class QPushButton;
+
+namespace vexo::hox::qt::ui {
+
+class VexoVerticalScrollArea;
+
+/// A jump bar of 60 px beside a long list: a column of letters or digits that scrolls by a finger,
+/// between an up and a down button that page it. What a letter does is up to the application, see
+/// setButtonConnection().
+///
+/// Stylesheets find the buttons by the object names "letterButton", "upButton" and "downButton".
+class HOXQUI_EXPORT VexoVerticalButtonScrollArea : public QWidget
+{
+    Q_OBJECT
+    // The checker misreads a property that is broken before its type.
+    // clazy:excludeall=qproperty-type-mismatch
+
+    /// Which buttons the column holds. Default Alphabetic. A change replaces them, and ends their
+    /// connections.
+    Q_PROPERTY(VexoVerticalButtonScrollAreaType m_type MEMBER m_type WRITE setType)
+    /// Of the up button. Default back.svg of the library.
+    Q_PROPERTY(QIcon m_up_icon MEMBER m_up_icon WRITE setUpIcon)
+    /// Of the down button. Default forward.svg of the library.
+    Q_PROPERTY(QIcon m_down_icon MEMBER m_down_icon WRITE setDownIcon)
+
+public:
+    enum class VexoVerticalButtonScrollAreaType {
+        None, ///< none
+        Alphabetic, ///< A to Z
+        Numbers, ///< 0 to 9
+        AlphabeticWithHash ///< #, then A to Z
+    };
+    Q_ENUM(VexoVerticalButtonScrollAreaType)
+
+    explicit VexoVerticalButtonScrollArea(QWidget *parent = nullptr,
+        VexoVerticalButtonScrollAreaType type = VexoVerticalButtonScrollAreaType::Alphabetic);
+
+    void setType(VexoVerticalButtonScrollAreaType type);
+    /// Appends a button of 60 x 60 px with \a text, translated in the context of this class.
+    void addButton(const QString &text);
+    void addAlphabeticButtons(bool with_hash);
+    void addNumericButtons();
+    /// Appends the buttons of the type.
+    void addScrollAreaContent();
+    /// Deletes all buttons of the column.
+    void removeScrollAreaContent();
+    /// Calls \a handler for a click on each button that is now in the column, as long as
+    /// \a receiver lives; in it, the sender is the button. Call it again after setType(); each call
+    /// adds a connection. A null receiver or an empty handler is ignored.
+    void setButtonConnection(QObject *receiver, std::function<void()> handler);
+    void setUpIcon(const QIcon &icon);
+    void setDownIcon(const QIcon &icon);
+    /// Shows or hides the up and the down button.
+    void setNavigationButtonVisibility(bool visible);
+    /// The column, which belongs to the bar.
+    VexoVerticalScrollArea *verticalScrollArea() const { return m_scroll_area; }
+
+private Q_SLOTS:
+    void onUpButtonClicked();
+    void onDownButtonClicked();
+
+private:
+    void setupUi();
+    void page(int px);
+
+    VexoVerticalScrollArea *const m_scroll_area;
+    QPushButton *const m_up_button;
+    QPushButton *const m_down_button;
+    QIcon m_up_icon;
+    QIcon m_down_icon;
+    VexoVerticalButtonScrollAreaType m_type;
+};
+
+} // namespace vexo::hox::qt::ui

@@ -1,0 +1,111 @@
+#include "ui/scrolling/vexoverticalscrollarea.h"
+
+#include "ui/sliders/vexoslider.h"
+
+#include <QEasingCurve>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QScrollBar>
+#include <QScrollerProperties>
+
+namespace vexo::hox::qt::ui {
+
+VexoVerticalScrollArea::VexoVerticalScrollArea(QWidget *parent, bool scroll_bar_enabled)
+    : QScrollArea(parent)
+    , m_scroller(QScroller::scroller(this))
+    , m_scroll_bar_enabled(scroll_bar_enabled)
+{
+    setScrollBarEnabled(m_scroll_bar_enabled);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::WheelFocus);
+    setFrameShape(QFrame::NoFrame);
+    setFrameShadow(QFrame::Plain);
+    setLineWidth(0);
+    setWidgetResizable(true);
+    horizontalScrollBar()->setRange(0, 0);
+    tuneScroller();
+    QScroller::grabGesture(this, QScroller::LeftMouseButtonGesture);
+    connect(
+        m_scroller, &QScroller::stateChanged, this, &VexoVerticalScrollArea::scrollerStateChanged);
+}
+
+void VexoVerticalScrollArea::setScrollBarEnabled(bool enabled)
+{
+    m_scroll_bar_enabled = enabled;
+    setVerticalScrollBarPolicy(enabled ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+}
+
+void VexoVerticalScrollArea::scrollToTop()
+{
+    verticalScrollBar()->setValue(0);
+}
+
+void VexoVerticalScrollArea::forwardSliderEvents(VexoSlider *slider)
+{
+    if (!slider)
+        return;
+    connect(slider, &VexoSlider::forwardPressEvent, this, &VexoVerticalScrollArea::press);
+    connect(slider, &VexoSlider::forwardMoveEvent, this, &VexoVerticalScrollArea::move);
+    connect(slider, &VexoSlider::forwardReleaseEvent, this, &VexoVerticalScrollArea::release);
+}
+
+// The toolkit does not scroll from where a slider lies, so it must not see the one that is touched.
+void VexoVerticalScrollArea::press(QMouseEvent *event)
+{
+    const QPointer<QWidget> slider = qobject_cast<QWidget *>(sender());
+    if (slider)
+        slider->setAttribute(Qt::WA_TransparentForMouseEvents, true);
+    hand(QScroller::InputPress, event);
+    if (slider)
+        slider->setAttribute(Qt::WA_TransparentForMouseEvents, false);
+}
+
+void VexoVerticalScrollArea::move(QMouseEvent *event)
+{
+    hand(QScroller::InputMove, event);
+}
+
+void VexoVerticalScrollArea::release(QMouseEvent *event)
+{
+    hand(QScroller::InputRelease, event);
+}
+
+void VexoVerticalScrollArea::scrollContentsBy(int dx, int dy)
+{
+    QScrollArea::scrollContentsBy(dx, dy);
+}
+
+// Seconds, metres, metres per second.
+void VexoVerticalScrollArea::tuneScroller()
+{
+    using Properties = QScrollerProperties;
+    Properties properties = m_scroller->scrollerProperties();
+    properties.setScrollMetric(
+        Properties::VerticalOvershootPolicy, QVariant::fromValue(Properties::OvershootAlwaysOff));
+    properties.setScrollMetric(Properties::MousePressEventDelay, 0.15F);
+    properties.setScrollMetric(Properties::MinimumVelocity, 0.1);
+    properties.setScrollMetric(Properties::MaximumVelocity, 0.7);
+    properties.setScrollMetric(Properties::DecelerationFactor, 0.5);
+    properties.setScrollMetric(Properties::FrameRate, int(Properties::Fps20));
+    properties.setScrollMetric(Properties::ScrollingCurve, int(QEasingCurve::Linear));
+    properties.setScrollMetric(Properties::DragStartDistance, 0.005);
+    properties.setScrollMetric(Properties::DragVelocitySmoothingFactor, 0.1);
+    m_scroller->setScrollerProperties(properties);
+}
+
+void VexoVerticalScrollArea::hand(QScroller::Input input, const QMouseEvent *event)
+{
+    if (event)
+        m_scroller->handleInput(input, positionOf(*event), qint64(event->timestamp()));
+}
+
+// In this area and not in the slider: the slider moves with the list, and the gesture of the area
+// reports the same finger.
+QPointF VexoVerticalScrollArea::positionOf(const QMouseEvent &event) const
+{
+    const auto *slider = qobject_cast<const QWidget *>(sender());
+    const QPoint origin = slider ? mapFromGlobal(slider->mapToGlobal(QPoint())) : QPoint();
+    return origin + event.localPos();
+}
+
+} // namespace vexo::hox::qt::ui

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "ui/hoxqui_export.h"
+
+#include <QScrollArea>
+#include <QScroller>
+
+class QMouseEvent;
+
+namespace vexo::hox::qt::ui {
+
+class VexoSlider;
+
+/// The panel's list: scrolls vertically by a finger that flicks, without overshoot and at no more
+/// than 0.7 m/s. A press reaches the rows after 0.15 s or at the release; after 5 mm the finger
+/// scrolls, and no row clicks. A swipe that begins on a slider beside its handle scrolls once the
+/// slider is handed to forwardSliderEvents(). Its widget is mostly a VexoVerticalScrollContent.
+class HOXQUI_EXPORT VexoVerticalScrollArea : public QScrollArea
+{
+    Q_OBJECT
+
+    /// Whether the vertical scroll bar is shown, also when everything fits. Default false.
+    Q_PROPERTY(bool scroll_bar_enabled MEMBER m_scroll_bar_enabled WRITE setScrollBarEnabled)
+
+public:
+    explicit VexoVerticalScrollArea(QWidget *parent = nullptr, bool scroll_bar_enabled = false);
+
+    void setScrollBarEnabled(bool enabled);
+    /// Jumps, without an animation.
+    void scrollToTop();
+    /// Belongs to the toolkit and lives as long as the area.
+    QScroller *getScroller() { return m_scroller; }
+    /// Lets a touch of \a slider that misses its handle scroll the list. Once for each slider; null
+    /// is ignored.
+    void forwardSliderEvents(VexoSlider *slider);
+
+Q_SIGNALS:
+    /// Tells a tap from a scroll.
+    void scrollerStateChanged(QScroller::State newstate);
+
+private Q_SLOTS:
+    void press(QMouseEvent *event);
+    void move(QMouseEvent *event);
+    void release(QMouseEvent *event);
+    void scrollContentsBy(int dx, int dy) override;
+
+private:
+    void tuneScroller();
+    void hand(QScroller::Input input, const QMouseEvent *event);
+    QPointF positionOf(const QMouseEvent &event) const;
+
+    QScroller *const m_scroller;
+    bool m_scroll_bar_enabled;
+};
+
+} // namespace vexo::hox::qt::ui

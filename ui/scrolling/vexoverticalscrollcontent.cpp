@@ -1,0 +1,28 @@
+#include "ui/scrolling/vexoverticalscrollcontent.h"
+
+#include "ui/foundation/tightlayout_p.h"
+
+#include <QVBoxLayout>
+
+namespace vexo::hox::qt::ui {
+
+VexoVerticalScrollContent::VexoVerticalScrollContent(QWidget *parent)
+    : QWidget(parent)
+{
+    setAttribute(Qt::WA_StyleSheet);
+    setAttribute(Qt::WA_StyledBackground);
+    auto *column = new QVBoxLayout;
+    tighten(column);
+    column->setObjectName(QStringLiteral("ScrollVBoxLayout"));
+    column->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    column->setSizeConstraint(QLayout::SetMinimumSize);
+    setLayout(column);
+}
+
+void VexoVerticalScrollContent::centered()
+{
+    layout()->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    layout()->invalidate();
+}
+
+} // namespace vexo::hox::qt::ui

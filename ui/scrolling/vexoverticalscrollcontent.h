@@ -1,0 +1,22 @@
+#pragma once
+
+#include "ui/hoxqui_export.h"
+
+#include <QWidget>
+
+namespace vexo::hox::qt::ui {
+
+/// What a VexoVerticalScrollArea scrolls: rows below each other without gaps, from the top left.
+/// The application adds its rows to layout(), a QVBoxLayout with the name "ScrollVBoxLayout".
+class HOXQUI_EXPORT VexoVerticalScrollContent : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit VexoVerticalScrollContent(QWidget *parent = nullptr);
+
+    /// Centres rows that are narrower than the area.
+    void centered();
+};
+
+} // namespace vexo::hox::qt::ui

@@ -1,0 +1,193 @@
+#include "ui/text/vexolabeledcontainer.h"
+
+#include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/tightlayout_p.h"
+#include "ui/foundation/visiblebuddies_p.h"
+#include "ui/input/vexolineedit.h"
+#include "ui/sliders/vexosliderdecoration.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+namespace vexo::hox::qt::ui {
+
+namespace {
+
+bool hasScale(const VexoSliderDecoration &slider)
+{
+    const auto style = slider.decoStyle();
+    return style == VexoSliderDecoration::HorizontalWithScale
+        || style == VexoSliderDecoration::VerticalWithScale;
+}
+
+} // namespace
+
+VexoLabeledContainer::VexoLabeledContainer(QWidget *parent, QWidget *payload)
+    : QWidget(parent)
+    , m_scaling(ScalingInfo::inst())
+    , m_visible_buddies(std::make_unique<VisibleBuddies>())
+{
+    setWidget(payload);
+    setupUi();
+}
+
+VexoLabeledContainer::~VexoLabeledContainer() = default;
+
+QString VexoLabeledContainer::labelText() const
+{
+    return m_label->text();
+}
+
+void VexoLabeledContainer::setLabelText(const QString &text)
+{
+    m_label->setText(text);
+}
+
+void VexoLabeledContainer::setPtFontSize(double pt)
+{
+    m_pt_font_size = pt;
+    setPtSize(m_font, pt);
+    m_label->setFont(m_font);
+}
+
+void VexoLabeledContainer::setBottomMarginMm(double mm)
+{
+    m_mm_bottom_margin = mm;
+    m_bottom_spacer->setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+}
+
+void VexoLabeledContainer::setTopMarginMm(double mm)
+{
+    m_mm_top_margin = mm;
+    m_top_spacer->setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+}
+
+void VexoLabeledContainer::setLeftMarginMm(double mm)
+{
+    m_mm_left_margin = mm;
+    m_left_spacer->setFixedWidth(widgetPx(pxX(*m_scaling, mm)));
+}
+
+void VexoLabeledContainer::setRightMarginMm(double mm)
+{
+    m_mm_right_margin = mm;
+    m_right_spacer->setFixedWidth(widgetPx(pxX(*m_scaling, mm)));
+}
+
+void VexoLabeledContainer::setMmHeight(double mm)
+{
+    m_mm_height = mm;
+    setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+}
+
+void VexoLabeledContainer::setWidget(QWidget *widget)
+{
+    if (!widget)
+        return;
+    m_payload = widget;
+    widget->setParent(this);
+    widget->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Preferred);
+}
+
+void VexoLabeledContainer::swapWidget(QWidget *old_widget, QWidget *new_widget)
+{
+    if (old_widget) {
+        m_layout->removeWidget(old_widget);
+        old_widget->setParent(nullptr);
+    }
+    m_payload = new_widget;
+    placePayload();
+}
+
+void VexoLabeledContainer::removeWidget()
+{
+    if (!m_payload)
+        return;
+    m_layout->removeWidget(m_payload);
+    m_payload->setParent(nullptr);
+    m_payload = nullptr;
+}
+
+QWidget *VexoLabeledContainer::addVisibleBuddy(QWidget *buddy)
+{
+    m_visible_buddies->add(buddy);
+    if (buddy)
+        buddy->setVisible(false);
+    return buddy;
+}
+
+void VexoLabeledContainer::clearVisibleBuddies()
+{
+    m_visible_buddies->clear();
+}
+
+void VexoLabeledContainer::setVisible(bool visible)
+{
+    QWidget::setVisible(visible);
+    m_visible_buddies->setVisible(visible);
+}
+
+void VexoLabeledContainer::setupUi()
+{
+    setAttribute(Qt::WA_StyleSheet);
+    setAttribute(Qt::WA_StyledBackground);
+    setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Preferred);
+    setMmHeight(m_mm_height);
+    m_layout = new QGridLayout;
+    tighten(m_layout);
+    setupCaption();
+    m_bottom_spacer = addSpacer(3, 1, QSizePolicy::MinimumExpanding);
+    m_top_spacer = addSpacer(0, 1, QSizePolicy::MinimumExpanding);
+    m_left_spacer = addSpacer(1, 0, QSizePolicy::Maximum);
+    m_right_spacer = addSpacer(1, 2, QSizePolicy::Maximum);
+    setBottomMarginMm(m_mm_bottom_margin);
+    setTopMarginMm(m_mm_top_margin);
+    setLeftMarginMm(m_mm_left_margin);
+    setRightMarginMm(m_mm_right_margin);
+    placePayload();
+    setLayout(m_layout);
+}
+
+void VexoLabeledContainer::setupCaption()
+{
+    m_label = new QLabel(this);
+    m_font.setWeight(QFont::Medium);
+    setPtFontSize(m_pt_font_size);
+    m_label->setObjectName(QStringLiteral("vexoLabeledContainerLabel"));
+    m_label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    m_layout->addWidget(m_label, 1, 1, Qt::AlignLeft | Qt::AlignTop);
+}
+
+QWidget *VexoLabeledContainer::addSpacer(int row, int column, QSizePolicy::Policy vertical)
+{
+    auto *spacer = new QWidget;
+    spacer->setSizePolicy(QSizePolicy::Preferred, vertical);
+    m_layout->addWidget(spacer, row, column);
+    return spacer;
+}
+
+void VexoLabeledContainer::setPayloadWidgetProperties()
+{
+    if (auto *field = qobject_cast<VexoLineEdit *>(m_payload)) {
+        field->setMmMargin(QSizeF(0, 0));
+    } else if (auto *slider = qobject_cast<VexoSliderDecoration *>(m_payload)) {
+        if (hasScale(*slider))
+            setMmHeight(25.0);
+    } else if (auto *label = qobject_cast<QLabel *>(m_payload)) {
+        setPtSize(m_font, m_pt_font_size);
+        m_font.setWeight(QFont::Light);
+        label->setWordWrap(true);
+        label->setFont(m_font);
+    }
+}
+
+void VexoLabeledContainer::placePayload()
+{
+    if (!m_payload)
+        return;
+    setPayloadWidgetProperties();
+    m_payload->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_layout->addWidget(m_payload, 2, 1, Qt::AlignVCenter);
+}
+
+} // namespace vexo::hox::qt::ui
