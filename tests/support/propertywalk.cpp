@@ -16,6 +16,7 @@
 #include <VexoImageHeadline>
 #include <VexoKeyboardButton>
 #include <VexoLabel>
+#include <VexoLabeledContainer>
 #include <VexoLineEdit>
 #include <VexoLineSpacer>
 #include <VexoLogoLabel>
@@ -26,6 +27,8 @@
 #include <VexoSlider>
 #include <VexoSliderDecoration>
 #include <VexoTextEnumeration>
+#include <VexoVerticalButtonScrollArea>
+#include <VexoVerticalScrollArea>
 #include <VideoArea>
 #include <VideoCapturePanning>
 
@@ -81,6 +84,7 @@ const std::vector<WalkedClass> &walkedClasses()
         { "VexoImageHeadline", make<VexoImageHeadline> },
         { "VexoKeyboardButton", make<VexoKeyboardButton> },
         { "VexoLabel", make<VexoLabel> },
+        { "VexoLabeledContainer", make<VexoLabeledContainer> },
         { "VexoLineEdit", make<VexoLineEdit> },
         { "VexoLineSpacer", make<VexoLineSpacer> },
         { "VexoLogoLabel", make<VexoLogoLabel> },
@@ -91,6 +95,8 @@ const std::vector<WalkedClass> &walkedClasses()
         { "VexoSlider", make<VexoSlider> },
         { "VexoSliderDecoration", make<VexoSliderDecoration> },
         { "VexoTextEnumeration", make<VexoTextEnumeration> },
+        { "VexoVerticalButtonScrollArea", make<VexoVerticalButtonScrollArea> },
+        { "VexoVerticalScrollArea", make<VexoVerticalScrollArea> },
         { "VideoArea", make<VideoArea> },
         { "VideoCapturePanning", make<VideoCapturePanning> },
     };

@@ -15,6 +15,9 @@ class VexoSlider;
 /// than 0.7 m/s. A press reaches the rows after 0.15 s or at the release; after 5 mm the finger
 /// scrolls, and no row clicks. A swipe that begins on a slider beside its handle scrolls once the
 /// slider is handed to forwardSliderEvents(). Its widget is mostly a VexoVerticalScrollContent.
+///
+/// The area is a child of a window, never one itself. A slot of a row may delete the row; to delete
+/// the area use deleteLater() there, since the toolkit is still at the gesture.
 class HOXQUI_EXPORT VexoVerticalScrollArea : public QScrollArea
 {
     Q_OBJECT

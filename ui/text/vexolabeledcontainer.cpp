@@ -1,11 +1,13 @@
 #include "ui/text/vexolabeledcontainer.h"
 
+#include "ui/foundation/accessible_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/tightlayout_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
 #include "ui/input/vexolineedit.h"
 #include "ui/sliders/vexosliderdecoration.h"
 
+#include <QAbstractButton>
 #include <QGridLayout>
 #include <QLabel>
 
@@ -18,6 +20,13 @@ bool hasScale(const VexoSliderDecoration &slider)
     const auto style = slider.decoStyle();
     return style == VexoSliderDecoration::HorizontalWithScale
         || style == VexoSliderDecoration::VerticalWithScale;
+}
+
+// For assistive technology. A label or a button says itself what it is.
+void namePayload(QWidget *payload, const QString &before, const QString &now)
+{
+    if (payload && !qobject_cast<QLabel *>(payload) && !qobject_cast<QAbstractButton *>(payload))
+        followName(payload, before, now);
 }
 
 } // namespace
@@ -40,6 +49,7 @@ QString VexoLabeledContainer::labelText() const
 
 void VexoLabeledContainer::setLabelText(const QString &text)
 {
+    namePayload(m_payload, m_label->text(), text);
     m_label->setText(text);
 }
 
@@ -91,20 +101,14 @@ void VexoLabeledContainer::setWidget(QWidget *widget)
 
 void VexoLabeledContainer::swapWidget(QWidget *old_widget, QWidget *new_widget)
 {
-    if (old_widget) {
-        m_layout->removeWidget(old_widget);
-        old_widget->setParent(nullptr);
-    }
+    release(old_widget);
     m_payload = new_widget;
     placePayload();
 }
 
 void VexoLabeledContainer::removeWidget()
 {
-    if (!m_payload)
-        return;
-    m_layout->removeWidget(m_payload);
-    m_payload->setParent(nullptr);
+    release(m_payload);
     m_payload = nullptr;
 }
 
@@ -188,6 +192,16 @@ void VexoLabeledContainer::placePayload()
     setPayloadWidgetProperties();
     m_payload->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_layout->addWidget(m_payload, 2, 1, Qt::AlignVCenter);
+    namePayload(m_payload, QString(), labelText());
+}
+
+void VexoLabeledContainer::release(QWidget *widget)
+{
+    if (!widget)
+        return;
+    namePayload(widget, labelText(), QString());
+    m_layout->removeWidget(widget);
+    widget->setParent(nullptr);
 }
 
 } // namespace vexo::hox::qt::ui

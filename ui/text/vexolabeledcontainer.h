@@ -18,8 +18,9 @@ class VisibleBuddies;
 
 /// A caption above one widget, its payload, at a fixed physical height with margins. It suits some
 /// payloads to itself: a VexoLineEdit loses its margin, a VexoSliderDecoration with a scale makes
-/// the container 25 mm high, a label is wrapped in the caption's size at light weight. It shows and
-/// hides other widgets together with itself. The caption's object name is
+/// the container 25 mm high, a label is wrapped in the caption's size at light weight. A payload
+/// that has no text of its own is named after the caption for assistive technology. The container
+/// shows and hides other widgets together with itself. The caption's object name is
 /// "vexoLabeledContainerLabel".
 class HOXQUI_EXPORT VexoLabeledContainer : public QWidget
 {
@@ -84,6 +85,7 @@ private:
     QWidget *addSpacer(int row, int column, QSizePolicy::Policy vertical);
     void setPayloadWidgetProperties();
     void placePayload();
+    void release(QWidget *widget);
 
     QPointer<QWidget> m_payload;
     QLabel *m_label = nullptr;

@@ -1,4 +1,4 @@
 foreach(class scaledisplaywidget vexohorizontallabelwidget vexoimageheadline vexolabel
-    vexolinespacer vexologo vexologolabel vexoruler vexotextenumeration)
+    vexolabeledcontainer vexolinespacer vexologo vexologolabel vexoruler vexotextenumeration)
   hoxq_test(ui/text/tst_${class}.cpp)
 endforeach()
