@@ -107,6 +107,7 @@ private Q_SLOTS:
     void tellsATapFromAScroll();
     void slidersDoNotStopASwipe_data();
     void slidersDoNotStopASwipe();
+    void flicksOnAtLimitedSpeed();
     void stopsAtTheEnd();
     void rowMayDeleteItself();
     void scrollBarIsOptional();
@@ -183,6 +184,19 @@ void TestVexoVerticalScrollArea::slidersDoNotStopASwipe()
     finger.release();
     QTRY_COMPARE(list.area.getScroller()->state(), QScroller::Inactive);
     QCOMPARE(list.slides > 0, x == 5);
+    QCOMPARE(list.clicks, 0);
+}
+
+void TestVexoVerticalScrollArea::flicksOnAtLimitedSpeed()
+{
+    List list;
+    Finger finger(&list, { 200, 275 });
+    finger.move({ 0, -200 }, 2); // about 5 m/s
+    finger.release();
+    const double speed = list.area.getScroller()->velocity().y(); // m/s
+    QVERIFY2(speed > 0.5 && speed < 0.701, QByteArray::number(speed));
+    QTRY_COMPARE(list.area.getScroller()->state(), QScroller::Inactive);
+    QVERIFY(list.scrolled() > 250);
     QCOMPARE(list.clicks, 0);
 }
 
