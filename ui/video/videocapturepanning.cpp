@@ -76,4 +76,10 @@ void VideoCapturePanning::mousePressEvent(QMouseEvent *event)
         event->accept(); // else the toolkit goes on with the deleted widget
 }
 
+// The toolkit delivers the second of two quick presses at one place as this, and as nothing else.
+void VideoCapturePanning::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    mousePressEvent(event);
+}
+
 } // namespace vexo::hox::qt::ui

@@ -10,6 +10,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWindow>
 
 using namespace vexo::hox::qt::ui;
 
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void panningTellsItsPlace();
     void panningScrollsTheArea();
     void secondPressIsATap();
+    void doubleClickIsATap();
     void mayBeDeletedInTap();
 };
 
@@ -173,6 +175,22 @@ void TestVideoArea::secondPressIsATap()
     QTRY_VERIFY(time.hasExpired(251));
     QTest::mousePress(panning.viewport(), Qt::LeftButton);
     QCOMPARE(taps.size(), 2);
+}
+
+void TestVideoArea::doubleClickIsATap()
+{
+    VideoCapturePanning panning;
+    auto *area = new VideoArea;
+    panning.setWidget(area);
+    panning.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&panning));
+    QElapsedTimer time;
+    time.start();
+    QTRY_VERIFY(time.hasExpired(251));
+    QSignalSpy taps(&panning, &VideoCapturePanning::tap);
+    // Through the window, as a finger's: the toolkit makes a double click of the second press.
+    QTest::mouseDClick(panning.windowHandle(), Qt::LeftButton, {}, QPoint(20, 20));
+    QCOMPARE(taps.size(), 1);
 }
 
 void TestVideoArea::mayBeDeletedInTap()
