@@ -2,6 +2,8 @@
 #include <VideoArea>
 #include <VideoCapturePanning>
 
+#include <QScroller>
+
 using namespace vexo::hox::qt::ui;
 
 // A camera picture of 1280 x 720 px, shown twice as large as its opening; a finger pans it. The
@@ -18,6 +20,9 @@ VideoCapturePanning *createCameraView(Output *output, QWidget *parent)
     QObject::connect(panning, &VideoCapturePanning::setViewportPos, output, &Output::setPlace);
     QObject::connect(panning, &VideoCapturePanning::setViewportSize, output, &Output::setSize);
     panning->setWidget(area);
+    area->setAutoFillBackground(false); // what lies behind is to be seen
+    panning->viewport()->setAutoFillBackground(false);
+    QScroller::grabGesture(panning->viewport(), QScroller::LeftMouseButtonGesture);
     return panning;
 }
 //! [page]

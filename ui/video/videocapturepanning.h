@@ -13,6 +13,10 @@ namespace vexo::hox::qt::ui {
 /// output can be placed exactly behind it, and reports double taps. The area that it shows is
 /// stretched to its size; give the area a minimum size above that to zoom.
 ///
+/// For a video behind the widgets switch off autoFillBackground of the area, after setWidget(), and
+/// of the viewport: the toolkit gives both a ground. To let a finger pan, grab a QScroller gesture
+/// of the viewport.
+///
 /// It logs on the channel "P".
 class HOXQUI_EXPORT VideoCapturePanning // clazy:exclude=copyable-polymorphic
     : public QScrollArea,
@@ -28,7 +32,8 @@ public:
     void setPosition(const QPoint &position);
 
 Q_SIGNALS:
-    /// It has moved in its parent, to this place on the screen, px.
+    /// It has moved in its parent, to this place on the screen, px. Put it at 0, 0 of its parent:
+    /// its distance from there counts twice.
     void setViewportPos(uint x, uint y);
     /// It was resized, px.
     void setViewportSize(uint width, uint height);
