@@ -1,6 +1,7 @@
 #include "gallery/pagelist.h"
 
 #include "gallery/pages/checkandradiopage.h"
+#include "gallery/pages/headlinespage.h"
 #include "gallery/pages/iconbuttonspage.h"
 #include "gallery/pages/icontilespage.h"
 #include "gallery/pages/imagespage.h"
@@ -59,6 +60,7 @@ const QVector<PageEntry> &pageList()
         { "pin", "PIN entry", build<PinPage> },
         { "login", "Login form", build<LoginPage> },
         { "sliders", "Sliders", build<SlidersPage> },
+        { "headlines", "Headlines", build<HeadlinesPage> },
         { "strings", "Strings", build<StringsPage> },
     };
     return pages;

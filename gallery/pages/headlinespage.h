@@ -1,0 +1,19 @@
+#pragma once
+
+#include "gallery/page.h"
+
+class TileLayout;
+
+/// VexoImageHeadline: icons, sizes, long texts, languages, and grounds from a stylesheet.
+class HeadlinesPage : public Page
+{
+public:
+    HeadlinesPage();
+
+private:
+    void addIcons();
+    void addSizes();
+    void addTexts();
+    void addSheets();
+    TileLayout *addTiles(const QString &heading);
+};
