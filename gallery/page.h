@@ -15,11 +15,11 @@ public:
     enum Kind {
         Controls, ///< buttons react at once
         Rows, ///< for rows that are swiped, see scrollRowsByFinger()
-        Screen ///< no title and no margins; it scrolls inside itself
+        Screen ///< it scrolls inside itself
     };
 
     Page(const QString &title, const QString &summary, Kind kind = Controls);
-    /// A Screen.
+    /// A Screen without title and margins.
     Page();
 
     Kind kind() const { return m_kind; }

@@ -1,5 +1,6 @@
 #include "gallery/pagelist.h"
 
+#include "gallery/pages/busyanimationpage.h"
 #include "gallery/pages/checkandradiopage.h"
 #include "gallery/pages/headlinespage.h"
 #include "gallery/pages/iconbuttonspage.h"
@@ -24,6 +25,8 @@
 #include "gallery/pages/textrowspage.h"
 #include "gallery/pages/tilespage.h"
 #include "gallery/pages/typepage.h"
+#include "gallery/pages/updatewindowpage.h"
+#include "gallery/pages/videopage.h"
 
 namespace {
 
@@ -61,6 +64,9 @@ const QVector<PageEntry> &pageList()
         { "login", "Login form", build<LoginPage> },
         { "sliders", "Sliders", build<SlidersPage> },
         { "headlines", "Headlines", build<HeadlinesPage> },
+        { "video", "Video", build<VideoPage> },
+        { "busy-animation", "Busy animation", build<BusyAnimationPage> },
+        { "update-window", "Update window", build<UpdateWindowPage> },
         { "strings", "Strings", build<StringsPage> },
     };
     return pages;

@@ -28,6 +28,17 @@ void scroll(QAbstractScrollArea *area, QScroller::ScrollerGestureType gesture)
     QScroller::grabGesture(area->viewport(), gesture);
 }
 
+void stopAtTheEnds(QAbstractScrollArea *area, double press_delay_in_s)
+{
+    QScroller *scroller = QScroller::scroller(area->viewport());
+    QScrollerProperties properties = scroller->scrollerProperties();
+    properties.setScrollMetric(QScrollerProperties::MousePressEventDelay, press_delay_in_s);
+    const auto overshoot = QVariant::fromValue(QScrollerProperties::OvershootAlwaysOff);
+    properties.setScrollMetric(QScrollerProperties::VerticalOvershootPolicy, overshoot);
+    properties.setScrollMetric(QScrollerProperties::HorizontalOvershootPolicy, overshoot);
+    scroller->setScrollerProperties(properties);
+}
+
 } // namespace
 
 void scrollByFinger(QAbstractScrollArea *area)
@@ -38,11 +49,11 @@ void scrollByFinger(QAbstractScrollArea *area)
 void scrollRowsByFinger(QAbstractScrollArea *area)
 {
     scroll(area, QScroller::LeftMouseButtonGesture); // a touch becomes one, where rows take it
-    QScroller *scroller = QScroller::scroller(area->viewport());
-    QScrollerProperties properties = scroller->scrollerProperties();
-    properties.setScrollMetric(QScrollerProperties::MousePressEventDelay, 0.15);
-    const auto overshoot = QVariant::fromValue(QScrollerProperties::OvershootAlwaysOff);
-    properties.setScrollMetric(QScrollerProperties::VerticalOvershootPolicy, overshoot);
-    properties.setScrollMetric(QScrollerProperties::HorizontalOvershootPolicy, overshoot);
-    scroller->setScrollerProperties(properties);
+    stopAtTheEnds(area, 0.15);
+}
+
+void panByFinger(QAbstractScrollArea *area)
+{
+    QScroller::grabGesture(area->viewport(), QScroller::LeftMouseButtonGesture);
+    stopAtTheEnds(area, 0);
 }

@@ -9,3 +9,7 @@ void scrollByFinger(QAbstractScrollArea *area);
 /// after 0.15 s, or at the release, so a swipe presses none. Not inside an area that scrolls by
 /// finger: the toolkit would move both.
 void scrollRowsByFinger(QAbstractScrollArea *area);
+
+/// Lets a finger or the mouse move what \a area shows in both directions. A press reaches the area
+/// at once. The same holds for it inside another area.
+void panByFinger(QAbstractScrollArea *area);

@@ -11,6 +11,15 @@ endforeach()
 hoxq_test(gallery/tst_entry.cpp ${entry})
 target_include_directories(tst_entry PRIVATE ${PROJECT_SOURCE_DIR})
 
+foreach(file measures page
+    pages/busyanimationpage pages/headlinespage pages/updatewindowpage pages/videopage
+    widgets/busysign widgets/fingerscroll widgets/framedground widgets/testpicture
+    widgets/tilelayout widgets/videooutput)
+  list(APPEND screens ${PROJECT_SOURCE_DIR}/gallery/${file}.cpp ${PROJECT_SOURCE_DIR}/gallery/${file}.h)
+endforeach()
+hoxq_test(gallery/tst_screens.cpp ${screens} $<TARGET_OBJECTS:galleryresources>)
+target_include_directories(tst_screens PRIVATE ${PROJECT_SOURCE_DIR})
+
 hoxq_test(gallery/tst_gallery.cpp)
 add_dependencies(tst_gallery hoxqgallery)
 target_link_libraries(tst_gallery PRIVATE packagesupport)

@@ -26,6 +26,8 @@ public:
 
     /// The same without the event loop, up to now.
     int taken(QWidget *widget) { return m_paints.take(widget); }
+    /// How many widgets were painted since they were last taken.
+    int painted() const { return m_paints.size(); }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override

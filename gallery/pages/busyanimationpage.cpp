@@ -1,0 +1,106 @@
+#include "gallery/pages/busyanimationpage.h"
+
+#include "gallery/measures.h"
+#include "gallery/widgets/busysign.h"
+#include "gallery/widgets/framedground.h"
+#include "gallery/widgets/tilelayout.h"
+
+#include <VexoColors>
+#include <VexoPushButton>
+
+#include <QVBoxLayout>
+
+using namespace vexo::hox::qt::ui;
+
+namespace {
+
+QLayout *createTile(QWidget *sign, const QString &caption)
+{
+    auto *tile = new QVBoxLayout;
+    tile->setSpacing(mmY(1));
+    tile->addWidget(sign, 0, Qt::AlignLeft);
+    tile->addWidget(Page::createText(caption), 1, Qt::AlignTop);
+    return tile;
+}
+
+TileLayout *createTiles(double column_mm)
+{
+    return new TileLayout(mmX(column_mm), mmSize(4, 4));
+}
+
+} // namespace
+
+BusyAnimationPage::BusyAnimationPage()
+    : Page("Busy animation",
+        "Flips through image files, one every 500 ms. They are loaded and scaled in a thread of "
+        "their own, as soon as the animation is made.")
+    , m_button(new VexoPushButton)
+{
+    m_button->setFixedWidth(mmX(40));
+    connect(m_button, &VexoPushButton::clicked, this, [this] { setTurning(!m_is_turning); });
+    addBlock(m_button);
+    addSizes();
+    addSpeeds();
+    addMissingFile();
+    setTurning(false);
+}
+
+void BusyAnimationPage::hideEvent(QHideEvent *event)
+{
+    setTurning(false);
+    Page::hideEvent(event);
+}
+
+void BusyAnimationPage::addSizes()
+{
+    addSection("Sizes and grounds");
+    TileLayout *tiles = createTiles(23);
+    for (const int mm : { 8, 16 }) {
+        const QString caption = QString("%1 x %1 mm").arg(mm);
+        tiles->addLayout(
+            createTile(adopt(new BusySign(BusySign::ringFiles("C3"), mm), VexoColors::C1),
+                caption + ", dark images"));
+        tiles->addLayout(
+            createTile(adopt(new BusySign(BusySign::ringFiles("C0"), mm), VexoColors::C3),
+                caption + ", light images"));
+    }
+    addBlock(tiles);
+}
+
+void BusyAnimationPage::addSpeeds()
+{
+    addSection("Speeds");
+    TileLayout *tiles = createTiles(32);
+    const auto add = [&](int steps, int step_ms, const QString &caption) {
+        auto *sign = new BusySign(BusySign::ringFiles("C3", steps), 10, step_ms);
+        tiles->addLayout(createTile(adopt(sign, VexoColors::C1), caption));
+    };
+    add(12, 0, "twelve images: a turn in 6 s");
+    add(4, 0, "four images: a turn in 2 s");
+    add(12, 100, "twelve images, a timer of the application takes one every 100 ms: 1.2 s");
+    addBlock(tiles);
+}
+
+void BusyAnimationPage::addMissingFile()
+{
+    addSection("A missing file");
+    const QStringList files{ BusySign::ringFiles("C3").first(), "missing.svg" };
+    TileLayout *tiles = createTiles(46);
+    tiles->addLayout(createTile(adopt(new BusySign(files, 10), VexoColors::C1),
+        "The second of two cannot be read: nothing is shown in its step"));
+    addBlock(tiles);
+}
+
+QWidget *BusyAnimationPage::adopt(BusySign *sign, const QColor &ground)
+{
+    m_signs += sign;
+    return new FramedGround(ground, sign, mmSize(2, 2));
+}
+
+void BusyAnimationPage::setTurning(bool turning)
+{
+    m_is_turning = turning;
+    m_button->setText(turning ? "Stop" : "Start");
+    for (BusySign *sign : qAsConst(m_signs))
+        sign->setTurning(turning);
+}

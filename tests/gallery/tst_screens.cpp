@@ -1,0 +1,200 @@
+#include "gallery/pages/busyanimationpage.h"
+#include "gallery/pages/headlinespage.h"
+#include "gallery/pages/updatewindowpage.h"
+#include "gallery/pages/videopage.h"
+#include "gallery/widgets/busysign.h"
+#include "support/paintcounter.h"
+#include "support/panelscale.h"
+#include "support/testcase.h"
+#include "support/touch.h"
+
+#include <UpdateMainWindow>
+#include <VexoColors>
+#include <VideoCapturePanning>
+
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLayout>
+#include <QWindow>
+
+using namespace vexo::hox::qt::ui;
+
+/// The pages with a camera picture, a busy animation and a running update.
+class TestScreens : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fingerPansTheVideo();
+    void doubleTapZooms();
+    void playingRepaintsThePictureOnly();
+    void signsTurnUntilThePageIsLeft();
+    void updateWindowCoversItsWindow();
+    void restingPagesPaintNothing();
+
+private:
+    const PanelScale m_scale{ 8, 5 };
+};
+
+namespace {
+
+void expose(QWidget *page)
+{
+    page->layout()->setSizeConstraint(QLayout::SetNoConstraint);
+    page->resize(1000, 500);
+    page->show();
+    QVERIFY(QTest::qWaitForWindowExposed(page));
+}
+
+// Until a press is none within 250 ms of the construction, which would be a tap.
+void exposeVideo(VideoPage *page)
+{
+    QElapsedTimer time;
+    time.start();
+    expose(page);
+    QTRY_VERIFY(time.hasExpired(251));
+}
+
+QString valueOf(const QWidget &page, const char *signal)
+{
+    return page.findChild<QLabel *>(QLatin1String(signal))->text();
+}
+
+void click(const QWidget &page, const QString &text)
+{
+    const auto buttons = page.findChildren<QAbstractButton *>();
+    for (QAbstractButton *button : buttons) {
+        if (button->text() == text || button->accessibleName() == text)
+            return QTest::mouseClick(button, Qt::LeftButton);
+    }
+    QFAIL(qPrintable(text));
+}
+
+// The colours in the corners of the picture as the page shows it, clockwise from the left top.
+QVector<QColor> cornersOf(QWidget &page)
+{
+    const QWidget *output = page.findChild<VideoCapturePanning *>()->parentWidget();
+    const QRect place(output->mapTo(&page, QPoint(0, 0)), output->size());
+    const QImage picture = page.grab(place).toImage();
+    const int right = picture.width() - 4;
+    const int bottom = picture.height() - 4;
+    return { picture.pixelColor(3, 3), picture.pixelColor(right, 3),
+        picture.pixelColor(right, bottom), picture.pixelColor(3, bottom) };
+}
+
+const QVector<QColor> whole_picture{ VexoColors::C9, VexoColors::C7, VexoColors::C8,
+    VexoColors::C10 };
+
+} // namespace
+
+void TestScreens::fingerPansTheVideo()
+{
+    VideoPage page;
+    exposeVideo(&page);
+    QWidget *viewport = page.findChild<VideoCapturePanning *>()->viewport();
+    QCOMPARE(viewport->size(), QSize(512, 180)); // 64 x 36 mm
+    QCOMPARE(cornersOf(page), whole_picture);
+    QCOMPARE(valueOf(page, "crop"), QStringLiteral("0, 0, 1280, 720"));
+    click(page, QStringLiteral("Zoom in"));
+    click(page, QStringLiteral("Zoom in"));
+    QCOMPARE(valueOf(page, "crop"), QStringLiteral("320, 180, 640, 360"));
+    finger(viewport, QEvent::MouseButtonPress, QPoint(400, 150));
+    for (const QPoint &at : Way{ { 300, 100 }, { 200, 50 }, { 100, 0 }, { 0, -50 } })
+        finger(viewport, QEvent::MouseMove, at);
+    QTRY_COMPARE(valueOf(page, "crop"), QStringLiteral("640, 360, 640, 360"));
+    finger(viewport, QEvent::MouseButtonRelease, QPoint(0, -50));
+    QCOMPARE(cornersOf(page).at(2), QColor(VexoColors::C8));
+    QVERIFY(!cornersOf(page).contains(VexoColors::C9));
+    click(page, QStringLiteral("Zoom in")); // around the middle
+    QCOMPARE(valueOf(page, "crop"), QStringLiteral("704, 396, 512, 288"));
+    click(page, QStringLiteral("Whole picture"));
+    QCOMPARE(cornersOf(page), whole_picture);
+}
+
+void TestScreens::doubleTapZooms()
+{
+    VideoPage page;
+    exposeVideo(&page);
+    const QWidget *panning = page.findChild<VideoCapturePanning *>();
+    const QPoint tapped = panning->mapTo(&page, QPoint(100, 50));
+    QTest::mouseDClick(page.windowHandle(), Qt::LeftButton, {}, tapped);
+    QTRY_COMPARE(valueOf(page, "crop"), QStringLiteral("320, 180, 640, 360"));
+    QCOMPARE(valueOf(page, "tap"), QStringLiteral("1"));
+}
+
+void TestScreens::playingRepaintsThePictureOnly()
+{
+    VideoPage page;
+    expose(&page);
+    PaintCounter paints;
+    QWidget *output = page.findChild<VideoCapturePanning *>()->parentWidget();
+    click(page, QStringLiteral("Play"));
+    paints.take(&page);
+    QWidgetList others = page.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    others.removeOne(output);
+    others += &page;
+    for (QWidget *widget : qAsConst(others))
+        paints.watch(widget);
+    paints.watch(output);
+    int frames = 0;
+    QTRY_VERIFY((frames += paints.taken(output)) >= 3);
+    for (QWidget *widget : qAsConst(others))
+        QCOMPARE(paints.taken(widget), 0);
+    page.hide();
+    click(page, QStringLiteral("Play")); // it had stopped
+}
+
+void TestScreens::signsTurnUntilThePageIsLeft()
+{
+    BusyAnimationPage page;
+    expose(&page);
+    const auto signs = page.findChildren<BusySign *>();
+    QVector<QImage> resting;
+    for (BusySign *sign : signs)
+        resting += sign->grab().toImage();
+    click(page, QStringLiteral("Start"));
+    for (int i = 0; i < signs.size(); ++i)
+        QTRY_VERIFY(signs.at(i)->grab().toImage() != resting.at(i));
+    page.hide();
+    for (int i = 0; i < signs.size(); ++i)
+        QCOMPARE(signs.at(i)->grab().toImage(), resting.at(i));
+    click(page, QStringLiteral("Start"));
+}
+
+void TestScreens::updateWindowCoversItsWindow()
+{
+    UpdateWindowPage page;
+    expose(&page);
+    click(page, QStringLiteral("Open"));
+    const QPointer<UpdateMainWindow> window = page.findChild<UpdateMainWindow *>();
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QCOMPARE(window->geometry(), page.geometry());
+    touch(window->centralWidget());
+    QTRY_VERIFY(!window);
+    click(page, QStringLiteral("Open")); // and goes with its page
+}
+
+void TestScreens::restingPagesPaintNothing()
+{
+    HeadlinesPage headlines;
+    VideoPage video;
+    BusyAnimationPage busy;
+    UpdateWindowPage update;
+    const QVector<Page *> pages{ &headlines, &video, &busy, &update };
+    for (Page *page : pages)
+        expose(page);
+    PaintCounter paints;
+    paints.take(&update);
+    for (Page *page : pages) {
+        const auto children = page->findChildren<QWidget *>();
+        for (QWidget *child : children)
+            paints.watch(child);
+    }
+    QElapsedTimer time;
+    time.start();
+    QTRY_VERIFY(time.hasExpired(600)); // longer than the longest step
+    QCOMPARE(paints.painted(), 0);
+}
+
+QTEST_MAIN(TestScreens)
+#include "tst_screens.moc"
