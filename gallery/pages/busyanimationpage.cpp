@@ -54,7 +54,7 @@ void BusyAnimationPage::hideEvent(QHideEvent *event)
 void BusyAnimationPage::addSizes()
 {
     addSection("Sizes and grounds");
-    TileLayout *tiles = createTiles(23);
+    TileLayout *tiles = createTiles(20);
     for (const int mm : { 8, 16 }) {
         const QString caption = QString("%1 x %1 mm").arg(mm);
         tiles->addLayout(
@@ -70,7 +70,7 @@ void BusyAnimationPage::addSizes()
 void BusyAnimationPage::addSpeeds()
 {
     addSection("Speeds");
-    TileLayout *tiles = createTiles(32);
+    TileLayout *tiles = createTiles(30);
     const auto add = [&](int steps, int step_ms, const QString &caption) {
         auto *sign = new BusySign(BusySign::ringFiles("C3", steps), 10, step_ms);
         tiles->addLayout(createTile(adopt(sign, VexoColors::C1), caption));
@@ -84,7 +84,7 @@ void BusyAnimationPage::addSpeeds()
 void BusyAnimationPage::addMissingFile()
 {
     addSection("A missing file");
-    const QStringList files{ BusySign::ringFiles("C3").first(), "missing.svg" };
+    const QStringList files{ BusySign::ringFiles("C3").constFirst(), "missing.svg" };
     TileLayout *tiles = createTiles(46);
     tiles->addLayout(createTile(adopt(new BusySign(files, 10), VexoColors::C1),
         "The second of two cannot be read: nothing is shown in its step"));

@@ -93,6 +93,8 @@ void UpdateWindowPage::openWindow()
     update->move(window()->geometry().topLeft());
     update->installEventFilter(this);
     addBusySign(update);
-    QTimer::singleShot(shown_ms, update, &QWidget::close);
+    auto *end = new QTimer(update);
+    connect(end, &QTimer::timeout, update, &QWidget::close);
+    end->start(shown_ms);
     update->show();
 }

@@ -104,7 +104,7 @@ QWidget *VideoPage::createPicture()
 
 QLayout *VideoPage::createControls()
 {
-    auto *whole = createPushButton("Whole picture");
+    auto *whole = createPushButton("Whole");
     connect(whole, &VexoPushButton::clicked, this, [this] { setZoom(100); });
     connect(m_play, &VexoPushButton::clicked, this, [this] { setPlaying(!m_camera.isActive()); });
     auto *column = new QVBoxLayout;
@@ -133,18 +133,18 @@ QLayout *VideoPage::createValues()
     grid->setVerticalSpacing(mmY(1));
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
-    const auto add = [grid](int row, int column, const QString &name) {
+    const auto add = [grid](int row, int column, const QString &name, int span = 1) {
         auto *label = new QLabel(name);
         label->setFont(ptFont(7, QFont::Medium));
         QLabel *value = createValue(name);
         grid->addWidget(label, row, 2 * column);
-        grid->addWidget(value, row, 2 * column + 1);
+        grid->addWidget(value, row, 2 * column + 1, 1, span);
         return value;
     };
-    showCrop(add(0, 0, "crop"));
-    countTaps(add(0, 1, "tap"));
+    showCrop(add(0, 0, "crop", 3));
     showPlace(add(1, 0, "setViewportPos"), add(1, 1, "setViewportSize"));
     showRatio(add(2, 0, "setAspectRatio"));
+    countTaps(add(2, 1, "tap"));
     return grid;
 }
 
