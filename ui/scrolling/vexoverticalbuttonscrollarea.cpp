@@ -90,7 +90,7 @@ void VexoVerticalButtonScrollArea::removeScrollAreaContent()
 }
 
 void VexoVerticalButtonScrollArea::setButtonConnection(
-    QObject *receiver, std::function<void()> handler)
+    QObject *receiver, std::function<void()> handler) // NOLINT(performance-unnecessary-value-param)
 {
     if (!receiver || !handler)
         return;
