@@ -4,7 +4,7 @@ install(DIRECTORY ui util DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui COMPONE
   FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE PATTERN resources EXCLUDE)
 install(FILES system/vexologging.h ${PROJECT_BINARY_DIR}/system/hoxqsystem_export.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui/system COMPONENT Devel)
-install(FILES ${PROJECT_BINARY_DIR}/ui/hoxqui_export.h
+install(FILES ${PROJECT_BINARY_DIR}/ui/hoxqui_export.h ${PROJECT_BINARY_DIR}/ui/ui_updatepage.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui/ui COMPONENT Devel)
 get_property(forwards GLOBAL PROPERTY HOXQ_FORWARDS)
 install(FILES ${forwards} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui COMPONENT Devel)

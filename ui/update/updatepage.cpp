@@ -1,7 +1,7 @@
 #include "ui/update/updatepage.h"
 
 #include "ui/foundation/pixels_p.h"
-#include "ui_updatepage.h"
+#include "ui/ui_updatepage.h"
 
 namespace vexo::hox::qt::ui {
 
