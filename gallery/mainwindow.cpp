@@ -10,12 +10,12 @@
 #include <CachedVectorIcon>
 #include <VexoColors>
 #include <VexoFunctionButton>
+#include <VexoVerticalScrollArea>
 
 #include <QCoreApplication>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QLabel>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -47,16 +47,35 @@ QLabel *createLogo()
     return logo;
 }
 
+QScrollArea *createRowArea()
+{
+    auto *area = new VexoVerticalScrollArea;
+    setNarrowScrollBar(area);
+    area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    return area;
+}
+
+QScrollArea *createArea(Page::Kind kind)
+{
+    if (kind == Page::Rows)
+        return createRowArea();
+    auto *area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    if (kind == Page::Controls)
+        scrollByFinger(area);
+    return area;
+}
+
 } // namespace
 
 MainWindow::MainWindow()
-    : m_row_area(new QScrollArea)
+    : m_row_area(createRowArea())
     , m_stack(new QStackedWidget)
+    , m_areas(pageList().size())
 {
     setWindowTitle("HoxqUi gallery");
     setAttribute(Qt::WA_StyledBackground);
-    for (int page = 0; page < pageList().size(); ++page)
-        m_areas += createArea();
 
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -77,7 +96,7 @@ void MainWindow::showPage(int page)
 
 void MainWindow::showWholePage()
 {
-    QScrollArea *area = m_areas.at(m_stack->currentIndex());
+    QScrollArea *area = m_areas.at(m_page);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     QCoreApplication::sendPostedEvents(); // lays out
@@ -99,12 +118,7 @@ void MainWindow::showEvent(QShowEvent *)
 
 QWidget *MainWindow::createSideBar()
 {
-    m_row_area->setFrameShape(QFrame::NoFrame);
-    m_row_area->setWidgetResizable(true);
-    m_row_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_row_area->setWidget(createRows());
-    scrollRowsByFinger(m_row_area);
-
     auto *bar = new QWidget;
     setGround(bar, VexoColors::C1);
     bar->setFixedWidth(sideBarWidth(m_rows.first()->getLabelInstance()->font()));
@@ -138,30 +152,21 @@ QWidget *MainWindow::createRows()
     return rows;
 }
 
-QScrollArea *MainWindow::createArea()
-{
-    auto *area = new QScrollArea;
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    m_stack->addWidget(area);
-    return area;
-}
-
 void MainWindow::buildPage(int index)
 {
-    QScrollArea *area = m_areas.at(index);
-    if (!area->widget()) {
+    QScrollArea *&area = m_areas[index];
+    if (!area) {
         Page *page = pageList().at(index).build();
+        area = createArea(page->kind());
+        m_stack->addWidget(area);
+        area->ensurePolished(); // else what is inside would inherit the ground of the sheet
         area->setWidget(page);
-        if (page->kind() == Page::Controls)
-            scrollByFinger(area);
-        else if (page->kind() == Page::Rows)
-            scrollRowsByFinger(area);
     }
-    m_stack->setCurrentIndex(index);
+    m_page = index;
+    m_stack->setCurrentWidget(area);
 }
 
 void MainWindow::bringRowIntoView()
 {
-    m_row_area->ensureWidgetVisible(m_rows.at(m_stack->currentIndex()), 0, 0);
+    m_row_area->ensureWidgetVisible(m_rows.at(m_page), 0, 0);
 }

@@ -33,12 +33,12 @@ private:
 
     QWidget *createSideBar();
     QWidget *createRows();
-    QScrollArea *createArea();
     void buildPage(int index);
     void bringRowIntoView();
 
     QScrollArea *m_row_area;
     QStackedWidget *m_stack;
     QVector<Row *> m_rows;
-    QVector<QScrollArea *> m_areas;
+    QVector<QScrollArea *> m_areas; // null until their page is shown
+    int m_page = 0;
 };

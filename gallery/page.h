@@ -14,7 +14,7 @@ class Page : public QWidget
 public:
     enum Kind {
         Controls, ///< buttons react at once
-        Rows, ///< for rows that are swiped, see scrollRowsByFinger()
+        Rows, ///< for rows: a press reaches them late, or not at all when it becomes a swipe
         Screen ///< it scrolls inside itself
     };
 

@@ -1,7 +1,6 @@
 #include "gallery/pages/settingspage.h"
 
 #include "gallery/measures.h"
-#include "gallery/widgets/fingerscroll.h"
 #include "gallery/widgets/ground.h"
 #include "gallery/widgets/question.h"
 #include "gallery/widgets/rowlist.h"
@@ -10,11 +9,12 @@
 #include <VexoFunctionButton>
 #include <VexoNumericButton>
 #include <VexoPushButton>
+#include <VexoVerticalScrollArea>
+#include <VexoVerticalScrollContent>
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 using namespace vexo::hox::qt::ui;
@@ -81,23 +81,16 @@ SettingsPage::SettingsPage()
 
 QWidget *SettingsPage::createList()
 {
-    auto *content = new QWidget;
-    auto *list = new QVBoxLayout(content);
+    auto *content = new VexoVerticalScrollContent;
+    auto *list = qobject_cast<QVBoxLayout *>(content->layout());
     list->setContentsMargins(0, 0, 0, mmY(4));
-    list->setSpacing(0);
     addDisplay(list);
     addLanguages(list);
     addTones(list);
     addService(list);
-    list->addStretch();
-    auto *area = new QScrollArea;
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
+    auto *area = new VexoVerticalScrollArea;
     area->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored); // takes what is left
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setWidget(content);
-    scrollRowsByFinger(area);
     return area;
 }
 

@@ -22,38 +22,27 @@ QString scrollBarSheet()
     return sheet.arg(mmX(2.4)).arg(VexoColors::C6.name()).arg(mmY(10)).arg(mmX(0.6));
 }
 
-void scroll(QAbstractScrollArea *area, QScroller::ScrollerGestureType gesture)
+} // namespace
+
+void setNarrowScrollBar(QAbstractScrollArea *area)
 {
     area->verticalScrollBar()->setStyleSheet(scrollBarSheet());
-    QScroller::grabGesture(area->viewport(), gesture);
 }
-
-void stopAtTheEnds(QAbstractScrollArea *area, double press_delay_in_s)
-{
-    QScroller *scroller = QScroller::scroller(area->viewport());
-    QScrollerProperties properties = scroller->scrollerProperties();
-    properties.setScrollMetric(QScrollerProperties::MousePressEventDelay, press_delay_in_s);
-    const auto overshoot = QVariant::fromValue(QScrollerProperties::OvershootAlwaysOff);
-    properties.setScrollMetric(QScrollerProperties::VerticalOvershootPolicy, overshoot);
-    properties.setScrollMetric(QScrollerProperties::HorizontalOvershootPolicy, overshoot);
-    scroller->setScrollerProperties(properties);
-}
-
-} // namespace
 
 void scrollByFinger(QAbstractScrollArea *area)
 {
-    scroll(area, QScroller::TouchGesture);
-}
-
-void scrollRowsByFinger(QAbstractScrollArea *area)
-{
-    scroll(area, QScroller::LeftMouseButtonGesture); // a touch becomes one, where rows take it
-    stopAtTheEnds(area, 0.15);
+    setNarrowScrollBar(area);
+    QScroller::grabGesture(area->viewport(), QScroller::TouchGesture);
 }
 
 void panByFinger(QAbstractScrollArea *area)
 {
     QScroller::grabGesture(area->viewport(), QScroller::LeftMouseButtonGesture);
-    stopAtTheEnds(area, 0);
+    QScroller *scroller = QScroller::scroller(area->viewport());
+    QScrollerProperties properties = scroller->scrollerProperties();
+    properties.setScrollMetric(QScrollerProperties::MousePressEventDelay, 0);
+    const auto overshoot = QVariant::fromValue(QScrollerProperties::OvershootAlwaysOff);
+    properties.setScrollMetric(QScrollerProperties::VerticalOvershootPolicy, overshoot);
+    properties.setScrollMetric(QScrollerProperties::HorizontalOvershootPolicy, overshoot);
+    scroller->setScrollerProperties(properties);
 }
