@@ -9,6 +9,7 @@
 #include "gallery/pages/keyboardpage.h"
 #include "gallery/pages/labelspage.h"
 #include "gallery/pages/lineeditspage.h"
+#include "gallery/pages/listspage.h"
 #include "gallery/pages/loginpage.h"
 #include "gallery/pages/logopage.h"
 #include "gallery/pages/measuredbuttonpage.h"
@@ -67,6 +68,7 @@ const QVector<PageEntry> &pageList()
         { "video", "Video", build<VideoPage> },
         { "busy-animation", "Busy animation", build<BusyAnimationPage> },
         { "update-window", "Update window", build<UpdateWindowPage> },
+        { "lists", "Lists", build<ListsPage> },
         { "strings", "Strings", build<StringsPage> },
     };
     return pages;

@@ -1,6 +1,7 @@
 #include "gallery/pages/checkandradiopage.h"
 
 #include "gallery/measures.h"
+#include "gallery/widgets/mmsheets.h"
 #include "gallery/widgets/plainbutton.h"
 
 #include <VexoCheckBox>
@@ -47,21 +48,6 @@ QWidget *createColumn(const QString &heading)
     return parent;
 }
 
-// Indicators of the panel's images in millimetres, whose own size is in pixels.
-QString sheetInMillimetres()
-{
-    const QString sheet = "QCheckBox, QRadioButton { color: %1; spacing: %2px; }"
-                          "QCheckBox::indicator { width: %3px; height: %4px; }"
-                          "QRadioButton::indicator { width: %5px; height: %4px; }"
-                          "QCheckBox:disabled, QRadioButton:disabled { color: %6; }";
-    return sheet.arg(VexoColors::C9.name())
-        .arg(mmX(3))
-        .arg(mmX(12))
-        .arg(mmY(7))
-        .arg(mmX(7))
-        .arg(VexoColors::C6.name());
-}
-
 } // namespace
 
 CheckAndRadioPage::CheckAndRadioPage()
@@ -91,6 +77,6 @@ void CheckAndRadioPage::addParentSheet()
     addBlock(createText("The panel's sheets draw the indicators in pixels. A sheet of the "
                         "application on any parent gives them millimetres and other colours."));
     QWidget *column = createColumn<VexoCheckBox, VexoRadioButton>("12 x 7 and 7 x 7 mm");
-    column->setStyleSheet(sheetInMillimetres());
+    column->setStyleSheet(indicatorSheet(VexoColors::C9));
     addBlock(column);
 }

@@ -56,14 +56,6 @@ QLabel *createHeadline()
     return headline;
 }
 
-QWidget *createLine()
-{
-    auto *line = new QWidget;
-    setGround(line, VexoColors::C13);
-    line->setFixedHeight(1);
-    return line;
-}
-
 } // namespace
 
 SettingsPage::SettingsPage()

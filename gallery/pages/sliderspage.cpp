@@ -1,6 +1,7 @@
 #include "gallery/pages/sliderspage.h"
 
 #include "gallery/measures.h"
+#include "gallery/widgets/mmsheets.h"
 #include "gallery/widgets/plainslider.h"
 #include "gallery/widgets/tilelayout.h"
 
@@ -58,23 +59,6 @@ QLayout *createLeft(QWidget *widget, QLayout *tile)
 {
     tile->setAlignment(widget, Qt::AlignLeft);
     return tile;
-}
-
-// The look in mm that the panel's sheet gives in px.
-QString sheetInMm()
-{
-    const QString sheet = "QSlider::groove:horizontal { height: %1px; border: none; }"
-                          "QSlider::sub-page:horizontal { background: %5; border-radius: 0; }"
-                          "QSlider::add-page:horizontal { background: %6; border-radius: 0; }"
-                          "QSlider::handle:horizontal { width: %2px; margin: -%3px 0; background: "
-                          "white; border: %4px solid %5; border-radius: %7px %8px; }";
-    return sheet.arg(mmY(1))
-        .arg(mmX(5.6))
-        .arg(mmY(2.7))
-        .arg(mmX(0.4))
-        .arg(VexoColors::C7.name(), VexoColors::C6.name())
-        .arg(mmX(3.1))
-        .arg(mmY(3.1));
 }
 
 } // namespace
@@ -156,7 +140,7 @@ void SlidersPage::addLooks()
     auto *plain = new PlainSlider(slider);
     plain->setFixedSize(slider->size());
     auto *in_mm = createDecoration(Decoration::HorizontalWithoutScale);
-    in_mm->setStyleSheet(sheetInMm());
+    in_mm->setStyleSheet(sliderSheet());
     tiles->addLayout(createLeft(decoration,
         createCaptioned(decoration,
             "With the panel's sheets. They give the handle 72 px, made for 11 px/mm: with less it "

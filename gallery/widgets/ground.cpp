@@ -1,7 +1,11 @@
 #include "gallery/widgets/ground.h"
 
+#include <VexoColors>
+
 #include <QPalette>
 #include <QWidget>
+
+using vexo::hox::qt::ui::VexoColors;
 
 void setGround(QWidget *widget, const QColor &color)
 {
@@ -9,4 +13,12 @@ void setGround(QWidget *widget, const QColor &color)
     colors.setColor(QPalette::Window, color);
     widget->setPalette(colors);
     widget->setAutoFillBackground(true);
+}
+
+QWidget *createLine()
+{
+    auto *line = new QWidget;
+    setGround(line, VexoColors::C13);
+    line->setFixedHeight(1);
+    return line;
 }

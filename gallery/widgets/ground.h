@@ -5,3 +5,5 @@ class QWidget;
 
 /// Fills \a widget with \a color; the rest of its palette stays.
 void setGround(QWidget *widget, const QColor &color);
+/// A level line of 1 px.
+QWidget *createLine();
