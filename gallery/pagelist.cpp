@@ -3,6 +3,7 @@
 #include "gallery/pages/busyanimationpage.h"
 #include "gallery/pages/checkandradiopage.h"
 #include "gallery/pages/headlinespage.h"
+#include "gallery/pages/formpage.h"
 #include "gallery/pages/iconbuttonspage.h"
 #include "gallery/pages/icontilespage.h"
 #include "gallery/pages/imagespage.h"
@@ -68,6 +69,7 @@ const QVector<PageEntry> &pageList()
         { "video", "Video", build<VideoPage> },
         { "busy-animation", "Busy animation", build<BusyAnimationPage> },
         { "update-window", "Update window", build<UpdateWindowPage> },
+        { "form", "Form", build<FormPage> },
         { "lists", "Lists", build<ListsPage> },
         { "strings", "Strings", build<StringsPage> },
     };

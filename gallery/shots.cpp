@@ -5,6 +5,7 @@
 
 #include <ScalingInfo>
 
+#include <QApplication>
 #include <QDir>
 #include <QImage>
 
@@ -36,6 +37,7 @@ void takeShots(MainWindow &window, const QVector<int> &pages, const QString &fol
     const QSize panel = window.size();
     window.setAttribute(Qt::WA_DontShowOnScreen);
     window.show();
+    QApplication::setActiveWindow(&window); // some grounds are those of an active window
     for (const int page : pages) {
         window.showPage(page);
         window.resize(panel);
