@@ -1,19 +1,25 @@
 #include "gallery/pages/stylesheetpage.h"
 
 #include "gallery/measures.h"
+#include "gallery/widgets/ground.h"
 #include "gallery/widgets/plainbutton.h"
 #include "gallery/widgets/plainslider.h"
 
 #include <VexoColors>
+#include <VexoLabeledContainer>
+#include <VexoLineEdit>
+#include <VexoVerticalButtonScrollArea>
 
 #include <QCheckBox>
 #include <QFile>
 #include <QGridLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
+#include <QVBoxLayout>
 
-using vexo::hox::qt::ui::VexoColors;
+using namespace vexo::hox::qt::ui;
 
 namespace {
 
@@ -46,10 +52,65 @@ void setLength(QSlider *slider)
         slider->setMinimumHeight(mmY(30));
 }
 
-QString readSheet()
+// On a dark ground, for its letters become white. It holds what fits without scrolling, since the
+// page scrolls.
+VexoVerticalButtonScrollArea *createJumpBar()
 {
-    QFile file(":/css/vexo-AAL.qs");
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    auto *bar = new VexoVerticalButtonScrollArea(
+        nullptr, VexoVerticalButtonScrollArea::VexoVerticalButtonScrollAreaType::None);
+    for (const char *letter : { "#", "A", "B" })
+        bar->addButton(letter);
+    setGround(bar, VexoColors::C5);
+    bar->setFixedHeight(5 * bar->width());
+    return bar;
+}
+
+QPushButton *createPlainButton(const QPushButton *original)
+{
+    auto *plain = new PlainPushButton<QPushButton>;
+    plain->setFixedSize(original->minimumSize());
+    plain->setText(original->text());
+    plain->setIcon(original->icon());
+    QObject::connect(original, &QPushButton::pressed, plain, [=] { plain->setDown(true); });
+    QObject::connect(original, &QPushButton::released, plain, [=] { plain->setDown(false); });
+    return plain;
+}
+
+QWidget *createPlainJumpBar(const QWidget *original)
+{
+    auto *bar = new QWidget;
+    bar->setAttribute(Qt::WA_TransparentForMouseEvents);
+    bar->setFixedSize(original->minimumSize());
+    auto *column = new QVBoxLayout(bar);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    for (const char *name : { "upButton", "letterButton", "downButton" }) {
+        const auto buttons = original->findChildren<QPushButton *>(name);
+        for (const QPushButton *button : buttons)
+            column->addWidget(createPlainButton(button));
+    }
+    return bar;
+}
+
+VexoLabeledContainer *createContainer()
+{
+    auto *field = new VexoLineEdit;
+    field->setObjectName("field");
+    field->setText("Front door");
+    auto *container = new VexoLabeledContainer(nullptr, field);
+    container->setLabelText("Name");
+    return container;
+}
+
+QString readSheets()
+{
+    QString text;
+    for (const char *name : { ":/css/vexo-AAL.qs", ":/css/hoxq.qs" }) {
+        QFile file(name);
+        if (file.open(QIODevice::ReadOnly))
+            text += QString::fromUtf8(file.readAll());
+    }
+    return text;
 }
 
 QString paragraph(const QString &selector, const QString &declarations)
@@ -66,7 +127,7 @@ QString rules(const QString &sheet, const QString &widget, const QString &state)
     const QStringList all = sheet.split('}', Qt::SkipEmptyParts);
     for (const QString &rule : all) {
         const QString selector = rule.section('{', 0, 0).trimmed();
-        if (selector.startsWith(widget + ':') && selector.endsWith(state))
+        if (selector.startsWith(widget) && selector.endsWith(state))
             found += paragraph(selector, rule.section('{', 1));
     }
     return found;
@@ -76,15 +137,18 @@ QString rules(const QString &sheet, const QString &widget, const QString &state)
 
 StylesheetPage::StylesheetPage()
     : Page("Stylesheets",
-        "The panel's stylesheets restyle stock widgets of the toolkit. At the left a widget as an "
+        "The panel's stylesheets restyle widgets of the toolkit and a few of the library. At the "
+        "left a widget as an "
         "application gets it; at the right, following it, the same widget without the sheets. "
         "The sheets give their sizes in pixels, so these differ from panel to panel.")
-    , m_sheet(readSheet())
+    , m_sheets(readSheets())
 {
     addCheckBox();
     addRadioButtons();
     addSlider(Qt::Horizontal);
     addSlider(Qt::Vertical);
+    addJumpBar();
+    addContainer();
 }
 
 void StylesheetPage::addCheckBox()
@@ -132,6 +196,29 @@ void StylesheetPage::addSlider(Qt::Orientation orientation)
     addRules("QSlider", is_horizontal ? ":horizontal" : ":vertical");
 }
 
+void StylesheetPage::addJumpBar()
+{
+    QGridLayout *comparison = addComparison("Jump bar");
+    VexoVerticalButtonScrollArea *bar = createJumpBar();
+    comparison->addWidget(bar, 1, 0, Qt::AlignLeft);
+    comparison->addWidget(createPlainJumpBar(bar), 1, 1, Qt::AlignLeft);
+    addBlock(createText("The letters are white and no button has a border: the application gives "
+                        "the bar a darker ground."));
+    addRules("vexo--hox--qt--ui--VexoVerticalButtonScrollArea");
+}
+
+void StylesheetPage::addContainer()
+{
+    QGridLayout *comparison = addComparison("Labeled container");
+    VexoLabeledContainer *plain = createContainer();
+    for (QWidget *widget : { static_cast<QWidget *>(plain), plain->findChild<QWidget *>("field") })
+        widget->setAttribute(Qt::WA_StyledBackground, false);
+    comparison->addWidget(createContainer(), 1, 0);
+    comparison->addWidget(plain, 1, 1);
+    addBlock(createText("It has its ground as long as its window is the active one."));
+    addRules("vexo--hox--qt--ui--VexoLabeledContainer");
+}
+
 QGridLayout *StylesheetPage::addComparison(const QString &heading)
 {
     addSection(heading);
@@ -148,7 +235,7 @@ QGridLayout *StylesheetPage::addComparison(const QString &heading)
 
 void StylesheetPage::addRules(const QString &widget, const QString &state)
 {
-    QLabel *text = createText(rules(m_sheet, widget, state));
+    QLabel *text = createText(rules(m_sheets, widget, state));
     const QString sheet = "QLabel { background: %1; }";
     text->setStyleSheet(sheet.arg(VexoColors::C1.name()));
     text->setMargin(mmX(2));

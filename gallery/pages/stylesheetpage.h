@@ -4,8 +4,8 @@
 
 class QGridLayout;
 
-/// Stock widgets that the panel's stylesheet changes, beside the same widgets without it, and the
-/// rules that do it.
+/// Widgets that the panel's stylesheets change, beside the same widgets without them, and the rules
+/// that do it.
 class StylesheetPage : public Page
 {
 public:
@@ -15,8 +15,10 @@ private:
     void addCheckBox();
     void addRadioButtons();
     void addSlider(Qt::Orientation orientation);
+    void addJumpBar();
+    void addContainer();
     QGridLayout *addComparison(const QString &heading);
     void addRules(const QString &widget, const QString &state = QString());
 
-    const QString m_sheet;
+    const QString m_sheets;
 };

@@ -9,7 +9,8 @@
 /// whatever style is set on it: a widget without it has to paint and measure itself by this one.
 const QStyle &plainStyle();
 
-/// \a Button, a check box or radio button, as it is without the application's stylesheet.
+/// \a Button, a check box, radio button or push button, as it is without the application's
+/// stylesheet.
 template <typename Button, QStyle::ControlElement element, QStyle::ContentsType contents>
 class PlainButton : public Button
 {
@@ -37,3 +38,5 @@ template <typename Button>
 using PlainCheckBox = PlainButton<Button, QStyle::CE_CheckBox, QStyle::CT_CheckBox>;
 template <typename Button>
 using PlainRadioButton = PlainButton<Button, QStyle::CE_RadioButton, QStyle::CT_RadioButton>;
+template <typename Button>
+using PlainPushButton = PlainButton<Button, QStyle::CE_PushButton, QStyle::CT_PushButton>;
