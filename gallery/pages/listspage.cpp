@@ -85,12 +85,17 @@ QIcon arrow(double degrees)
     return icon.toPixmap().transformed(QTransform().rotate(degrees));
 }
 
-// Of the panel's sheets the letters are white and have no border.
+// Of the panel's sheets the letters are white and have no border. Buttons that come later do not
+// inherit a font where there is a sheet.
 QString barSheet()
 {
-    const QString sheet = "QPushButton { background: %1; icon-size: %3px; }"
+    const QString sheet = "QPushButton { background: %1; icon-size: %3px; font-size: %4px; "
+                          "font-weight: %5; }"
                           "QPushButton:pressed { background: %2; }";
-    return sheet.arg(VexoColors::C4.name(), VexoColors::C3.name()).arg(mmX(6.6));
+    return sheet.arg(VexoColors::C4.name(), VexoColors::C3.name())
+        .arg(mmX(6.6))
+        .arg(ptFont(9).pixelSize())
+        .arg(8 * QFont::Medium); // what the toolkit makes of a weight in a sheet
 }
 
 } // namespace
@@ -139,6 +144,7 @@ QWidget *ListsPage::createList()
 {
     auto *content = new VexoVerticalScrollContent;
     setGround(content, VexoColors::C13); // seen between the rows
+    content->setObjectName("contacts");
     content->layout()->setSpacing(1);
     m_list->setStyleSheet(sliderSheet());
     m_list->setWidget(content);
@@ -163,7 +169,6 @@ QWidget *ListsPage::createFoot()
 void ListsPage::setUpBar()
 {
     setGround(m_bar, VexoColors::C4); // also below the last button
-    m_bar->setFont(ptFont(9, QFont::Medium));
     m_bar->setStyleSheet(barSheet());
     m_bar->setUpIcon(arrow(-90));
     m_bar->setDownIcon(arrow(90));

@@ -19,6 +19,12 @@ foreach(file measures page
 endforeach()
 hoxq_test(gallery/tst_screens.cpp ${screens} $<TARGET_OBJECTS:galleryresources>)
 target_include_directories(tst_screens PRIVATE ${PROJECT_SOURCE_DIR})
+foreach(file measures page pages/formpage pages/listspage
+    widgets/fingerscroll widgets/ground widgets/mmsheets widgets/tilelayout)
+  list(APPEND lists ${PROJECT_SOURCE_DIR}/gallery/${file}.cpp ${PROJECT_SOURCE_DIR}/gallery/${file}.h)
+endforeach()
+hoxq_test(gallery/tst_lists.cpp ${lists})
+target_include_directories(tst_lists PRIVATE ${PROJECT_SOURCE_DIR})
 
 hoxq_test(gallery/tst_gallery.cpp)
 add_dependencies(tst_gallery hoxqgallery)
