@@ -52,6 +52,25 @@ QChar letterOf(const QString &name)
     return name.at(0).isDigit() ? QChar('#') : name.at(0);
 }
 
+struct EntryKind
+{
+    VexoFunctionButton::VexoFunctionButtonType type;
+    QString remark;
+};
+
+// Of an entry, counted from the last slider.
+EntryKind kindOf(int index)
+{
+    switch (index) {
+    case 2:
+        return { VexoFunctionButton::CheckboxType, ": mute" };
+    case 5:
+        return { VexoFunctionButton::TickAgreementType, ": accept the call" };
+    default:
+        return { VexoFunctionButton::ActionType, "" };
+    }
+}
+
 QLabel *createIndentedText(const QString &text, double pt, int weight)
 {
     auto *label = new QLabel(text);
@@ -199,13 +218,9 @@ void ListsPage::addEntries(QLayout *entries)
 
 void ListsPage::addRow(QLayout *entries, int index, const QString &name)
 {
-    const bool is_muted = index == 2;
-    const bool is_invited = index == 5;
-    auto *row = new Row(nullptr,
-        is_muted         ? Row::CheckboxType
-            : is_invited ? Row::TickAgreementType
-                         : Row::ActionType);
-    row->setText(is_muted ? name + ": mute" : is_invited ? name + ": accept the call" : name);
+    const EntryKind kind = kindOf(index);
+    auto *row = new Row(nullptr, kind.type);
+    row->setText(name + kind.remark);
     connect(row, &Row::clicked, this, [this, row] { note(row->text()); });
     entries->addWidget(row);
     if (!m_first_rows.contains(letterOf(name)))

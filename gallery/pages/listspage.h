@@ -12,7 +12,7 @@ class QLayout;
 
 namespace vexo::hox::qt::ui {
 class VexoVerticalScrollArea;
-} // namespace vexo::hox::qt::ui
+}
 
 /// An address book of 300 rows that a finger flicks, also where it meets a slider, and beside it a
 /// bar whose letters jump to the first entry with that letter.
