@@ -2,8 +2,8 @@
 
 #include "gallery/pages/busyanimationpage.h"
 #include "gallery/pages/checkandradiopage.h"
-#include "gallery/pages/headlinespage.h"
 #include "gallery/pages/formpage.h"
+#include "gallery/pages/headlinespage.h"
 #include "gallery/pages/iconbuttonspage.h"
 #include "gallery/pages/icontilespage.h"
 #include "gallery/pages/imagespage.h"
@@ -65,12 +65,12 @@ const QVector<PageEntry> &pageList()
         { "pin", "PIN entry", build<PinPage> },
         { "login", "Login form", build<LoginPage> },
         { "sliders", "Sliders", build<SlidersPage> },
+        { "form", "Form", build<FormPage> },
+        { "lists", "Lists", build<ListsPage> },
         { "headlines", "Headlines", build<HeadlinesPage> },
         { "video", "Video", build<VideoPage> },
         { "busy-animation", "Busy animation", build<BusyAnimationPage> },
         { "update-window", "Update window", build<UpdateWindowPage> },
-        { "form", "Form", build<FormPage> },
-        { "lists", "Lists", build<ListsPage> },
         { "strings", "Strings", build<StringsPage> },
     };
     return pages;

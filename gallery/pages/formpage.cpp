@@ -28,7 +28,6 @@ VexoLabeledContainer *createContainer(const QString &caption, QWidget *payload)
 {
     auto *container = new VexoLabeledContainer(nullptr, payload);
     container->setLabelText(caption);
-    payload->setAccessibleName(caption);
     return container;
 }
 
