@@ -1,3 +1,4 @@
+#include "gallery/expose.h"
 #include "gallery/keys.h"
 #include "gallery/pages/loginpage.h"
 #include "gallery/pages/pinpage.h"
@@ -35,14 +36,6 @@ VexoLineEdit *fieldOf(const QWidget &page, const char *name)
 QString textOf(const QWidget &page, const char *name)
 {
     return page.findChild<QLabel *>(QLatin1String(name))->text();
-}
-
-void expose(Page *page)
-{
-    page->layout()->setSizeConstraint(QLayout::SetNoConstraint);
-    page->resize(800, 480);
-    page->show();
-    QVERIFY(QTest::qWaitForWindowExposed(page));
 }
 
 QImage pictureOf(VexoLineEdit *field)

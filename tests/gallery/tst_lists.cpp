@@ -1,3 +1,4 @@
+#include "gallery/expose.h"
 #include "gallery/pages/formpage.h"
 #include "gallery/pages/listspage.h"
 #include "support/testcase.h"
@@ -8,7 +9,6 @@
 #include <VexoRadioButton>
 
 #include <QApplication>
-#include <QLayout>
 #include <QPushButton>
 #include <QTest>
 
@@ -35,14 +35,6 @@ Button *buttonOf(const QWidget &page, const QString &text)
         if (button->text() == text)
             return button;
     return nullptr;
-}
-
-void expose(QWidget *page)
-{
-    page->layout()->setSizeConstraint(QLayout::SetNoConstraint);
-    page->resize(600, 400);
-    page->show();
-    QVERIFY(QTest::qWaitForWindowExposed(page));
 }
 
 // Of what is seen of the list.

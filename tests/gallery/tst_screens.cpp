@@ -1,3 +1,4 @@
+#include "gallery/expose.h"
 #include "gallery/pages/busyanimationpage.h"
 #include "gallery/pages/headlinespage.h"
 #include "gallery/pages/updatewindowpage.h"
@@ -37,14 +38,6 @@ private:
 };
 
 namespace {
-
-void expose(QWidget *page)
-{
-    page->layout()->setSizeConstraint(QLayout::SetNoConstraint);
-    page->resize(1000, 500);
-    page->show();
-    QVERIFY(QTest::qWaitForWindowExposed(page));
-}
 
 // Until a press is none within 250 ms of the construction, which would be a tap.
 void exposeVideo(VideoPage *page)
