@@ -4,8 +4,11 @@
 #include <QImage>
 #include <QPainter>
 #include <QResizeEvent>
+#include <QTextDocument>
+#include <QTextLayout>
 
 #include <algorithm>
+#include <cmath>
 
 namespace vexo::hox::qt::ui {
 
@@ -36,6 +39,12 @@ QRect inkedArea(const QImage &image, QRgb ground)
     return QRect(QPoint(left, top), QPoint(right, bottom));
 }
 
+bool breaksOnlyBetweenWords(QChar letter)
+{
+    return letter >= QLatin1Char(' ') && letter != QChar::SoftHyphen
+        && letter != QChar::LineSeparator && letter != QChar::ParagraphSeparator;
+}
+
 } // namespace
 
 bool RowLabel::Look::operator==(const Look &other) const
@@ -52,10 +61,28 @@ RowLabel::RowLabel(QWidget *parent)
 
 QSize RowLabel::sizeHint() const
 {
-    QSize hint = QLabel::sizeHint();
+    ensurePolished();
+    QSize hint
+        = isHintedAsLine() ? QSize(line().width, line().height) + aroundText() : QLabel::sizeHint();
     if (m_is_laid_out && hasHeightForWidth())
         hint.setHeight(heightForWidth(width()));
     return hint;
+}
+
+QSize RowLabel::minimumSizeHint() const
+{
+    ensurePolished();
+    return isHintedAsLine() ? QSize(line().longest_word, line().height) + aroundText()
+                            : QLabel::minimumSizeHint();
+}
+
+int RowLabel::heightForWidth(int width_px) const
+{
+    if (!isPlain())
+        return QLabel::heightForWidth(width_px);
+    const int reach_px = line().height; // more than a letter reaches beyond its place
+    const bool fits = line().width + reach_px <= width_px - aroundText().width();
+    return fits ? line().height + aroundText().height() : QLabel::heightForWidth(width_px);
 }
 
 QColor RowLabel::ink() const
@@ -138,6 +165,52 @@ RowLabel::Look RowLabel::lookOfNow(const QColor &ground) const
     look.ink = ink();
     look.ground = ground;
     return look;
+}
+
+// The toolkit lays a text out a dozen times before it knows the size of a row. For most texts one
+// line tells all of it.
+bool RowLabel::isPlain() const
+{
+    const QString text = this->text();
+    const bool is_rich = textFormat() != Qt::PlainText
+        && (textFormat() != Qt::AutoText || Qt::mightBeRichText(text));
+    return !is_rich && !text.isEmpty() && wordWrap() && minimumSize().isNull() && frameWidth() == 0
+        && alignment() == (Qt::AlignLeft | Qt::AlignVCenter) && !isRightToLeft()
+        && std::all_of(text.begin(), text.end(), breaksOnlyBetweenWords);
+}
+
+const RowLabel::Line &RowLabel::line() const
+{
+    if (m_line.text == text() && m_line.font == font())
+        return m_line;
+    const int endless_px = 1 << 24;
+    QTextLayout layout(text(), font());
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(endless_px);
+    layout.endLayout();
+    m_line
+        = { text(), font(), int(std::ceil(line.naturalTextWidth())), int(std::ceil(line.height())),
+              int(std::ceil(layout.minimumWidth())), fontMetrics().averageCharWidth() };
+    return m_line;
+}
+
+// Margins and indent, px.
+QSize RowLabel::aroundText() const
+{
+    const QMargins margins = contentsMargins();
+    return QSize(margins.left() + margins.right() + 2 * margin() + qMax(0, indent()),
+        margins.top() + margins.bottom() + 2 * margin());
+}
+
+// A longer text is wrapped in the hint, which the toolkit makes no wider than 80 letters and not
+// much wider than high.
+bool RowLabel::isHintedAsLine() const
+{
+    if (!isPlain())
+        return false;
+    const int widest_px = qMin(line().average_letter * 80, maximumWidth()) - aroundText().width();
+    return line().width <= widest_px / 4;
 }
 
 Print RowLabel::print(const QColor &ground)

@@ -19,6 +19,8 @@ public:
     /// As high as the text is in the width that the layout gave. The toolkit asks for the height of
     /// some width of its own, and the row would cut what is wrapped in a narrower one.
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    int heightForWidth(int width_px) const override;
     QColor ink() const;
     /// Replaces the label's palette by the application's with this text colour.
     void setInk(const QColor &ink);
@@ -45,10 +47,26 @@ private:
 
         bool operator==(const Look &other) const;
     };
+    // A text on one line, px.
+    struct Line
+    {
+        QString text;
+        QFont font;
+        int width = 0;
+        int height = 0;
+        int longest_word = 0;
+        int average_letter = 0;
+    };
+
     Look lookOfNow(const QColor &ground) const;
     Print print(const QColor &ground);
+    bool isPlain() const;
+    const Line &line() const;
+    QSize aroundText() const;
+    bool isHintedAsLine() const;
 
     bool m_is_laid_out = false;
+    mutable Line m_line; // of the text that was measured last
     PrintPair<Look> m_prints;
     Print m_shown; // for the paint to come; null to paint as any label
     bool m_is_printing = false;
