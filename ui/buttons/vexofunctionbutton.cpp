@@ -47,6 +47,15 @@ public:
     using QLabel::QLabel;
 
 protected:
+    // With a fixed size a change of the arrow does not lay out the screen anew.
+    bool event(QEvent *event) override
+    {
+        const bool is_handled = QLabel::event(event);
+        if (event->type() == QEvent::Polish)
+            setFixedSize(sizeHint());
+        return is_handled;
+    }
+
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
@@ -54,6 +63,19 @@ protected:
         const QPixmap arrow = pixmap(Qt::ReturnByValue);
         if (!arrow.isNull())
             style()->drawItemPixmap(&painter, contentsRect(), int(alignment()), arrow);
+    }
+};
+
+// The height of a row is fixed, so no screen need know how high its text would be in some width: to
+// ask all rows of a long list takes as long as to build them.
+class RowLayout : public QHBoxLayout
+{
+public:
+    bool hasHeightForWidth() const override
+    {
+        const QWidget *row = parentWidget();
+        return (!row || row->minimumHeight() != row->maximumHeight())
+            && QHBoxLayout::hasHeightForWidth();
     }
 };
 
@@ -76,7 +98,7 @@ VexoFunctionButton::VexoFunctionButton(QWidget *parent, const VexoFunctionButton
     , VexoLogging("FB")
     , m_scaling(ScalingInfo::inst())
     , m_tone_delegator(VexoFeedbackDelegator::tone_delegator)
-    , m_layout(new QHBoxLayout)
+    , m_layout(new RowLayout)
     , m_label(new RowLabel(this))
     , m_visible_buddies(std::make_unique<VisibleBuddies>())
     , m_guard(std::make_unique<SwipeGuard>(10))
@@ -283,6 +305,16 @@ void VexoFunctionButton::nextCheckState()
         toggleRightButton();
 }
 
+// Styles think that they draw a button, and that its ground is seen through.
+bool VexoFunctionButton::event(QEvent *event)
+{
+    const bool is_styled = event->type() == QEvent::Polish || event->type() == QEvent::StyleChange;
+    const bool is_handled = QToolButton::event(event);
+    if (is_styled)
+        skipWhatIsCovered();
+    return is_handled;
+}
+
 void VexoFunctionButton::changeEvent(QEvent *event)
 {
     QToolButton::changeEvent(event);
@@ -357,8 +389,6 @@ QWidget *VexoFunctionButton::createArrow()
     m_inactive_shown = false;
     auto *label = new ArrowLabel(this);
     label->setPixmap(m_arrow_normal);
-    // With a fixed size a change of the arrow does not lay out the screen anew.
-    label->setFixedSize(label->sizeHint());
     return label;
 }
 

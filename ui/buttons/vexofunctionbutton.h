@@ -137,6 +137,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void checkStateSet() override;
     void nextCheckState() override;
+    bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 

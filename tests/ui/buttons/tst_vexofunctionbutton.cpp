@@ -76,6 +76,8 @@ private Q_SLOTS:
     void endedPressDoesNotClick();
     void scrollerTakesAPressBack();
     void textIsWrappedInItsRow();
+    void textIsMeasuredLikeAnyLabel_data();
+    void textIsMeasuredLikeAnyLabel();
     void isOneAccessibleObject();
 
 private:
@@ -182,6 +184,8 @@ void TestVexoFunctionButton::eachPartIsPaintedOncePerChange()
     QCOMPARE(painted(), QVector<int>(3, 1));
     finger(&row, QEvent::MouseButtonRelease, INSIDE);
     QCOMPARE(painted(), QVector<int>(3, 1));
+    row.clearFocus(); // a change of its own
+    painted();
     row.setEnabled(false);
     QCOMPARE(painted(), (QVector<int>{ 1, 2, 1 })); // the text also for its new look
     row.hide();
@@ -327,6 +331,47 @@ void TestVexoFunctionButton::textIsWrappedInItsRow()
     const int line = row.getLabelInstance()->height();
     row.resize(800, row.height());
     QTRY_VERIFY(row.getLabelInstance()->height() >= 2 * line);
+}
+
+void TestVexoFunctionButton::textIsMeasuredLikeAnyLabel_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("word") << QStringLiteral("Language");
+    QTest::newRow("words") << QStringLiteral("Wi-Fi  is on ");
+    QTest::newRow("half a hint") << QString(12, QLatin1Char('M')) + QString(12, QLatin1Char(' '));
+    QTest::newRow("wrapped") << QStringLiteral("MMMMMM ").repeated(20);
+    QTest::newRow("lines") << QStringLiteral("one\ntwo");
+    QTest::newRow("tab") << QStringLiteral("one\ttwo");
+    QTest::newRow("rich") << QStringLiteral("<b>one</b> two");
+    QTest::newRow("soft hyphen") << QStringLiteral("long%1word").arg(QChar(QChar::SoftHyphen));
+    QTest::newRow("from right to left") << QString(QChar(0x5d0)).repeated(5);
+}
+
+void TestVexoFunctionButton::textIsMeasuredLikeAnyLabel()
+{
+    QFETCH(QString, text);
+    LoudRow row(Row::ActionType);
+    row.setText(text);
+    QLabel *label = row.getLabelInstance();
+    QLabel any(text);
+    any.setWordWrap(true);
+    any.setIndent(label->indent());
+    const auto compare = [&] {
+        any.setFont(label->font());
+        QCOMPARE(label->sizeHint(), any.sizeHint());
+        QCOMPARE(label->minimumSizeHint(), any.minimumSizeHint());
+        for (int px : { 0, 50, 100, 150, 200, 250, 300, 400, 1000, 9999 })
+            QCOMPARE(label->heightForWidth(px), any.heightForWidth(px));
+    };
+    compare();
+    for (QLabel *changed : { label, &any }) {
+        changed->setMargin(7);
+        changed->setContentsMargins(1, 2, 3, 4);
+        changed->setMaximumWidth(300);
+    }
+    compare();
+    row.setTextFontsizeInPt(3);
+    compare();
 }
 
 void TestVexoFunctionButton::isOneAccessibleObject()
