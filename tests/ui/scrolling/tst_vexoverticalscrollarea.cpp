@@ -1,3 +1,4 @@
+#include "support/paintcounter.h"
 #include "support/panelscale.h"
 #include "support/testcase.h"
 
@@ -112,6 +113,8 @@ private Q_SLOTS:
     void rowMayDeleteItself();
     void scrollBarIsOptional();
     void rowsLieTight();
+    void scrollMovesWhatIsSeen_data();
+    void scrollMovesWhatIsSeen();
 };
 
 void TestVexoVerticalScrollArea::tellsATapFromAScroll_data()
@@ -259,6 +262,47 @@ void TestVexoVerticalScrollArea::rowsLieTight()
     QCOMPARE(second(), QRect(0, 20, 60, 20));
     content.centered();
     QCOMPARE(second(), QRect(70, 20, 60, 20));
+}
+
+void TestVexoVerticalScrollArea::scrollMovesWhatIsSeen_data()
+{
+    QTest::addColumn<int>("alpha");
+    QTest::addColumn<bool>("has_gap");
+    QTest::addColumn<int>("paints"); // of a row that stays in sight
+    QTest::newRow("rows only") << 255 << false << 0;
+    QTest::newRow("something shines through") << 254 << false << 1;
+    QTest::newRow("something between") << 255 << true << 1;
+}
+
+void TestVexoVerticalScrollArea::scrollMovesWhatIsSeen()
+{
+    QFETCH(int, alpha);
+    QFETCH(bool, has_gap);
+    VexoVerticalScrollArea area;
+    auto *content = new VexoVerticalScrollContent;
+    QVector<VexoFunctionButton *> rows;
+    for (int i = 0; i < 40; ++i) {
+        rows += new VexoFunctionButton;
+        content->layout()->addWidget(rows.last());
+    }
+    content->layout()->setSpacing(has_gap ? 1 : 0);
+    area.setWidget(content);
+    content->setAutoFillBackground(false); // the panel's sheet makes its ground transparent
+    area.resize(400, 300);
+    area.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&area));
+    QColor ground = rows[2]->backgroundColor();
+    ground.setAlpha(alpha);
+    rows[2]->setBackgroundColor(ground);
+    PaintCounter paints;
+    paints.watch(rows[4]);
+    paints.watch(rows[30]);
+    paints.take(rows[4]);
+    area.verticalScrollBar()->setValue(10);
+    QTEST(paints.take(rows[4]), "paints");
+    area.verticalScrollBar()->setValue(rows[30]->y());
+    QCOMPARE(paints.take(rows[30]), 1); // comes into sight
+    QVERIFY(!content->testAttribute(Qt::WA_OpaquePaintEvent)); // which it is not
 }
 
 QTEST_MAIN(TestVexoVerticalScrollArea)
