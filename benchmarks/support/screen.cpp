@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QFile>
+#include <QImage>
 #include <QMouseEvent>
 #include <QTimer>
 #include <QWidget>
@@ -142,7 +143,12 @@ bool savePicture(QWidget *window, const char *file)
 
 Action fullRepaint(QWidget *window)
 {
-    return { "repaint", [window] { window->repaint(); } };
+    // repaint() would leave out what opaque children cover, and them.
+    return { "repaint", [window, image = QImage()]() mutable {
+                if (image.isNull())
+                    image = QImage(window->size(), QImage::Format_RGB32);
+                window->render(&image);
+            } };
 }
 
 Action pressAndRelease(const std::vector<QWidget *> &buttons)
