@@ -13,7 +13,9 @@ void setUpPanel()
     ScalingInfo::inst()->setPixels(1280, 800);
     ScalingInfo::inst()->setSizeMM(128, 80); // 10 px/mm
     FontLoader();
+#ifndef HOXQ_BENCHMARK_WITHOUT_SHEETS
     VexoStylesheet(QStringList{ ":/css/vexo-AAL.qs", ":/css/hoxq.qs" });
+#endif
 }
 
 } // namespace bench
