@@ -174,7 +174,9 @@ bool RowLabel::isPlain() const
     const QString text = this->text();
     const bool is_rich = textFormat() != Qt::PlainText
         && (textFormat() != Qt::AutoText || Qt::mightBeRichText(text));
-    return !is_rich && !text.isEmpty() && wordWrap() && minimumSize().isNull() && frameWidth() == 0
+    const auto selectable = Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard;
+    return !is_rich && !(textInteractionFlags() & selectable) && !text.isEmpty() && wordWrap()
+        && minimumSize().isNull() && frameWidth() == 0
         && alignment() == (Qt::AlignLeft | Qt::AlignVCenter) && !isRightToLeft()
         && std::all_of(text.begin(), text.end(), breaksOnlyBetweenWords);
 }

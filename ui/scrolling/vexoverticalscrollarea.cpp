@@ -21,7 +21,8 @@ bool isCovered(const QWidget &content, const QRect &area)
             continue;
         const auto *row = static_cast<const QWidget *>(child);
         if (row->geometry().intersects(area) && row->isVisible()
-            && row->testAttribute(Qt::WA_OpaquePaintEvent) && row->mask().isEmpty())
+            && row->testAttribute(Qt::WA_OpaquePaintEvent) && row->mask().isEmpty()
+            && !row->graphicsEffect())
             bare -= row->geometry();
     }
     return bare.isEmpty();
