@@ -1,6 +1,5 @@
 #include "benchmarks/support/screen.h"
 
-#include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QTimer>
@@ -86,15 +85,6 @@ Action repaintBetween(const QWidget *first, const QWidget *last)
 {
     return { "repaint",
         [=] { first->parentWidget()->repaint(first->geometry() | last->geometry()); } };
-}
-
-// The timer never runs, so that nothing repaints between the ticks.
-Action tick(QTimer *timer)
-{
-    return { "tick", [timer] {
-                QMetaObject::invokeMethod(timer, "timeout");
-                QCoreApplication::processEvents();
-            } };
 }
 
 } // namespace

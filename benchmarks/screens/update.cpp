@@ -1,6 +1,5 @@
 #include "benchmarks/support/screen.h"
 
-#include <QCoreApplication>
 #include <QLabel>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -86,15 +85,6 @@ QTimer *animate(QLabel *label)
 }
 
 #endif
-
-// The timer never runs, so that nothing repaints between the ticks.
-Action tick(QTimer *timer)
-{
-    return { "tick", [timer] {
-                QMetaObject::invokeMethod(timer, "timeout");
-                QCoreApplication::processEvents();
-            } };
-}
 
 } // namespace
 

@@ -151,6 +151,14 @@ Action fullRepaint(QWidget *window)
             } };
 }
 
+Action tick(QTimer *timer)
+{
+    return { "tick", [timer] {
+                QMetaObject::invokeMethod(timer, "timeout");
+                QCoreApplication::processEvents();
+            } };
+}
+
 Action pressAndRelease(const std::vector<QWidget *> &buttons)
 {
     return { "tap", [buttons, next = std::size_t(0)]() mutable {

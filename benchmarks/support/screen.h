@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+class QTimer;
 class QWidget;
 
 namespace bench {
@@ -39,6 +40,8 @@ void setUpPanel();
 
 /// Paints the whole window.
 Action fullRepaint(QWidget *window);
+/// One timeout of \a timer, which never runs itself, so that nothing repaints between the ticks.
+Action tick(QTimer *timer);
 /// Taps the next of \a buttons at each run, for well below the time of a long press.
 Action pressAndRelease(const std::vector<QWidget *> &buttons);
 
