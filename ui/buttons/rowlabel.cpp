@@ -1,42 +1,51 @@
 #include "ui/buttons/rowlabel_p.h"
 
 #include <QEvent>
-#include <QImage>
 #include <QPainter>
 #include <QResizeEvent>
+#include <QStyle>
+#include <QStyleOption>
 #include <QTextDocument>
 #include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
+#include <vector>
 
 namespace vexo::hox::qt::ui {
 
 namespace {
 
-// The smallest rectangle around all pixels that are not \a ground.
+bool isBlank(const QRgb *pixels, int count, const std::vector<QRgb> &ground)
+{
+    return std::memcmp(pixels, ground.data(), size_t(count) * sizeof(QRgb)) == 0;
+}
+
+// The smallest rectangle around all pixels that are not \a ground. Few are, so what was found in
+// the lines above spares to look at most of them one by one.
 QRect inkedArea(const QImage &image, QRgb ground)
 {
-    int left = image.width();
-    int right = -1;
+    const int width = image.width();
+    const std::vector<QRgb> blank(size_t(width), ground);
+    int left = width;
+    int end = 0;
     int top = -1;
     int bottom = -1;
-    const auto is_ink = [ground](QRgb pixel) { return pixel != ground; };
     for (int y = 0; y < image.height(); ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        const auto *end = line + image.width();
-        const auto *first = std::find_if(line, end, is_ink);
-        if (first == end)
+        if (isBlank(line, width, blank))
             continue;
-        const auto *last = end - 1;
-        while (*last == ground)
-            --last;
-        left = qMin(left, int(first - line));
-        right = qMax(right, int(last - line));
+        left = int(std::mismatch(line, line + left, blank.begin()).first - line);
+        if (!isBlank(line + end, width - end, blank)) {
+            end = width;
+            while (line[end - 1] == ground)
+                --end;
+        }
         top = top < 0 ? y : top;
         bottom = y;
     }
-    return QRect(QPoint(left, top), QPoint(right, bottom));
+    return QRect(QPoint(left, top), QPoint(end - 1, bottom));
 }
 
 bool breaksOnlyBetweenWords(QChar letter)
@@ -102,7 +111,8 @@ void RowLabel::setInk(const QColor &ink)
 void RowLabel::prepare(const QColor &ground)
 {
     m_shown = Print();
-    const bool is_text = !text().isEmpty() && !(textInteractionFlags() & Qt::TextSelectableByMouse);
+    const bool is_text = !text().isEmpty() && !(textInteractionFlags() & Qt::TextSelectableByMouse)
+        && !autoFillBackground();
     if (is_text && ground.alpha() == 255 && devicePixelRatioF() == 1 && !size().isEmpty())
         m_shown = m_prints.get(lookOfNow(ground), [&] { return print(ground); });
 }
@@ -131,12 +141,18 @@ bool RowLabel::event(QEvent *event)
     default:
         break;
     }
-    return QLabel::event(event);
+    const bool is_accepted = QLabel::event(event);
+    if (testAttribute(Qt::WA_StyledBackground)) { // from now on drawGround() does it
+        m_has_styled_ground = true;
+        setAttribute(Qt::WA_StyledBackground, false);
+    }
+    return is_accepted;
 }
 
 void RowLabel::paintEvent(QPaintEvent *event)
 {
-    if (m_is_printing || m_shown.pixmap.isNull()) {
+    if (m_shown.pixmap.isNull()) {
+        drawStyledGround();
         QLabel::paintEvent(event);
         return;
     }
@@ -151,6 +167,14 @@ void RowLabel::resizeEvent(QResizeEvent *event)
     m_is_laid_out = true;
     if (sizeHint().height() != event->size().height())
         updateGeometry(); // the layout asked for the height before it gave the width
+}
+
+QPaintDevice *RowLabel::redirected(QPoint *offset) const
+{
+    if (!m_print_image)
+        return QLabel::redirected(offset);
+    *offset = QPoint();
+    return m_print_image;
 }
 
 RowLabel::Look RowLabel::lookOfNow(const QColor &ground) const
@@ -215,15 +239,29 @@ bool RowLabel::isHintedAsLine() const
     return line().width <= widest_px / 4;
 }
 
+// render() would do, but walks through all widgets of the window first.
 Print RowLabel::print(const QColor &ground)
 {
     QImage image(size(), QImage::Format_RGB32);
     image.fill(ground);
-    m_is_printing = true;
-    render(&image, QPoint(), QRegion(), RenderFlags());
-    m_is_printing = false;
+    m_print_image = &image;
+    drawStyledGround();
+    QPaintEvent event(rect());
+    QLabel::paintEvent(&event);
+    m_print_image = nullptr;
     const QRect inked = inkedArea(image, ground.rgb());
     return { QPixmap::fromImage(image.copy(inked)), inked.topLeft() };
+}
+
+// The toolkit would do it before each paint, with a painter of its own. A print has it.
+void RowLabel::drawStyledGround()
+{
+    if (!m_has_styled_ground)
+        return;
+    QPainter painter(this);
+    QStyleOption option;
+    option.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
 }
 
 } // namespace vexo::hox::qt::ui

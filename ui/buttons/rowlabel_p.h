@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QImage>
 #include <QLabel>
 
 namespace vexo::hox::qt::ui {
@@ -31,6 +32,7 @@ protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    QPaintDevice *redirected(QPoint *offset) const override;
 
 private:
     // Everything that can change without an event.
@@ -60,6 +62,7 @@ private:
 
     Look lookOfNow(const QColor &ground) const;
     Print print(const QColor &ground);
+    void drawStyledGround();
     bool isPlain() const;
     const Line &line() const;
     QSize aroundText() const;
@@ -69,7 +72,8 @@ private:
     mutable Line m_line; // of the text that was measured last
     PrintPair<Look> m_prints;
     Print m_shown; // for the paint to come; null to paint as any label
-    bool m_is_printing = false;
+    QImage *m_print_image = nullptr; // while it is drawn
+    bool m_has_styled_ground = false;
     bool m_is_inking = false;
 };
 

@@ -79,11 +79,26 @@ public:
     }
 };
 
-// For changes in a paint of \a painted: a child that lies in it is painted right afterwards anyway.
+// What the widgets around \a row leave of it: a list shows its first and last row in part.
+QRect shownPart(const QWidget &row)
+{
+    QRect shown = row.rect();
+    QPoint position;
+    for (const QWidget *widget = &row; !widget->isWindow(); widget = widget->parentWidget()) {
+        position += widget->pos();
+        shown &= widget->parentWidget()->rect().translated(-position);
+    }
+    return shown;
+}
+
+// For changes in a paint of \a painted: a child of the row of which no more is shown is painted
+// right afterwards anyway.
 template <typename Change>
 void changeChild(QWidget *child, const QRegion &painted, Change change)
 {
-    if (painted.rectCount() == 1 && painted.boundingRect().contains(child->geometry()))
+    const QRect shown = child->geometry() & shownPart(*child->parentWidget());
+    const bool is_painted = painted.rectCount() == 1 && painted.boundingRect().contains(shown);
+    if (shown.isEmpty() || is_painted)
         quietly(child, change);
     else
         change();
@@ -468,7 +483,8 @@ void VexoFunctionButton::change(QColor *color, const QColor &to)
 void VexoFunctionButton::skipWhatIsCovered()
 {
     setAttribute(Qt::WA_OpaquePaintEvent,
-        m_background_color.alpha() == 255 && m_background_clicked_color.alpha() == 255);
+        m_is_seen && m_background_color.alpha() == 255
+            && m_background_clicked_color.alpha() == 255);
 }
 
 void VexoFunctionButton::applyLook(const QRegion &painted)

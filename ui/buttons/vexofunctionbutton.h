@@ -16,6 +16,7 @@ class QSpacerItem;
 
 namespace vexo::hox::qt::ui {
 
+class OpaqueRows;
 class RowLabel;
 class ScalingInfo;
 class SwipeGuard;
@@ -145,6 +146,8 @@ private Q_SLOTS:
     void tickAgreementClicked();
 
 private:
+    friend class OpaqueRows; // calls setSeen()
+
     void tellChecked();
     void setupLabel();
     void setupRightWidget();
@@ -159,6 +162,13 @@ private:
     void endPress();
     void change(QColor *color, const QColor &to);
     void skipWhatIsCovered();
+    void setSeen(bool is_seen)
+    {
+        if (m_is_seen == is_seen)
+            return;
+        m_is_seen = is_seen;
+        skipWhatIsCovered();
+    }
     void applyLook(const QRegion &painted);
     void applyArrowLook(const QRegion &painted);
     void applyTextColor(const QColor &color, const QRegion &painted);
@@ -175,6 +185,7 @@ private:
     QPixmap m_arrow_pressed;
     QPixmap m_arrow_inactive;
     const std::unique_ptr<SwipeGuard> m_guard;
+    bool m_is_seen = true; // false while a list scrolls and shows other rows
     bool m_last_checked = false;
     bool m_inactive_shown = false;
     bool m_last_down = false;

@@ -10,26 +10,6 @@
 
 namespace vexo::hox::qt::ui {
 
-namespace {
-
-// Whether opaque children hide all of \a area, in coordinates of \a content.
-bool isCovered(const QWidget &content, const QRect &area)
-{
-    QRegion bare(area);
-    for (const QObject *child : content.children()) {
-        if (!child->isWidgetType())
-            continue;
-        const auto *row = static_cast<const QWidget *>(child);
-        if (row->geometry().intersects(area) && row->isVisible()
-            && row->testAttribute(Qt::WA_OpaquePaintEvent) && row->mask().isEmpty()
-            && !row->graphicsEffect())
-            bare -= row->geometry();
-    }
-    return bare.isEmpty();
-}
-
-} // namespace
-
 VexoVerticalScrollArea::VexoVerticalScrollArea(QWidget *parent, bool scroll_bar_enabled)
     : QScrollArea(parent)
     , m_scroller(QScroller::scroller(this))
@@ -90,18 +70,9 @@ void VexoVerticalScrollArea::release(QMouseEvent *event)
     hand(QScroller::InputRelease, event);
 }
 
-// The toolkit moves the pixels of an opaque widget, and draws any other anew. The content has no
-// ground of its own, but between rows without gaps none is seen.
 void VexoVerticalScrollArea::scrollContentsBy(int dx, int dy)
 {
-    QWidget *content = widget();
-    const bool is_covered = content && !content->testAttribute(Qt::WA_OpaquePaintEvent)
-        && isCovered(*content, QRect(-content->pos(), viewport()->size()) & content->rect());
-    if (is_covered)
-        content->setAttribute(Qt::WA_OpaquePaintEvent, true);
     QScrollArea::scrollContentsBy(dx, dy);
-    if (is_covered && widget() == content)
-        content->setAttribute(Qt::WA_OpaquePaintEvent, false);
 }
 
 // Seconds, metres, metres per second.

@@ -1,6 +1,7 @@
 #include "ui/scrolling/vexoverticalscrollcontent.h"
 
 #include "ui/foundation/tightlayout_p.h"
+#include "ui/scrolling/opaquerows_p.h"
 
 #include <QVBoxLayout>
 
@@ -17,6 +18,7 @@ VexoVerticalScrollContent::VexoVerticalScrollContent(QWidget *parent)
     column->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     column->setSizeConstraint(QLayout::SetMinimumSize);
     setLayout(column);
+    new OpaqueRows(this);
 }
 
 void VexoVerticalScrollContent::centered()

@@ -78,6 +78,8 @@ private Q_SLOTS:
     void textIsWrappedInItsRow();
     void textIsMeasuredLikeAnyLabel_data();
     void textIsMeasuredLikeAnyLabel();
+    void textIsDrawnLikeAnyLabel_data();
+    void textIsDrawnLikeAnyLabel();
     void isOneAccessibleObject();
 
 private:
@@ -187,7 +189,7 @@ void TestVexoFunctionButton::eachPartIsPaintedOncePerChange()
     row.clearFocus(); // a change of its own
     painted();
     row.setEnabled(false);
-    QCOMPARE(painted(), (QVector<int>{ 1, 2, 1 })); // the text also for its new look
+    QCOMPARE(painted(), QVector<int>(3, 1));
     row.hide();
     QCOMPARE(propertiesWithoutOneRepaint(&row),
         (QByteArrayList{ "m_button_type", // the new part shows a round later
@@ -372,6 +374,41 @@ void TestVexoFunctionButton::textIsMeasuredLikeAnyLabel()
     compare();
     row.setTextFontsizeInPt(3);
     compare();
+}
+
+void TestVexoFunctionButton::textIsDrawnLikeAnyLabel_data()
+{
+    QTest::addColumn<QString>("sheet");
+    QTest::addColumn<QColor>("seen");
+    QTest::newRow("no sheet") << QString() << QColor(Qt::blue);
+    QTest::newRow("ground") << QStringLiteral("QLabel { background: red }") << QColor(Qt::red);
+    QTest::newRow("border") << QStringLiteral("QLabel { border: 2px solid red }")
+                            << QColor(Qt::red);
+}
+
+void TestVexoFunctionButton::textIsDrawnLikeAnyLabel()
+{
+    QFETCH(QString, sheet);
+    QFETCH(QColor, seen);
+    QWidget window;
+    window.setStyleSheet(sheet);
+    LoudRow row(Row::ActionType, &window);
+    QLabel *label = row.getLabelInstance();
+    QLabel any(label->text(), &window);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    any.setForegroundRole(label->foregroundRole());
+    any.setPalette(label->palette());
+    any.setFont(label->font());
+    any.setIndent(label->indent());
+    any.setWordWrap(true);
+    any.resize(label->size());
+    QImage image(any.size(), QImage::Format_RGB32);
+    image.fill(row.backgroundColor());
+    any.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+    QVERIFY(!boxOf(image, seen).isEmpty());
+    for (int i = 0; i < 2; ++i) // drawn, copied
+        QCOMPARE(row.grab(label->geometry()).toImage().convertToFormat(image.format()), image);
 }
 
 void TestVexoFunctionButton::isOneAccessibleObject()

@@ -12,6 +12,8 @@
 #include <QTest>
 #include <QWindow>
 
+#include <algorithm>
+#include <functional>
 #include <memory>
 
 using namespace vexo::hox::qt::ui;
@@ -67,6 +69,51 @@ struct List : QWidget
     int slides = 0;
 };
 
+/// 40 opaque rows on a content without a ground, as the panel's sheet leaves it.
+struct RowList
+{
+    RowList()
+    {
+        for (int i = 0; i < 40; ++i) {
+            rows += new VexoFunctionButton;
+            content->layout()->addWidget(rows.last());
+        }
+        area.setWidget(content);
+        content->setAutoFillBackground(false);
+        area.resize(400, 300);
+        area.show();
+        static_cast<void>(QTest::qWaitForWindowExposed(&area));
+    }
+
+    void makeTranslucent(int row, int alpha)
+    {
+        QColor ground = rows[row]->backgroundColor();
+        ground.setAlpha(alpha);
+        rows[row]->setBackgroundColor(ground);
+    }
+
+    // Two steps: the first one may still lay out.
+    void startScroll()
+    {
+        for (const int to : { 5, 10 }) {
+            scroll(to);
+            QCoreApplication::processEvents();
+        }
+    }
+
+    void scroll(int to) { area.verticalScrollBar()->setValue(to); }
+    bool isContentOpaque() const { return content->testAttribute(Qt::WA_OpaquePaintEvent); }
+    int opaqueRows() const
+    {
+        return int(std::count_if(rows.begin(), rows.end(),
+            [](const QWidget *row) { return row->testAttribute(Qt::WA_OpaquePaintEvent); }));
+    }
+
+    VexoVerticalScrollArea area;
+    VexoVerticalScrollContent *const content = new VexoVerticalScrollContent;
+    QVector<VexoFunctionButton *> rows;
+};
+
 /// The finger of the real window system, so that the real scroller sees it.
 class Finger
 {
@@ -99,6 +146,8 @@ private:
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(RowList &)>)
+
 class TestVexoVerticalScrollArea : public TestCase
 {
     Q_OBJECT
@@ -115,6 +164,8 @@ private Q_SLOTS:
     void rowsLieTight();
     void scrollMovesWhatIsSeen_data();
     void scrollMovesWhatIsSeen();
+    void whatNoRowHidesAnyMoreIsPainted_data();
+    void whatNoRowHidesAnyMoreIsPainted();
 };
 
 void TestVexoVerticalScrollArea::tellsATapFromAScroll_data()
@@ -278,31 +329,51 @@ void TestVexoVerticalScrollArea::scrollMovesWhatIsSeen()
 {
     QFETCH(int, alpha);
     QFETCH(bool, has_gap);
-    VexoVerticalScrollArea area;
-    auto *content = new VexoVerticalScrollContent;
-    QVector<VexoFunctionButton *> rows;
-    for (int i = 0; i < 40; ++i) {
-        rows += new VexoFunctionButton;
-        content->layout()->addWidget(rows.last());
-    }
-    content->layout()->setSpacing(has_gap ? 1 : 0);
-    area.setWidget(content);
-    content->setAutoFillBackground(false); // the panel's sheet makes its ground transparent
-    area.resize(400, 300);
-    area.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&area));
-    QColor ground = rows[2]->backgroundColor();
-    ground.setAlpha(alpha);
-    rows[2]->setBackgroundColor(ground);
+    RowList list;
+    list.content->layout()->setSpacing(has_gap ? 1 : 0);
+    list.makeTranslucent(2, alpha);
     PaintCounter paints;
-    paints.watch(rows[4]);
-    paints.watch(rows[30]);
-    paints.take(rows[4]);
-    area.verticalScrollBar()->setValue(10);
-    QTEST(paints.take(rows[4]), "paints");
-    area.verticalScrollBar()->setValue(rows[30]->y());
-    QCOMPARE(paints.take(rows[30]), 1); // comes into sight
-    QVERIFY(!content->testAttribute(Qt::WA_OpaquePaintEvent)); // which it is not
+    paints.watch(list.rows[4]);
+    paints.watch(list.rows[30]);
+    list.startScroll();
+    paints.take(list.rows[4]);
+    list.scroll(20);
+    QTEST(paints.take(list.rows[4]), "paints");
+    list.scroll(list.rows[30]->y());
+    QCOMPARE(paints.take(list.rows[30]), 1); // comes into sight
+    QTRY_COMPARE(list.opaqueRows(), alpha == 255 ? 40 : 39); // at rest
+    QVERIFY(!list.isContentOpaque());
+}
+
+void TestVexoVerticalScrollArea::whatNoRowHidesAnyMoreIsPainted_data()
+{
+    using Change = std::function<void(RowList &)>;
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<int>("paints"); // of the content; the first one finds out
+    QTest::newRow("hidden, the next rows move up")
+        << Change([](RowList &list) { list.rows[5]->hide(); }) << 0;
+    QTest::newRow("deleted, the next rows move up")
+        << Change([](RowList &list) { delete list.rows.takeAt(5); }) << 0;
+    QTest::newRow("translucent") << Change([](RowList &list) { list.makeTranslucent(5, 254); })
+                                 << 2;
+    QTest::newRow("masked") << Change([](RowList &list) {
+        list.rows[5]->setMask(QRect(0, 0, 9, 9));
+    }) << 2;
+}
+
+void TestVexoVerticalScrollArea::whatNoRowHidesAnyMoreIsPainted()
+{
+    using Change = std::function<void(RowList &)>;
+    QFETCH(Change, change);
+    RowList list;
+    PaintCounter paints;
+    paints.watch(list.content);
+    list.startScroll();
+    paints.take(list.content);
+    QVERIFY(list.isContentOpaque());
+    change(list);
+    QTEST(paints.take(list.content), "paints");
+    QVERIFY(!list.isContentOpaque());
 }
 
 QTEST_MAIN(TestVexoVerticalScrollArea)
