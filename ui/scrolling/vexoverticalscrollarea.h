@@ -16,7 +16,9 @@ class VexoSlider;
 /// scrolls, and no row clicks. A swipe that begins on a slider beside its handle scrolls once the
 /// slider is handed to forwardSliderEvents(). Its widget is mostly a VexoVerticalScrollContent.
 ///
-/// The area is a child of a window, never one itself. A slot of a row may delete the row; to delete
+/// The area is a child of a window, never one itself. Where an application has a stylesheet, give
+/// the area its place in the window before its widget: the toolkit styles all rows anew whenever
+/// the area, or what it lies in, gets another parent. A slot of a row may delete the row; to delete
 /// the area use deleteLater() there, since the toolkit is still at the gesture.
 class HOXQUI_EXPORT VexoVerticalScrollArea : public QScrollArea
 {

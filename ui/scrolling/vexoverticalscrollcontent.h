@@ -8,6 +8,8 @@ namespace vexo::hox::qt::ui {
 
 /// What a VexoVerticalScrollArea scrolls: rows below each other without gaps, from the top left.
 /// The application adds its rows to layout(), a QVBoxLayout with the name "ScrollVBoxLayout".
+/// Rows that are opaque are moved at a scroll instead of drawn anew, as long as they hide the
+/// content; VexoFunctionButton is opaque when its two background colours are.
 class HOXQUI_EXPORT VexoVerticalScrollContent : public QWidget
 {
     Q_OBJECT

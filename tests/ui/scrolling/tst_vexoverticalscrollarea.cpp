@@ -8,6 +8,7 @@
 #include <VexoVerticalScrollContent>
 
 #include <QLayout>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 #include <QWindow>
@@ -107,6 +108,16 @@ struct RowList
     {
         return int(std::count_if(rows.begin(), rows.end(),
             [](const QWidget *row) { return row->testAttribute(Qt::WA_OpaquePaintEvent); }));
+    }
+
+    /// Whether what was moved on the screen looks as it does drawn anew.
+    bool isSeenAsItIs()
+    {
+        const QImage seen = area.screen()->grabWindow(area.winId()).toImage();
+        QImage drawn(seen.size(), seen.format());
+        drawn.fill(Qt::magenta);
+        area.render(&drawn);
+        return !seen.isNull() && seen == drawn;
     }
 
     VexoVerticalScrollArea area;
@@ -341,6 +352,7 @@ void TestVexoVerticalScrollArea::scrollMovesWhatIsSeen()
     QTEST(paints.take(list.rows[4]), "paints");
     list.scroll(list.rows[30]->y());
     QCOMPARE(paints.take(list.rows[30]), 1); // comes into sight
+    QVERIFY(list.isSeenAsItIs());
     QTRY_COMPARE(list.opaqueRows(), alpha == 255 ? 40 : 39); // at rest
     QVERIFY(!list.isContentOpaque());
 }
@@ -374,6 +386,7 @@ void TestVexoVerticalScrollArea::whatNoRowHidesAnyMoreIsPainted()
     change(list);
     QTEST(paints.take(list.content), "paints");
     QVERIFY(!list.isContentOpaque());
+    QVERIFY(list.isSeenAsItIs());
 }
 
 QTEST_MAIN(TestVexoVerticalScrollArea)
