@@ -141,12 +141,11 @@ bool RowLabel::event(QEvent *event)
     default:
         break;
     }
-    const bool is_accepted = QLabel::event(event);
-    if (testAttribute(Qt::WA_StyledBackground)) { // from now on drawGround() does it
-        m_has_styled_ground = true;
-        setAttribute(Qt::WA_StyledBackground, false);
-    }
-    return is_accepted;
+    const bool is_styling = event->type() == QEvent::Polish || event->type() == QEvent::StyleChange;
+    const bool is_handled = QLabel::event(event); // a link may delete the label
+    if (is_styling)
+        takeOverStyledGround();
+    return is_handled;
 }
 
 void RowLabel::paintEvent(QPaintEvent *event)
@@ -253,7 +252,15 @@ Print RowLabel::print(const QColor &ground)
     return { QPixmap::fromImage(image.copy(inked)), inked.topLeft() };
 }
 
-// The toolkit would do it before each paint, with a painter of its own. A print has it.
+// The toolkit would draw it before each paint, with a painter of its own. A print has it.
+void RowLabel::takeOverStyledGround()
+{
+    if (!testAttribute(Qt::WA_StyledBackground))
+        return;
+    m_has_styled_ground = true;
+    setAttribute(Qt::WA_StyledBackground, false);
+}
+
 void RowLabel::drawStyledGround()
 {
     if (!m_has_styled_ground)

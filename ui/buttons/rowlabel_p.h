@@ -62,6 +62,7 @@ private:
 
     Look lookOfNow(const QColor &ground) const;
     Print print(const QColor &ground);
+    void takeOverStyledGround();
     void drawStyledGround();
     bool isPlain() const;
     const Line &line() const;

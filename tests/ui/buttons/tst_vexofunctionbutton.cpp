@@ -403,11 +403,16 @@ void TestVexoFunctionButton::textIsDrawnLikeAnyLabel()
     any.setIndent(label->indent());
     any.setWordWrap(true);
     any.resize(label->size());
-    QImage image(any.size(), QImage::Format_RGB32);
-    image.fill(row.backgroundColor());
-    any.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+    const auto drawn = [&](QLabel *alone) {
+        QImage image(alone->size(), QImage::Format_RGB32);
+        image.fill(row.backgroundColor());
+        alone->render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+        return image;
+    };
+    const QImage image = drawn(&any);
     QVERIFY(!boxOf(image, seen).isEmpty());
-    for (int i = 0; i < 2; ++i) // drawn, copied
+    QCOMPARE(drawn(label), image);
+    for (int i = 0; i < 2; ++i) // printed, copied
         QCOMPARE(row.grab(label->geometry()).toImage().convertToFormat(image.format()), image);
 }
 
