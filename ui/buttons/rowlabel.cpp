@@ -54,6 +54,13 @@ bool breaksOnlyBetweenWords(QChar letter)
         && letter != QChar::LineSeparator && letter != QChar::ParagraphSeparator;
 }
 
+// Of ASCII, and the accented ones of western Europe.
+bool isCommonLetter(QChar letter)
+{
+    return (letter >= QLatin1Char(' ') && letter <= QLatin1Char('~'))
+        || (letter >= QChar(0xc0) && letter <= QChar(0xff));
+}
+
 } // namespace
 
 bool RowLabel::Look::operator==(const Look &other) const
@@ -87,11 +94,31 @@ QSize RowLabel::minimumSizeHint() const
 
 int RowLabel::heightForWidth(int width_px) const
 {
+    if (isSurelyOneLine(width_px))
+        return lineHeight();
     if (!isPlain())
         return QLabel::heightForWidth(width_px);
     const int reach_px = line().height; // more than a letter reaches beyond its place
     const bool fits = line().width + reach_px <= width_px - aroundText().width();
     return fits ? line().height + aroundText().height() : QLabel::heightForWidth(width_px);
+}
+
+// As if each letter were as wide as the widest one, and one more for what kerning may add.
+bool RowLabel::isSurelyOneLine(int width_px) const
+{
+    const QString text = this->text();
+    if (!isPlain() || !std::all_of(text.begin(), text.end(), isCommonLetter))
+        return false;
+    const QFontMetrics metrics = fontMetrics();
+    int widest_px = 0;
+    for (const char letter : { 'W', '@', '%', '\xc6' })
+        widest_px = qMax(widest_px, metrics.horizontalAdvance(QLatin1Char(letter)));
+    return (text.size() + 1) * widest_px <= width_px - aroundText().width();
+}
+
+int RowLabel::lineHeight() const
+{
+    return int(std::ceil(QFontMetricsF(font()).height())) + aroundText().height();
 }
 
 QColor RowLabel::ink() const
@@ -164,7 +191,9 @@ void RowLabel::resizeEvent(QResizeEvent *event)
 {
     QLabel::resizeEvent(event);
     m_is_laid_out = true;
-    if (sizeHint().height() != event->size().height())
+    const int width_px = event->size().width();
+    const int height_px = hasHeightForWidth() ? heightForWidth(width_px) : sizeHint().height();
+    if (height_px != event->size().height())
         updateGeometry(); // the layout asked for the height before it gave the width
 }
 

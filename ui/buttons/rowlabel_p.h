@@ -22,6 +22,11 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
     int heightForWidth(int width_px) const override;
+    /// Whether the text lies on one line in \a width_px, found without measuring it: false for
+    /// most texts that fill the width and for rare letters.
+    bool isSurelyOneLine(int width_px) const;
+    /// px, with margins, of a text of which that is true.
+    int lineHeight() const;
     QColor ink() const;
     /// Replaces the label's palette by the application's with this text colour.
     void setInk(const QColor &ink);

@@ -2,6 +2,7 @@
 
 #include "ui/buttons/rowaccessible_p.h"
 #include "ui/buttons/rowlabel_p.h"
+#include "ui/buttons/rowlayout_p.h"
 #include "ui/buttons/swipeguard_p.h"
 #include "ui/buttons/tone_p.h"
 #include "ui/buttons/vexocheckbox.h"
@@ -66,19 +67,6 @@ protected:
     }
 };
 
-// The height of a row is fixed, so no screen need know how high its text would be in some width: to
-// ask all rows of a long list takes as long as to build them.
-class RowLayout : public QHBoxLayout
-{
-public:
-    bool hasHeightForWidth() const override
-    {
-        const QWidget *row = parentWidget();
-        return (!row || row->minimumHeight() != row->maximumHeight())
-            && QHBoxLayout::hasHeightForWidth();
-    }
-};
-
 // What the widgets around \a row leave of it: a list shows its first and last row in part.
 QRect shownPart(const QWidget &row)
 {
@@ -127,7 +115,7 @@ VexoFunctionButton::VexoFunctionButton(QWidget *parent, const VexoFunctionButton
     setFixedHeight(widgetPx(pxY(*m_scaling, height_mm)));
     m_layout->setContentsMargins(0, 0, 0, 0);
     setLayout(m_layout);
-    m_layout->addWidget(m_label);
+    m_layout->addLabel(m_label);
     connectTone(this, &QAbstractButton::pressed, m_tone_delegator.data());
     skipWhatIsCovered();
     setupLabel();

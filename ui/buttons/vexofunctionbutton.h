@@ -10,7 +10,6 @@
 
 #include <memory>
 
-class QHBoxLayout;
 class QLabel;
 class QSpacerItem;
 
@@ -18,6 +17,7 @@ namespace vexo::hox::qt::ui {
 
 class OpaqueRows;
 class RowLabel;
+class RowLayout;
 class ScalingInfo;
 class SwipeGuard;
 class VexoFeedbackDelegator;
@@ -176,7 +176,7 @@ private:
 
     const ScalingInfo *const m_scaling;
     const QPointer<VexoFeedbackDelegator> m_tone_delegator;
-    QHBoxLayout *const m_layout;
+    RowLayout *const m_layout;
     RowLabel *const m_label;
     QPointer<QWidget> m_right_widget;
     QSpacerItem *m_right_spacer = nullptr;

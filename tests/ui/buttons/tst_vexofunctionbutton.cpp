@@ -78,6 +78,8 @@ private Q_SLOTS:
     void textIsWrappedInItsRow();
     void textIsMeasuredLikeAnyLabel_data();
     void textIsMeasuredLikeAnyLabel();
+    void textIsPlacedLikeAnyLabel_data() { textIsMeasuredLikeAnyLabel_data(); }
+    void textIsPlacedLikeAnyLabel();
     void textIsDrawnLikeAnyLabel_data();
     void textIsDrawnLikeAnyLabel();
     void isOneAccessibleObject();
@@ -374,6 +376,34 @@ void TestVexoFunctionButton::textIsMeasuredLikeAnyLabel()
     compare();
     row.setTextFontsizeInPt(3);
     compare();
+}
+
+void TestVexoFunctionButton::textIsPlacedLikeAnyLabel()
+{
+    QFETCH(QString, text);
+    LoudRow row(Row::ActionType);
+    row.setText(text);
+    QLabel *label = row.getLabelInstance();
+    QWidget other;
+    QLabel any(text);
+    any.setWordWrap(true);
+    any.setIndent(label->indent());
+    any.setFont(label->font());
+    any.setSizePolicy(label->sizePolicy());
+    QLabel arrow;
+    QHBoxLayout layout(&other);
+    layout.setContentsMargins(0, 0, 0, 0);
+    layout.addWidget(&any);
+    layout.addWidget(&arrow, 0, Qt::AlignRight);
+    layout.addSpacing(row.part(2)->sizeHint().width());
+    for (const int px : { 2000, 1000, 600, 400, 300, 200, 2000 }) {
+        row.layout()->setGeometry(QRect(0, 0, px, row.height()));
+        arrow.setFixedSize(row.part(1)->widget()->size());
+        layout.setGeometry(QRect(0, 0, px, row.height()));
+        QCOMPARE(label->x(), any.x());
+        QCOMPARE(label->width(), any.width());
+        QCOMPARE(row.layout()->minimumSize().width(), layout.minimumSize().width());
+    }
 }
 
 void TestVexoFunctionButton::textIsDrawnLikeAnyLabel_data()

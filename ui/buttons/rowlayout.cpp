@@ -1,0 +1,101 @@
+#include "ui/buttons/rowlayout_p.h"
+
+#include "ui/buttons/rowlabel_p.h"
+
+namespace vexo::hox::qt::ui {
+
+/// A label with room for one line takes all the width that is left. As long as it is not measured,
+/// that is all the layout knows of it.
+class RowLayout::LabelItem : public QWidgetItem
+{
+public:
+    explicit LabelItem(RowLabel *label)
+        : QWidgetItem(label)
+        , m_label(label)
+    {
+    }
+
+    const RowLabel &label() const { return *m_label; }
+    bool isMeasured() const { return m_is_measured; }
+    void setMeasured(bool is_measured) { m_is_measured = is_measured; }
+
+    QSize sizeHint() const override
+    {
+        return m_is_measured ? QWidgetItem::sizeHint() : QSize(0, m_label->lineHeight());
+    }
+
+    QSize minimumSize() const override
+    {
+        return m_is_measured ? QWidgetItem::minimumSize() : QSize(0, m_label->lineHeight());
+    }
+
+    QSize maximumSize() const override
+    {
+        return m_is_measured ? QWidgetItem::maximumSize()
+                             : QSize(QLAYOUTSIZE_MAX, m_label->lineHeight());
+    }
+
+private:
+    RowLabel *const m_label;
+    bool m_is_measured = false;
+};
+
+void RowLayout::addLabel(RowLabel *label)
+{
+    addChildWidget(label);
+    m_label_item = new LabelItem(label);
+    addItem(m_label_item);
+}
+
+// No screen need know how high the text of a row of fixed height would be in some width.
+bool RowLayout::hasHeightForWidth() const
+{
+    if (hasFixedHeight())
+        return false;
+    setMeasured(true);
+    return QHBoxLayout::hasHeightForWidth();
+}
+
+QSize RowLayout::sizeHint() const
+{
+    setMeasured(true);
+    return QHBoxLayout::sizeHint();
+}
+
+QSize RowLayout::minimumSize() const
+{
+    setMeasured(true);
+    return QHBoxLayout::minimumSize();
+}
+
+void RowLayout::setGeometry(const QRect &rect)
+{
+    setMeasured(!hasFixedHeight() || !m_label_item
+        || !m_label_item->label().isSurelyOneLine(labelWidth(rect.width())));
+    QHBoxLayout::setGeometry(rect);
+}
+
+bool RowLayout::hasFixedHeight() const
+{
+    const QWidget *row = parentWidget();
+    return row && row->minimumHeight() == row->maximumHeight();
+}
+
+// What the other items leave of \a width_px.
+int RowLayout::labelWidth(int width_px) const
+{
+    int left_px = width_px;
+    for (int i = 1; i < count(); ++i)
+        left_px -= itemAt(i)->sizeHint().width() + qMax(0, spacing());
+    return left_px;
+}
+
+void RowLayout::setMeasured(bool is_measured) const
+{
+    if (!m_label_item || m_label_item->isMeasured() == is_measured)
+        return;
+    m_label_item->setMeasured(is_measured);
+    const_cast<RowLayout *>(this)->invalidate();
+}
+
+} // namespace vexo::hox::qt::ui

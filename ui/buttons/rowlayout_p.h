@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QHBoxLayout>
+
+namespace vexo::hox::qt::ui {
+
+class RowLabel;
+
+/// The layout of a row. To measure its text takes as long as all the rest of it, so that is done
+/// only where the text may be short of room.
+class RowLayout : public QHBoxLayout
+{
+public:
+    /// The first item, without stretch and alignment. The row already has \a label as its child.
+    void addLabel(RowLabel *label);
+
+    bool hasHeightForWidth() const override;
+    QSize sizeHint() const override;
+    QSize minimumSize() const override;
+    void setGeometry(const QRect &rect) override;
+
+private:
+    class LabelItem;
+
+    bool hasFixedHeight() const;
+    int labelWidth(int width_px) const;
+    void setMeasured(bool is_measured) const;
+
+    LabelItem *m_label_item = nullptr;
+};
+
+} // namespace vexo::hox::qt::ui
