@@ -22,8 +22,8 @@ bool isBlank(const QRgb *pixels, int count, const std::vector<QRgb> &ground)
     return std::memcmp(pixels, ground.data(), size_t(count) * sizeof(QRgb)) == 0;
 }
 
-// The smallest rectangle around all pixels that are not \a ground. Few are, so what was found in
-// the lines above spares to look at most of them one by one.
+// The smallest rectangle around all pixels that are not \a ground. Most are, so lines are compared
+// as a whole, and one by one only pixels outside of what was found in the lines above.
 QRect inkedArea(const QImage &image, QRgb ground)
 {
     const int width = image.width();
@@ -106,8 +106,10 @@ int RowLabel::heightForWidth(int width_px) const
 // As if each letter were as wide as the widest one, and one more for what kerning may add.
 bool RowLabel::isSurelyOneLine(int width_px) const
 {
+    ensurePolished();
     const QString text = this->text();
-    if (!isPlain() || !std::all_of(text.begin(), text.end(), isCommonLetter))
+    const bool is_spaced = font().letterSpacing() != 0 || font().wordSpacing() != 0;
+    if (!isPlain() || is_spaced || !std::all_of(text.begin(), text.end(), isCommonLetter))
         return false;
     const QFontMetrics metrics = fontMetrics();
     int widest_px = 0;
@@ -118,6 +120,7 @@ bool RowLabel::isSurelyOneLine(int width_px) const
 
 int RowLabel::lineHeight() const
 {
+    ensurePolished();
     return int(std::ceil(QFontMetricsF(font()).height())) + aroundText().height();
 }
 

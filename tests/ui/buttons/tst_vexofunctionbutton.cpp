@@ -376,6 +376,10 @@ void TestVexoFunctionButton::textIsMeasuredLikeAnyLabel()
     compare();
     row.setTextFontsizeInPt(3);
     compare();
+    QFont spaced = label->font();
+    spaced.setLetterSpacing(QFont::AbsoluteSpacing, 60);
+    label->setFont(spaced);
+    compare();
 }
 
 void TestVexoFunctionButton::textIsPlacedLikeAnyLabel()
