@@ -21,21 +21,23 @@ public:
 
     QSize sizeHint() const override
     {
-        return m_is_measured ? QWidgetItem::sizeHint() : QSize(0, m_label->lineHeight());
+        return isLine() ? QSize(0, m_label->lineHeight()) : QWidgetItem::sizeHint();
     }
 
     QSize minimumSize() const override
     {
-        return m_is_measured ? QWidgetItem::minimumSize() : QSize(0, m_label->lineHeight());
+        return isLine() ? QSize(0, m_label->lineHeight()) : QWidgetItem::minimumSize();
     }
 
     QSize maximumSize() const override
     {
-        return m_is_measured ? QWidgetItem::maximumSize()
-                             : QSize(QLAYOUTSIZE_MAX, m_label->lineHeight());
+        return isLine() ? QSize(QLAYOUTSIZE_MAX, m_label->lineHeight())
+                        : QWidgetItem::maximumSize();
     }
 
 private:
+    bool isLine() const { return !m_is_measured && !isEmpty(); }
+
     RowLabel *const m_label;
     bool m_is_measured = false;
 };
