@@ -1,10 +1,9 @@
 #include "ui/buttons/rowlabel_p.h"
 
 #include <QEvent>
+#include <QImage>
 #include <QPainter>
 #include <QResizeEvent>
-#include <QStyle>
-#include <QStyleOption>
 #include <QTextDocument>
 #include <QTextLayout>
 
@@ -171,18 +170,17 @@ bool RowLabel::event(QEvent *event)
     default:
         break;
     }
-    const bool is_styling = event->type() == QEvent::Polish || event->type() == QEvent::StyleChange;
+    m_styled_background.notice(this, *event);
     const bool is_handled = QLabel::event(event); // a link may delete the label
-    if (is_styling)
-        takeOverStyledGround();
+    if (event->type() == QEvent::Polish)
+        m_styled_background.notice(this, *event);
     return is_handled;
 }
 
 void RowLabel::paintEvent(QPaintEvent *event)
 {
     if (m_shown.pixmap.isNull()) {
-        drawStyledGround();
-        QLabel::paintEvent(event);
+        paintAnew(event);
         return;
     }
     QPainter painter(this);
@@ -276,31 +274,19 @@ Print RowLabel::print(const QColor &ground)
     QImage image(size(), QImage::Format_RGB32);
     image.fill(ground);
     m_print_image = &image;
-    drawStyledGround();
     QPaintEvent event(rect());
-    QLabel::paintEvent(&event);
+    paintAnew(&event);
     m_print_image = nullptr;
     const QRect inked = inkedArea(image, ground.rgb());
     return { QPixmap::fromImage(image.copy(inked)), inked.topLeft() };
 }
 
-// The toolkit would draw it before each paint, with a painter of its own. A print has it.
-void RowLabel::takeOverStyledGround()
+void RowLabel::paintAnew(QPaintEvent *event)
 {
-    if (!testAttribute(Qt::WA_StyledBackground))
-        return;
-    m_has_styled_ground = true;
-    setAttribute(Qt::WA_StyledBackground, false);
-}
-
-void RowLabel::drawStyledGround()
-{
-    if (!m_has_styled_ground)
-        return;
     QPainter painter(this);
-    QStyleOption option;
-    option.initFrom(this);
-    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+    m_styled_background.draw(&painter, this);
+    painter.end();
+    QLabel::paintEvent(event);
 }
 
 } // namespace vexo::hox::qt::ui

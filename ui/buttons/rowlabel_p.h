@@ -1,11 +1,13 @@
 #pragma once
 
+#include "ui/buttons/styledbackground_p.h"
 #include "ui/foundation/printpair_p.h"
 
 #include <QColor>
 #include <QFont>
-#include <QImage>
 #include <QLabel>
+
+class QImage;
 
 namespace vexo::hox::qt::ui {
 
@@ -67,8 +69,7 @@ private:
 
     Look lookOfNow(const QColor &ground) const;
     Print print(const QColor &ground);
-    void takeOverStyledGround();
-    void drawStyledGround();
+    void paintAnew(QPaintEvent *event);
     bool isPlain() const;
     const Line &line() const;
     QSize aroundText() const;
@@ -76,10 +77,10 @@ private:
 
     bool m_is_laid_out = false;
     mutable Line m_line; // of the text that was measured last
+    StyledBackground m_styled_background;
     PrintPair<Look> m_prints;
     Print m_shown; // for the paint to come; null to paint as any label
     QImage *m_print_image = nullptr; // while it is drawn
-    bool m_has_styled_ground = false;
     bool m_is_inking = false;
 };
 

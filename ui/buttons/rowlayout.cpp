@@ -45,8 +45,7 @@ private:
 void RowLayout::addLabel(RowLabel *label)
 {
     addChildWidget(label);
-    m_label_item = new LabelItem(label);
-    addItem(m_label_item);
+    addItem(new LabelItem(label));
 }
 
 // No screen need know how high the text of a row of fixed height would be in some width.
@@ -72,9 +71,16 @@ QSize RowLayout::minimumSize() const
 
 void RowLayout::setGeometry(const QRect &rect)
 {
-    setMeasured(!hasFixedHeight() || !m_label_item
-        || !m_label_item->label().isSurelyOneLine(labelWidth(rect.width())));
+    const LabelItem *item = labelItem();
+    setMeasured(
+        !hasFixedHeight() || !item || !item->label().isSurelyOneLine(labelWidth(rect.width())));
     QHBoxLayout::setGeometry(rect);
+}
+
+// Null once an application has taken the label out.
+RowLayout::LabelItem *RowLayout::labelItem() const
+{
+    return dynamic_cast<LabelItem *>(itemAt(0));
 }
 
 bool RowLayout::hasFixedHeight() const
@@ -94,9 +100,10 @@ int RowLayout::labelWidth(int width_px) const
 
 void RowLayout::setMeasured(bool is_measured) const
 {
-    if (!m_label_item || m_label_item->isMeasured() == is_measured)
+    LabelItem *item = labelItem();
+    if (!item || item->isMeasured() == is_measured)
         return;
-    m_label_item->setMeasured(is_measured);
+    item->setMeasured(is_measured);
     const_cast<RowLayout *>(this)->invalidate();
 }
 

@@ -22,11 +22,10 @@ public:
 private:
     class LabelItem;
 
+    LabelItem *labelItem() const;
     bool hasFixedHeight() const;
     int labelWidth(int width_px) const;
     void setMeasured(bool is_measured) const;
-
-    LabelItem *m_label_item = nullptr;
 };
 
 } // namespace vexo::hox::qt::ui

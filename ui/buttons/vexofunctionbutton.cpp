@@ -475,6 +475,14 @@ void VexoFunctionButton::skipWhatIsCovered()
             && m_background_clicked_color.alpha() == 255);
 }
 
+void VexoFunctionButton::setSeen(bool is_seen)
+{
+    if (m_is_seen == is_seen)
+        return;
+    m_is_seen = is_seen;
+    skipWhatIsCovered();
+}
+
 void VexoFunctionButton::applyLook(const QRegion &painted)
 {
     if (hasArrow())

@@ -162,13 +162,7 @@ private:
     void endPress();
     void change(QColor *color, const QColor &to);
     void skipWhatIsCovered();
-    void setSeen(bool is_seen)
-    {
-        if (m_is_seen == is_seen)
-            return;
-        m_is_seen = is_seen;
-        skipWhatIsCovered();
-    }
+    void setSeen(bool is_seen);
     void applyLook(const QRegion &painted);
     void applyArrowLook(const QRegion &painted);
     void applyTextColor(const QColor &color, const QRegion &painted);
@@ -185,7 +179,6 @@ private:
     QPixmap m_arrow_pressed;
     QPixmap m_arrow_inactive;
     const std::unique_ptr<SwipeGuard> m_guard;
-    bool m_is_seen = true; // false while a list scrolls and shows other rows
     bool m_last_checked = false;
     bool m_inactive_shown = false;
     bool m_last_down = false;
@@ -197,6 +190,7 @@ private:
     QColor m_background_clicked_color = VexoColors::C4;
     double m_mm_indent = 3.0;
     double m_text_font_size_in_pt = 9.0;
+    bool m_is_seen = true; // false while a list scrolls and shows other rows
 };
 
 } // namespace vexo::hox::qt::ui

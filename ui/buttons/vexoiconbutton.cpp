@@ -43,7 +43,7 @@ void VexoIconButton::initialize(const QString &state)
 
 bool VexoIconButton::event(QEvent *event)
 {
-    m_styled_background->notice(this, event);
+    m_styled_background->notice(this, *event);
     return ActiveVectorButton::event(event);
 }
 

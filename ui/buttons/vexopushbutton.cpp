@@ -336,7 +336,7 @@ void VexoPushButton::setVisible(bool visible)
 
 bool VexoPushButton::event(QEvent *event)
 {
-    m_styled_background->notice(this, event);
+    m_styled_background->notice(this, *event);
     return QPushButton::event(event);
 }
 
