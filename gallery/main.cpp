@@ -4,13 +4,10 @@
 #include "gallery/shots.h"
 #include "gallery/widgets/toneflash.h"
 
-#include <FontLoader>
+#include <Panel>
 #include <ScalingInfo>
-#include <VexoColors>
-#include <VexoStylesheet>
 
 #include <QApplication>
-#include <QPalette>
 
 #include <cstdio>
 #include <stdexcept>
@@ -19,29 +16,14 @@ using namespace vexo::hox::qt::ui;
 
 namespace {
 
-QPalette panelPalette()
+void setUpPanel(QApplication &application, const std::optional<PanelSize> &size)
 {
-    QPalette palette(VexoColors::C1, VexoColors::C0);
-    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText }) {
-        palette.setColor(role, VexoColors::C3);
-        palette.setColor(QPalette::Disabled, role, VexoColors::C6);
+    PanelOptions options;
+    if (size) {
+        options.px = size->px;
+        options.mm = size->mm;
     }
-    palette.setColor(QPalette::Highlight, VexoColors::C4);
-    palette.setColor(QPalette::HighlightedText, VexoColors::C0);
-    return palette;
-}
-
-// What each application of a panel does, in this order, before it builds its first screen.
-void setUpPanel(const std::optional<Panel> &panel)
-{
-    if (panel) {
-        ScalingInfo::inst()->setPixels(panel->px);
-        ScalingInfo::inst()->setSizeMM(panel->mm);
-    }
-    QApplication::setStyle("fusion");
-    QApplication::setPalette(panelPalette());
-    FontLoader();
-    VexoStylesheet(QStringList{ ":/css/vexo-AAL.qs", ":/css/hoxq.qs" });
+    Panel::setUp(application, options);
 }
 
 void openWindow(MainWindow &window, bool is_given_panel)
@@ -62,7 +44,7 @@ int run(int &argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
 
     const auto application = openDisplay(argc, argv);
-    setUpPanel(options.panel);
+    setUpPanel(*application, options.panel);
     ToneFlash flash;
     VexoFeedbackDelegator::tone_delegator = &flash;
 

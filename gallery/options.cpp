@@ -51,7 +51,7 @@ void checkDensity(double px, double mm)
                    .arg(largest_density));
 }
 
-void checkPanel(const Panel &panel)
+void checkPanel(const PanelSize &panel)
 {
     if (panel.px.isEmpty() || panel.mm.isEmpty())
         refuse("--panel: all four sizes must be above 0");
@@ -61,14 +61,14 @@ void checkPanel(const Panel &panel)
     checkDensity(panel.px.height(), panel.mm.height());
 }
 
-Panel parsePanel(const QString &text)
+PanelSize parsePanel(const QString &text)
 {
     static const QRegularExpression form(
         R"(\A(-?\d{1,9})x(-?\d{1,9})@(-?\d{1,9}(?:\.\d{1,9})?)x(-?\d{1,9}(?:\.\d{1,9})?)\z)");
     const QRegularExpressionMatch match = form.match(text);
     if (!match.hasMatch())
         refuse("--panel " + text + ": expected pixels and millimetres as in 1280x800@160x100");
-    const Panel panel{ QSize(match.captured(1).toInt(), match.captured(2).toInt()),
+    const PanelSize panel{ QSize(match.captured(1).toInt(), match.captured(2).toInt()),
         QSizeF(match.captured(3).toDouble(), match.captured(4).toDouble()) };
     checkPanel(panel);
     return panel;

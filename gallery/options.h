@@ -8,7 +8,7 @@
 #include <optional>
 
 /// A panel that a desktop is to show.
-struct Panel
+struct PanelSize
 {
     QSize px;
     QSizeF mm;
@@ -21,7 +21,7 @@ struct Options
     /// std::invalid_argument with one line on what is wrong. Creates the folder of the pictures.
     static Options fromArguments(int &argc, char **argv);
 
-    std::optional<Panel> panel; ///< the real screen when not given
+    std::optional<PanelSize> panel; ///< the real screen when not given
     QString shots_dir; ///< absolute; empty: open a window
     QVector<int> pages; ///< indices into pageList(); all of them, or the one asked for
     bool has_platform = false; ///< the caller names a platform of the toolkit

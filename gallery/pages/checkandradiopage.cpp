@@ -1,7 +1,6 @@
 #include "gallery/pages/checkandradiopage.h"
 
 #include "gallery/measures.h"
-#include "gallery/widgets/mmsheets.h"
 #include "gallery/widgets/plainbutton.h"
 
 #include <VexoCheckBox>
@@ -48,6 +47,18 @@ QWidget *createColumn(const QString &heading)
     return parent;
 }
 
+QString parentSheet()
+{
+    const QString sheet = "QCheckBox, QRadioButton { color: %1; }"
+                          "QCheckBox:disabled, QRadioButton:disabled { color: %2; }"
+                          "QCheckBox::indicator { width: %3px; height: %5px; }"
+                          "QRadioButton::indicator { width: %4px; height: %5px; }";
+    return sheet.arg(VexoColors::C9.name(), VexoColors::C6.name())
+        .arg(mmX(12))
+        .arg(mmX(7))
+        .arg(mmY(7));
+}
+
 } // namespace
 
 CheckAndRadioPage::CheckAndRadioPage()
@@ -74,9 +85,9 @@ void CheckAndRadioPage::addComparison()
 void CheckAndRadioPage::addParentSheet()
 {
     addSection("A sheet on the parent");
-    addBlock(createText("The panel's sheets draw the indicators in pixels. A sheet of the "
-                        "application on any parent gives them millimetres and other colours."));
+    addBlock(createText("A sheet of the application on any parent gives the indicators other "
+                        "sizes and the texts other colours."));
     QWidget *column = createColumn<VexoCheckBox, VexoRadioButton>("12 x 7 and 7 x 7 mm");
-    column->setStyleSheet(indicatorSheet(VexoColors::C9));
+    column->setStyleSheet(parentSheet());
     addBlock(column);
 }

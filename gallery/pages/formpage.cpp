@@ -1,7 +1,6 @@
 #include "gallery/pages/formpage.h"
 
 #include "gallery/measures.h"
-#include "gallery/widgets/mmsheets.h"
 #include "gallery/widgets/tilelayout.h"
 
 #include <VexoCheckBox>
@@ -64,7 +63,6 @@ VexoSliderDecoration *createSlider(Style style, int value)
     slider->setTickInterval(5);
     slider->setValue(value);
     auto *decoration = new VexoSliderDecoration(nullptr, style, slider);
-    decoration->setStyleSheet(sliderSheet());
     decoration->setScaleText({ "0", "25", "50", "75", "100" });
     return decoration;
 }

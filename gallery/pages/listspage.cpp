@@ -3,7 +3,6 @@
 #include "gallery/measures.h"
 #include "gallery/widgets/fingerscroll.h"
 #include "gallery/widgets/ground.h"
-#include "gallery/widgets/mmsheets.h"
 
 #include <CachedVectorIcon>
 #include <VexoCheckBox>
@@ -145,7 +144,6 @@ QWidget *ListsPage::createHeadline()
 {
     auto *headline = new QWidget;
     headline->setFixedHeight(mmY(11));
-    headline->setStyleSheet(indicatorSheet(VexoColors::C3));
     QHBoxLayout *row = createRow(headline);
     row->addWidget(createIndentedText("Contacts", 13, QFont::Medium), 1);
     auto *scroll_bar = new VexoCheckBox;
@@ -165,7 +163,6 @@ QWidget *ListsPage::createList()
     setGround(content, VexoColors::C13); // seen between the rows
     content->setObjectName("contacts");
     content->layout()->setSpacing(1);
-    m_list->setStyleSheet(sliderSheet());
     m_list->setWidget(content);
     m_list->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored); // takes what is left
     setNarrowScrollBar(m_list);

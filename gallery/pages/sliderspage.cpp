@@ -1,7 +1,6 @@
 #include "gallery/pages/sliderspage.h"
 
 #include "gallery/measures.h"
-#include "gallery/widgets/mmsheets.h"
 #include "gallery/widgets/plainslider.h"
 #include "gallery/widgets/tilelayout.h"
 
@@ -139,16 +138,13 @@ void SlidersPage::addLooks()
     auto *decoration = new Decoration(nullptr, Decoration::HorizontalWithoutScale, slider);
     auto *plain = new PlainSlider(slider);
     plain->setFixedSize(slider->size());
-    auto *in_mm = createDecoration(Decoration::HorizontalWithoutScale);
-    in_mm->setStyleSheet(sliderSheet());
-    tiles->addLayout(createLeft(decoration,
-        createCaptioned(decoration,
-            "With the panel's sheets. They give the handle 72 px, made for 11 px/mm: with less it "
-            "is cut")));
+    auto *disabled = createDecoration(Decoration::HorizontalWithoutScale);
+    disabled->setEnabled(false);
+    tiles->addLayout(createLeft(
+        decoration, createCaptioned(decoration, "As Panel::setUp() draws it, in millimetres")));
     tiles->addLayout(
         createLeft(plain, createCaptioned(plain, "The same without the sheets, follows it")));
-    tiles->addLayout(createLeft(in_mm,
-        createCaptioned(in_mm, "With a sheet of the application, made of mm for each panel")));
+    tiles->addLayout(createLeft(disabled, createCaptioned(disabled, "Disabled")));
 }
 
 TileLayout *SlidersPage::addTiles(const QString &heading, double column_mm)

@@ -140,7 +140,7 @@ StylesheetPage::StylesheetPage()
         "The panel's stylesheets restyle widgets of the toolkit and a few of the library. At the "
         "left a widget as an "
         "application gets it; at the right, following it, the same widget without the sheets. "
-        "The sheets give their sizes in pixels, so these differ from panel to panel.")
+        "The sheets give sizes in pixels; Panel::setUp() adds those in millimetres.")
     , m_sheets(readSheets())
 {
     addCheckBox();
@@ -191,8 +191,8 @@ void StylesheetPage::addSlider(Qt::Orientation orientation)
     comparison->addWidget(plain, 1, 1, alignment);
     if (is_horizontal)
         addBlock(createText("The toolkit does not know the state qlineargradient and takes the "
-                            "page rules of both orientations for each slider: the vertical ones "
-                            "come last and win, so the colours are the other way round here."));
+                            "page rules of both orientations for each slider; the vertical ones "
+                            "come last and would win. The sheet in millimetres outweighs them."));
     addRules("QSlider", is_horizontal ? ":horizontal" : ":vertical");
 }
 

@@ -20,7 +20,7 @@ endforeach()
 hoxq_test(gallery/tst_screens.cpp ${screens} $<TARGET_OBJECTS:galleryresources>)
 target_include_directories(tst_screens PRIVATE ${PROJECT_SOURCE_DIR})
 foreach(file measures page pages/formpage pages/listspage
-    widgets/fingerscroll widgets/ground widgets/mmsheets widgets/tilelayout)
+    widgets/fingerscroll widgets/ground widgets/tilelayout)
   list(APPEND lists ${PROJECT_SOURCE_DIR}/gallery/${file}.cpp ${PROJECT_SOURCE_DIR}/gallery/${file}.h)
 endforeach()
 hoxq_test(gallery/tst_lists.cpp ${lists})

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/foundation/pixels_p.h"
+
 #include <QPoint>
 #include <QWidget>
 
@@ -12,13 +14,22 @@ namespace vexo::hox::qt::ui {
 class SwipeGuard
 {
 public:
+    /// From now on all that are constructed take \a mm in place of their pixels; 0 or less: their
+    /// pixels.
+    static void setCommonDistance(double mm) { common_mm = mm > 0 ? mm : 0; }
+
     explicit SwipeGuard(int threshold_px)
         : m_threshold(threshold_px)
     {
     }
 
     int threshold() const { return m_threshold; }
-    void setThreshold(int px) { m_threshold = px; }
+    /// Takes the place of a common distance.
+    void setThreshold(int px)
+    {
+        m_threshold = px;
+        m_mm = 0;
+    }
     bool isPressed() const { return m_is_pressed; }
 
     /// Positions are in px, in any one coordinate system.
@@ -33,7 +44,8 @@ public:
         if (!m_is_pressed)
             return;
         const QPoint way = position - m_position;
-        if (std::abs(way.x()) > m_threshold || std::abs(way.y()) > m_threshold)
+        const QSize limit = distance();
+        if (std::abs(way.x()) > limit.width() || std::abs(way.y()) > limit.height())
             m_is_swipe = true;
     }
 
@@ -50,7 +62,17 @@ public:
     }
 
 private:
+    // To each side, px.
+    QSize distance() const
+    {
+        return m_mm > 0 ? pxSize(*ScalingInfo::inst(), QSizeF(m_mm, m_mm))
+                        : QSize(m_threshold, m_threshold);
+    }
+
+    inline static double common_mm = 0;
+
     int m_threshold; // px
+    double m_mm = common_mm; // in place of the pixels when above 0
     bool m_is_pressed = false;
     bool m_is_swipe = false;
     QPoint m_position;

@@ -27,6 +27,13 @@ ScalingInfo::ScalingInfo()
     recalculate();
 }
 
+ScalingInfo::ScalingInfo(const QSize &px, const QSizeF &mm)
+    : m_pixels(px)
+    , m_size_mm(mm)
+{
+    recalculate();
+}
+
 void ScalingInfo::setPixels(const QSize &px)
 {
     m_pixels = px;

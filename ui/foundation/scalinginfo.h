@@ -27,6 +27,8 @@ public:
 
     /// Reads the primary screen. Throws as inst() does. Applications use inst().
     ScalingInfo();
+    /// A scale of its own, with no look at a screen. Throws as setPixels() does.
+    ScalingInfo(const QSize &px, const QSizeF &mm);
 
     /// Width of \a mm millimetres in px.
     float mm2px_X(float mm) const { return mm * m_px_per_mm_x; }

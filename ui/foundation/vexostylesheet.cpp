@@ -31,6 +31,11 @@ void VexoStylesheet::setStylesheet(const QString &name)
         m_stylesheet += QTextStream(&file).readAll();
 }
 
+void VexoStylesheet::addText(const QString &rules)
+{
+    m_stylesheet += rules;
+}
+
 void VexoStylesheet::set()
 {
     QCoreApplication::setAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles, true);

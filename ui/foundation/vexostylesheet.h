@@ -23,6 +23,8 @@ public:
     /// exist is named in a warning; one that cannot be opened adds nothing. Nothing is shown before
     /// set().
     void setStylesheet(const QString &name);
+    /// Appends rules that stand in no file. Nothing is shown before set().
+    void addText(const QString &rules);
     /// Replaces the application's stylesheet by all that was read, and makes fonts and colours of
     /// a stylesheet reach child widgets (Qt::AA_UseStyleSheetPropagationInWidgetStyles). Without an
     /// application object only the attribute is set.

@@ -1,0 +1,408 @@
+#include "ui/foundation/scalecheck_p.h"
+
+#include "support/panelscale.h"
+#include "support/testcase.h"
+#include "support/touch.h"
+
+#include <Panel>
+#include <ScaleDisplayWidget>
+#include <ScalingInfo>
+#include <VexoCheckBox>
+#include <VexoColors>
+#include <VexoFunctionButton>
+#include <VexoSlider>
+#include <VexoSliderDecoration>
+
+#include <QScreen>
+#include <QSignalSpy>
+#include <QStackedWidget>
+#include <QStyleFactory>
+#include <QStyleOptionSlider>
+#include <QTest>
+
+#include <cmath>
+#include <limits>
+#include <stdexcept>
+
+using namespace vexo::hox::qt::ui;
+
+namespace {
+
+const QColor FILLED(0xb4, 0xc8, 0x00);
+const QColor EMPTY(0xc8, 0xc8, 0xc8);
+
+PanelOptions none()
+{
+    PanelOptions options;
+    options.use_style = options.use_palette = options.use_fonts = options.use_mm_sheet = false;
+    options.sheets.clear();
+    options.tap_mm = 0;
+    return options;
+}
+
+/// A stylesheet hides the style, but not what it takes from it.
+bool isFusion()
+{
+    const std::unique_ptr<QStyle> fusion(QStyleFactory::create(QStringLiteral("fusion")));
+    return QApplication::style()->standardPalette() == fusion->standardPalette();
+}
+
+/// What setUp() can change, but for the scale.
+QByteArray looks()
+{
+    const QString sheet = qApp->styleSheet();
+    const bool has_sheets = sheet.contains(QLatin1String("VexoAlerMessageFrame"))
+        && sheet.indexOf(QLatin1String("VexoAlerMessageFrame"))
+            < sheet.indexOf(QLatin1String("VexoCenteredVectorButton"));
+    QByteArray found;
+    found += isFusion() ? "style " : "";
+    found += QApplication::palette() == Panel::palette() ? "palette " : "";
+    found += QApplication::font().weight() == QFont::Light ? "font " : "";
+    found += has_sheets ? "sheets " : "";
+    found += sheet.endsWith(Panel::mmSheet()) ? "mm " : "";
+    return found;
+}
+
+PanelOptions onlyMmSheet()
+{
+    PanelOptions options = none();
+    options.use_mm_sheet = true;
+    return options;
+}
+
+/// A shown decoration with a slider from 0 to 10.
+struct Scaled
+{
+    explicit Scaled(VexoSliderDecoration::SliderDecorationStyle style)
+        : slider(new VexoSlider(
+            style <= VexoSliderDecoration::HorizontalWithScale ? Qt::Horizontal : Qt::Vertical))
+    {
+        slider->setMaximum(10);
+        auto *decoration = new VexoSliderDecoration(&window, style, slider);
+        decoration->setScaleText({ QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2") });
+        window.setPalette(Qt::white);
+        window.show();
+        for (int round = 0; round < 2; ++round) { // a scale takes its length at its first paint
+            decoration->resize(decoration->sizeHint());
+            window.resize(decoration->size());
+            window.grab();
+            QCoreApplication::sendPostedEvents();
+        }
+    }
+
+    bool isLevel() const { return slider->orientation() == Qt::Horizontal; }
+
+    /// In the window, px.
+    QRect handle(int value) const
+    {
+        slider->setValue(value);
+        QStyleOptionSlider option;
+        option.initFrom(slider);
+        option.orientation = slider->orientation();
+        option.maximum = 10;
+        option.sliderPosition = value;
+        option.upsideDown = !isLevel();
+        if (isLevel())
+            option.state |= QStyle::State_Horizontal;
+        const QRect handle = slider->style()->subControlRect(
+            QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider);
+        return handle.translated(slider->mapTo(&window, QPoint()));
+    }
+
+    /// The marks of the scale along the window, px.
+    QVector<int> marks()
+    {
+        const auto *scale = window.findChild<ScaleDisplayWidget *>();
+        const QRect area(scale->mapTo(&window, QPoint()), scale->size());
+        const ScalingInfo &scaling = *ScalingInfo::inst();
+        const QImage image = window.grab().toImage();
+        const auto isDrawn = [&](int along) { // in the middle of the marks, 5 mm off
+            const QPoint at = isLevel() ? QPoint(along, area.top() + int(scaling.mm2px_X(5)))
+                                        : QPoint(area.left() + int(scaling.mm2px_Y(5)), along);
+            return image.pixelColor(at) != QColor(Qt::white);
+        };
+        QVector<int> found;
+        for (int i = 1; i < (isLevel() ? image.width() : image.height()); ++i) {
+            if (isDrawn(i - 1) && isDrawn(i)) // antialiased around its place
+                found += i;
+        }
+        return found;
+    }
+
+    QWidget window;
+    VexoSlider *slider;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(PanelOptions)
+
+class TestPanel : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+    void doesWhatItIsAskedFor_data();
+    void doesWhatItIsAskedFor();
+    void takesTheGivenSize();
+    void refusesSizesThatAreNone_data();
+    void refusesSizesThatAreNone();
+    void namesAnUnlikelyScale_data();
+    void namesAnUnlikelyScale();
+    void framesThatAreWindowsHaveAGround();
+    void handleStandsAtItsMark_data();
+    void handleStandsAtItsMark();
+    void slidersAreFilledFromTheirMinimum_data();
+    void slidersAreFilledFromTheirMinimum();
+    void indicatorsHaveTheirSize();
+    void tapMayWanderTheSameMillimetres_data();
+    void tapMayWanderTheSameMillimetres();
+
+private:
+    QFont m_font;
+};
+
+void TestPanel::initTestCase()
+{
+    TestCase::initTestCase();
+    m_font = QApplication::font();
+}
+
+void TestPanel::cleanup()
+{
+    Panel::setUp(*qApp, none());
+    qApp->setStyleSheet(QString());
+    QApplication::setStyle(QStringLiteral("windows"));
+    QApplication::setPalette(QPalette());
+    QApplication::setFont(m_font);
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    TestCase::cleanup();
+}
+
+void TestPanel::doesWhatItIsAskedFor_data()
+{
+    QTest::addColumn<PanelOptions>("options");
+    QTest::addColumn<QByteArray>("expected");
+    const auto row = [](const char *name, const QByteArray &expected, auto change) {
+        PanelOptions options;
+        change(options);
+        QTest::newRow(name) << options << expected;
+    };
+    using Options = PanelOptions;
+    row("all", "style palette font sheets mm ", [](Options &) {});
+    row("no style", "palette font sheets mm ", [](Options &o) { o.use_style = false; });
+    row("no palette", "style font sheets mm ", [](Options &o) { o.use_palette = false; });
+    row("no fonts", "style palette sheets mm ", [](Options &o) { o.use_fonts = false; });
+    row("no sheets", "style palette font mm ", [](Options &o) { o.sheets.clear(); });
+    row("no mm", "style palette font sheets ", [](Options &o) { o.use_mm_sheet = false; });
+    row("nothing", "", [](Options &o) { o = none(); });
+}
+
+void TestPanel::doesWhatItIsAskedFor()
+{
+    QFETCH(PanelOptions, options);
+    QFETCH(QByteArray, expected);
+    QApplication::setStyle(QStringLiteral("windows"));
+    Panel::setUp(*qApp, options);
+    QCOMPARE(looks(), expected);
+}
+
+void TestPanel::takesTheGivenSize()
+{
+    const PanelScale keep(4, 4);
+    ScalingInfo *const before = ScalingInfo::inst();
+    PanelOptions options = none();
+    options.px = QSize(1280, 800);
+    options.mm = QSizeF(160, 50);
+    options.use_fonts = true;
+    Panel::setUp(*qApp, options);
+    QCOMPARE(ScalingInfo::inst(), before); // widgets keep its address
+    QCOMPARE(before->mm2px(QSizeF(1, 1)), QSizeF(8, 16));
+    QCOMPARE(QApplication::font().pixelSize(), 39); // 7 pt
+    QCOMPARE(QApplication::font().stretch(), 200);
+    options.px.reset(); // those of the screen
+    Panel::setUp(*qApp, options);
+    QCOMPARE(before->m_pixels, QGuiApplication::primaryScreen()->size());
+}
+
+void TestPanel::refusesSizesThatAreNone_data()
+{
+    QTest::addColumn<QSize>("px");
+    QTest::addColumn<QSizeF>("mm");
+    QTest::newRow("no width") << QSize(0, 100) << QSizeF(10, 10);
+    QTest::newRow("negative height") << QSize(100, -1) << QSizeF(10, 10);
+    QTest::newRow("no mm") << QSize(100, 100) << QSizeF(10, 0);
+    QTest::newRow("not a number") << QSize(100, 100)
+                                  << QSizeF(std::numeric_limits<double>::quiet_NaN(), 10);
+}
+
+void TestPanel::refusesSizesThatAreNone()
+{
+    QFETCH(QSize, px);
+    QFETCH(QSizeF, mm);
+    const PanelScale scale(10, 20);
+    const QByteArray before = looks();
+    const QSize pixels = ScalingInfo::inst()->m_pixels;
+    PanelOptions options;
+    options.px = px;
+    options.mm = mm;
+    QVERIFY_EXCEPTION_THROWN(Panel::setUp(*qApp, options), std::range_error);
+    QCOMPARE(looks(), before);
+    QCOMPARE(ScalingInfo::inst()->m_pixels, pixels);
+    QCOMPARE(ScalingInfo::inst()->mm2px(QSizeF(1, 1)), QSizeF(10, 20));
+}
+
+void TestPanel::namesAnUnlikelyScale_data()
+{
+    QTest::addColumn<QSizeF>("density");
+    QTest::addColumn<QString>("figures");
+    QTest::newRow("likely") << QSizeF(10, 10.4) << QString();
+    QTest::newRow("coarse") << QSizeF(1, 1) << QStringLiteral("1 x 1 px/mm");
+    QTest::newRow("fine") << QSizeF(26, 26) << QStringLiteral("26 x 26 px/mm");
+    QTest::newRow("not square") << QSizeF(10, 12) << QStringLiteral("10 x 12 px/mm");
+}
+
+void TestPanel::namesAnUnlikelyScale()
+{
+    QFETCH(QSizeF, density);
+    QFETCH(QString, figures);
+    const PanelScale scale(density.width(), density.height());
+    const QString fault = scaleFault(*ScalingInfo::inst());
+    QCOMPARE(fault.section(QStringLiteral("which is "), 1), figures);
+    Panel::setUp(*qApp, none()); // no warning: the screen does not tell this
+}
+
+// The panel's sheet makes every frame transparent, and what lies behind a window is black.
+void TestPanel::framesThatAreWindowsHaveAGround()
+{
+    Panel::setUp(*qApp);
+    QStackedWidget window;
+    auto *child = new QFrame(&window);
+    QCOMPARE(window.grab().toImage().pixelColor(1, 1), VexoColors::C0);
+    QCOMPARE(child->palette().color(QPalette::WindowText), VexoColors::C3);
+    QImage behind(child->size(), QImage::Format_ARGB32_Premultiplied);
+    behind.fill(Qt::magenta);
+    child->render(&behind, QPoint(), QRegion(), QWidget::DrawChildren);
+    QCOMPARE(behind.pixelColor(1, 1), QColor(Qt::magenta));
+}
+
+void TestPanel::handleStandsAtItsMark_data()
+{
+    QTest::addColumn<bool>("is_level");
+    QTest::addColumn<double>("x");
+    QTest::addColumn<double>("y");
+    for (const bool is_level : { true, false }) {
+        for (const double density : { 4.0, 5.0, 7.3, 8.0, 11.0, 12.5, 20.0 }) {
+            QTest::addRow("%s, %g px/mm", is_level ? "level" : "upright", density)
+                << is_level << density << density;
+        }
+    }
+    QTest::newRow("level, higher than wide") << true << 5.0 << 8.0;
+    QTest::newRow("upright, wider than high") << false << 8.0 << 5.0;
+}
+
+void TestPanel::handleStandsAtItsMark()
+{
+    QFETCH(bool, is_level);
+    QFETCH(double, x);
+    QFETCH(double, y);
+    const PanelScale scale(x, y);
+    Panel::setUp(*qApp, onlyMmSheet());
+    Scaled scaled(is_level ? VexoSliderDecoration::HorizontalWithScale
+                           : VexoSliderDecoration::VerticalWithScale);
+    const QVector<int> marks = scaled.marks();
+    QCOMPARE(marks.size(), 3);
+    for (int i = 0; i < 3; ++i) {
+        const QRect handle = scaled.handle(is_level ? 5 * i : 10 - 5 * i);
+        const QPointF middle = QRectF(handle).center();
+        QVERIFY(std::abs((is_level ? middle.x() : middle.y()) - marks.at(i)) <= 1);
+        QVERIFY(scaled.window.rect().contains(handle)); // and none of it is cut off
+    }
+}
+
+void TestPanel::slidersAreFilledFromTheirMinimum_data()
+{
+    QTest::addColumn<bool>("is_level");
+    QTest::addColumn<bool>("has_scale");
+    QTest::addColumn<bool>("is_mirrored");
+    QTest::newRow("level") << true << false << false;
+    QTest::newRow("level with scale") << true << true << false;
+    QTest::newRow("upright") << false << false << false;
+    QTest::newRow("from right to left") << true << false << true;
+    QTest::newRow("from right to left with scale") << true << true << true;
+}
+
+void TestPanel::slidersAreFilledFromTheirMinimum()
+{
+    QFETCH(bool, is_level);
+    QFETCH(bool, has_scale);
+    QFETCH(bool, is_mirrored);
+    using Decoration = VexoSliderDecoration;
+    const PanelScale scale(5, 6);
+    QApplication::setLayoutDirection(is_mirrored ? Qt::RightToLeft : Qt::LeftToRight);
+    Panel::setUp(*qApp); // against the rules of the panel's sheet
+    Scaled scaled(Decoration::SliderDecorationStyle((is_level ? 0 : 2) + (has_scale ? 1 : 0)));
+    scaled.slider->setValue(4);
+    const QPoint middle = scaled.slider->rect().center();
+    const QImage image = scaled.slider->grab().toImage();
+    const auto colorAt = [&](int along) {
+        return image.pixelColor(is_level ? QPoint(along, middle.y()) : QPoint(middle.x(), along));
+    };
+    const int length = is_level ? image.width() : image.height();
+    const bool is_low_first = is_level && !is_mirrored;
+    QCOMPARE(colorAt(length / 8), is_low_first ? FILLED : EMPTY);
+    QCOMPARE(colorAt(length * 7 / 8), is_low_first ? EMPTY : FILLED);
+    scaled.slider->setEnabled(false);
+    QVERIFY(scaled.slider->grab().toImage().pixelColor(middle) != FILLED);
+}
+
+void TestPanel::indicatorsHaveTheirSize()
+{
+    const PanelScale scale(20, 10);
+    Panel::setUp(*qApp);
+    VexoCheckBox box;
+    box.setChecked(true);
+    box.ensurePolished();
+    QCOMPARE(box.style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, &box), 142);
+    QCOMPARE(box.style()->pixelMetric(QStyle::PM_IndicatorHeight, nullptr, &box), 40);
+    box.resize(box.sizeHint());
+    const QImage image = box.grab().toImage(); // the image is stretched beyond its 78 px
+    QVERIFY(image.pixelColor(70, box.height() / 2 - 15) == VexoColors::C3);
+    QVERIFY(image.pixelColor(70, box.height() / 2 + 15) == VexoColors::C3);
+}
+
+void TestPanel::tapMayWanderTheSameMillimetres_data()
+{
+    QTest::addColumn<double>("tap_mm");
+    QTest::addColumn<QPoint>("way"); // px, on a panel of 4 x 8 px/mm
+    QTest::addColumn<int>("clicks");
+    QTest::newRow("pixels") << 0.0 << QPoint(10, 10) << 1;
+    QTest::newRow("beyond the pixels") << 0.0 << QPoint(0, 11) << 0;
+    QTest::newRow("5 mm") << 5.0 << QPoint(20, 40) << 1;
+    QTest::newRow("beyond 5 mm across") << 5.0 << QPoint(21, 0) << 0;
+    QTest::newRow("beyond 5 mm along") << 5.0 << QPoint(0, 41) << 0;
+}
+
+void TestPanel::tapMayWanderTheSameMillimetres()
+{
+    QFETCH(double, tap_mm);
+    QFETCH(QPoint, way);
+    QFETCH(int, clicks);
+    const PanelScale scale(4, 8);
+    PanelOptions options = none();
+    options.tap_mm = tap_mm;
+    Panel::setUp(*qApp, options);
+    VexoFunctionButton row(nullptr, VexoFunctionButton::ActionType);
+    QSignalSpy clicked(&row, &QAbstractButton::clicked);
+    touch(&row, { { 20, 15 }, QPoint(20, 15) + way, { 20, 15 } });
+    QCOMPARE(clicked.count(), clicks);
+    row.setMouseMoveDelta(3); // pixels that are given count
+    touch(&row, { { 20, 15 }, { 20, 18 } });
+    touch(&row, { { 20, 15 }, { 20, 19 } });
+    QCOMPARE(clicked.count(), clicks + 1);
+}
+
+QTEST_MAIN(TestPanel)
+#include "tst_panel.moc"

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+namespace vexo::hox::qt::ui {
+
+class ScalingInfo;
+
+/// The text of Panel::mmSheet() at the scale of \a scaling.
+QString mmSheetText(const ScalingInfo &scaling);
+
+} // namespace vexo::hox::qt::ui
