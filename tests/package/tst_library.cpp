@@ -60,7 +60,8 @@ void TestLibrary::exportsItsPublicClassesAndNothingElse_data()
     const QString system = QStringLiteral("VexoLogging");
     QStringList ui = QStringLiteral(HOXQ_CLASSES).split(QLatin1Char(' '));
     QVERIFY(ui.removeOne(system));
-    for (const char *without_symbols : { "ButtonState", "LineComponent", "Ui_UpdatePage" })
+    for (const char *without_symbols :
+        { "ButtonState", "LineComponent", "PanelOptions", "Ui_UpdatePage" })
         QVERIFY(ui.removeOne(QLatin1String(without_symbols)));
     for (const char *bundle : { "fonts", "stylesheets", "widgetimages" }) {
         ui.append(QStringLiteral("qInitResources_%1()").arg(QLatin1String(bundle)));

@@ -1,5 +1,8 @@
 #include "support/testcase.h"
 
+#include <FontLoader>
+
+#include <QApplication>
 #include <QTest>
 
 namespace {
@@ -27,11 +30,21 @@ void handle(QtMsgType type, const QMessageLogContext &context, const QString &te
     the_toolkits_handler(type, context, text);
 }
 
+// The library's own regular face, so that no test depends on the fonts of the machine.
+void setUpFont()
+{
+    QFont font = QApplication::font();
+    font.setFamily(vexo::hox::qt::ui::FontLoader::loadFont(":/fonts/UniversNextW1G-Regular.otf"));
+    QApplication::setFont(font);
+}
+
 } // namespace
 
 void TestCase::initTestCase()
 {
     the_toolkits_handler = qInstallMessageHandler(handle);
+    if (qobject_cast<QApplication *>(QCoreApplication::instance()))
+        setUpFont();
 }
 
 void TestCase::init()

@@ -332,9 +332,11 @@ void TestVexoFunctionButton::textIsWrappedInItsRow()
     row.resize(2000, row.height());
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
-    const int line = row.getLabelInstance()->height();
-    row.resize(800, row.height());
-    QTRY_VERIFY(row.getLabelInstance()->height() >= 2 * line);
+    const QLabel *label = row.getLabelInstance();
+    const int line = label->height();
+    const int too_long = label->fontMetrics().horizontalAdvance(row.text()) / 6;
+    row.resize(row.width() - label->width() + label->indent() + 5 * too_long, row.height());
+    QTRY_COMPARE(label->height(), line + label->fontMetrics().lineSpacing());
 }
 
 void TestVexoFunctionButton::textIsMeasuredLikeAnyLabel_data()
