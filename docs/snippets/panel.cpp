@@ -1,0 +1,17 @@
+//! [page]
+#include <Panel>
+
+#include <QApplication>
+#include <QStackedWidget>
+
+using namespace vexo::hox::qt::ui;
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    Panel::setUp(application); // before the first widget
+    QStackedWidget screens;
+    screens.showFullScreen();
+    return application.exec();
+}
+//! [page]
