@@ -113,7 +113,8 @@ public:
     /// What holds the checked state: check box, radio button or tick box, with an arrow the row
     /// itself. Valid until the next setButtonType().
     QAbstractButton *getButtonInstance() const;
-    /// How far the finger may move in x or y while down, px. Default 10.
+    /// How far the finger may move in x or y while down, px. Default 10; where Panel::setUp() has
+    /// set the application up, 5 mm hold in its place until a distance is set.
     int getMouseMoveDelta() const;
     /// Ignored below 3 and above 24.
     void setMouseMoveDelta(int px);

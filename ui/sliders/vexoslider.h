@@ -18,8 +18,11 @@ namespace vexo::hox::qt::ui {
 /// valueChanged() tells that index, and only this class knows real values. What is set on a QSlider
 /// pointer, by a property's name or with SLOT() reaches the underlying slider alone.
 ///
-/// The look is that of the stylesheets; to draw is left to QSlider. It may be deleted in its own
-/// signals and in sliderPressed(), but not in other ones, after which the toolkit goes on with it.
+/// The look is that of the stylesheets; to draw is left to QSlider. ":/css/vexo-AAL.qs" draws it in
+/// pixels made for 11 px/mm: with less the handle is cut and stands beside its mark, and a level
+/// slider is filled from its maximum. Panel::mmSheet(), which Panel::setUp() applies, mends all
+/// three. It may be deleted in its own signals and in sliderPressed(), but not in other ones, after
+/// which the toolkit goes on with it.
 class HOXQUI_EXPORT VexoSlider : public QSlider
 {
     Q_OBJECT
