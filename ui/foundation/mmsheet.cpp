@@ -11,6 +11,8 @@ const char *const filled = "#b4c800";
 const char *const empty = "#c8c8c8";
 const char *const off = "#dcdcdc";
 
+const char *const from_the_right = "[layoutDirection=\"1\"]";
+
 // The rules of sliders of one direction.
 class SliderRules
 {
@@ -22,24 +24,26 @@ public:
     {
     }
 
+    QString text() const
+    {
+        return rule("", "", either("height: %1px", "width: %1px").arg(across(6.5)))
+            + rule("::groove", "",
+                either("height: %1px; border: none", "width: %1px; border: none").arg(across(1)))
+            + handle() + pages();
+    }
+
     // The first and the last mark of a scale are 3 mm from its ends: to them must the middle of the
     // handle get. A scale is 10 px longer than its slider; both begin at the left, or have the same
-    // middle when upright.
-    SliderRules besideScale() const
+    // middle when upright. The handle keeps off the padding.
+    QString besideScale() const
     {
         const int surplus = m_is_level ? 0 : 10;
         SliderRules rules = *this;
         rules.m_scope = QStringLiteral("vexo--hox--qt--ui--VexoSliderDecoration[m_style=\"%1\"] ")
                             .arg(either("HorizontalWithScale", "VerticalWithScale"));
         rules.m_handle = qMax(1, 2 * (along(3) - surplus / 2));
-        rules.m_end = surplus;
-        return rules;
-    }
-
-    QString text() const
-    {
-        return rule("", "", either("height: %1px", "width: %1px").arg(across(6.5))) + groove()
-            + handle() + pages();
+        return rules.rule("::groove", "", QStringLiteral("padding-bottom: %1px").arg(surplus))
+            + rules.rule("::handle", "", rules.handleSize());
     }
 
 private:
@@ -66,31 +70,29 @@ private:
                 either("horizontal", "vertical"), QLatin1String(state), declarations);
     }
 
-    // The handle keeps off the padding.
-    QString groove() const
-    {
-        return rule("::groove", "",
-            either("border: none; height: %1px; padding: 0 %2px 0 0",
-                "border: none; width: %1px; padding: 0 0 %2px 0")
-                .arg(across(1))
-                .arg(m_end));
-    }
-
-    // Reaches over the groove by its margin and has its border inside.
     QString handle() const
     {
-        const int border = qMax(1, qMin(along(0.4), across(0.4)));
-        const int over = across(2.7);
-        const QString form = either("width: %1px; margin: -%2px 0; border-radius: %3px %4px",
-            "height: %1px; margin: 0 -%2px; border-radius: %4px %3px");
-        const QSize radius = handleRadius(across(1) + 2 * over);
-        const QString size = form.arg(qMax(1, m_handle - 2 * border))
-                                 .arg(over)
-                                 .arg(radius.width())
-                                 .arg(radius.height());
-        const QString look = QStringLiteral("; background: white; border: %1px solid ").arg(border);
-        return rule("::handle", ":enabled", size + look + QLatin1String(filled))
-            + rule("::handle", ":disabled", size + look + QLatin1String(empty));
+        return rule("::handle", "",
+                   handleSize()
+                       + QStringLiteral("; margin: %1; background: white; border: %2px solid %3")
+                             .arg(either("-%1px 0", "0 -%1px").arg(across(2.7)))
+                             .arg(border())
+                             .arg(QLatin1String(filled)))
+            + rule("::handle", ":disabled",
+                QStringLiteral("border-color: %1").arg(QLatin1String(empty)));
+    }
+
+    int border() const { return qMax(1, qMin(along(0.4), across(0.4))); }
+
+    // Its border is inside.
+    QString handleSize() const
+    {
+        const QSize radius = handleRadius(across(1) + 2 * across(2.7));
+        return either(
+            "width: %1px; border-radius: %2px %3px", "height: %1px; border-radius: %3px %2px")
+            .arg(qMax(1, m_handle - 2 * border()))
+            .arg(radius.width())
+            .arg(radius.height());
     }
 
     // Along and across: of a circle, or of a pill where the handle is narrower than wide. More than
@@ -102,51 +104,30 @@ private:
         return QSize(half, qMin(width / 2, truncated(double(float(half) * pixel_ratio))));
     }
 
-    // A level slider has its minimum at the left, an upright one at the bottom. The states outweigh
-    // the panel's sheets, whose pages bear one that the toolkit does not know.
+    // A level slider has its minimum at the left, an upright one at the bottom.
     QString pages() const
     {
-        const char *const low = m_is_level ? "::sub-page" : "::add-page";
-        const char *const high = m_is_level ? "::add-page" : "::sub-page";
-        const QString low_ends = either("border-top-left-radius: %1px; border-top-right-radius: 0; "
-                                        "border-bottom-left-radius: %1px; "
-                                        "border-bottom-right-radius: 0",
-            "border-top-left-radius: 0; border-top-right-radius: 0; "
-            "border-bottom-left-radius: %1px; border-bottom-right-radius: %1px");
-        const QString high_ends = either("border-top-left-radius: 0; "
-                                         "border-top-right-radius: %1px; "
-                                         "border-bottom-left-radius: 0; "
-                                         "border-bottom-right-radius: %1px",
-            "border-top-left-radius: %1px; border-top-right-radius: %1px; "
-            "border-bottom-left-radius: 0; border-bottom-right-radius: 0");
-        return page(low, ":enabled", filled, low_ends) + page(low, ":disabled", empty, low_ends)
-            + page(high, ":enabled", empty, high_ends) + page(high, ":disabled", off, high_ends)
-            + (m_is_level ? mirroredPages() : QString());
+        if (!m_is_level)
+            return page("::add-page", filled, empty) + page("::sub-page", empty, off);
+        return page("::sub-page", filled, empty) + page("::add-page", empty, off)
+            + page("::sub-page", empty, off, from_the_right)
+            + page("::add-page", filled, empty, from_the_right);
     }
 
-    QString page(const char *part, const char *state, const char *color, const QString &ends) const
+    // The states outweigh the panel's sheets, whose pages bear one that the toolkit does not know.
+    QString page(const char *part, const char *enabled, const char *disabled,
+        const char *condition = "") const
     {
-        return rule(part, state,
-            QStringLiteral("background: %1; ").arg(QLatin1String(color)) + ends.arg(across(1) / 2));
-    }
-
-    // From right to left the minimum is at the right, but the pages keep their sides.
-    QString mirroredPages() const
-    {
-        const auto mirrored = [this](const char *part, const char *state, const char *color) {
-            return rule(part, state, QStringLiteral("background: %1").arg(QLatin1String(color)),
-                "[layoutDirection=\"1\"]");
-        };
-        return mirrored("::sub-page", ":enabled", empty) + mirrored("::sub-page", ":disabled", off)
-            + mirrored("::add-page", ":enabled", filled)
-            + mirrored("::add-page", ":disabled", empty);
+        const QString form = QStringLiteral("background: %1; border-radius: %2px");
+        const int radius = across(1) / 2;
+        return rule(part, ":enabled", form.arg(QLatin1String(enabled)).arg(radius), condition)
+            + rule(part, ":disabled", form.arg(QLatin1String(disabled)).arg(radius), condition);
     }
 
     const ScalingInfo &m_scaling;
     bool m_is_level;
     QString m_scope; // selectors in front of QSlider
     int m_handle; // along its way, with border, px
-    int m_end = 0; // of the groove behind the last place of the handle, px
 };
 
 // Stretched, since a plain image is never drawn larger than it is.
@@ -156,8 +137,7 @@ QString indicator(const char *widget, const char *images, const QSize &px, int s
         "%1 { spacing: %3px; }\n"
         "%1::indicator { width: %4px; height: %5px; }\n"
         "%1::indicator:checked { image: none; border-image: url(:/%2_checked); }\n"
-        "%1::indicator:unchecked { image: none; "
-        "border-image: url(:/%2_unchecked); }\n")
+        "%1::indicator:unchecked { image: none; border-image: url(:/%2_unchecked); }\n")
         .arg(QLatin1String(widget), QLatin1String(images))
         .arg(spacing)
         .arg(px.width())
@@ -182,8 +162,7 @@ QString mmSheetText(const ScalingInfo &scaling)
     const SliderRules level(scaling, true);
     const SliderRules upright(scaling, false);
     return QStringLiteral("QFrame:window { background: palette(window); }\n") + level.text()
-        + upright.text() + level.besideScale().text() + upright.besideScale().text()
-        + indicators(scaling);
+        + level.besideScale() + upright.text() + upright.besideScale() + indicators(scaling);
 }
 
 } // namespace vexo::hox::qt::ui
