@@ -18,7 +18,7 @@ PROPERTY = re.compile(r"Q_PROPERTY\(\s*(?P<type>.+?) (?P<name>\w+) (?:READ (?P<g
                       r"(?: WRITE (?P<set>\w+))?")
 # What a comment names: an argument, a qualified name, a call, a name with underscores and perhaps
 # its value, a quotation, a class; and what Markdown would take for its own.
-TOKEN = re.compile(r'\\a (\w+)|\w+(?:::\w+)+(?:\(\))?|\w+\([^()]*\)|\w*_\w+(?:="[^"]*")?|"[^"]*"'
+TOKEN = re.compile(r'\\a\s+(\w+)|\w+(?:::\w+)+(?:\(\))?|\w+\([^()]*\)|\w*_\w+(?:="[^"]*")?|"[^"]*"'
                    r"|\b[A-Z]\w+\b|[<>*|]")
 
 
@@ -37,6 +37,7 @@ class Class:
     comment: str
     bases: list
     items: list = field(default_factory=list)
+    bare: list = field(default_factory=list)  # declarations that nothing describes
 
     def chosen(self, section, test):
         return [item for item in self.items
@@ -98,23 +99,60 @@ def statements(body, section):
 
 def without_body(code):
     if not is_operation(code):
-        return re.sub(r"^(static |constexpr |const(?=expr))+", "", code.rstrip(";"))
+        return code.rstrip(";")
     code = re.sub(r"\s*(\{.*\})?;?$", "", code)
     return re.sub(r"^\[\[.*?\]\] |^explicit | override$", "", code)
 
 
-def items_of(body, section):
-    """An operation without a comment shares that of the operation right above it."""
-    items, above = [], None
+def name_of(operation):
+    return re.search(r"(\w+|\boperator[^(]+)\(", operation)[1]
+
+
+def accessors(code):
+    """The operations that the description of a property speaks of too."""
+    found = PROPERTY.match(code)
+    return {found["get"], found["set"]} if found else set()
+
+
+def is_constructor(code, owner, arguments=".*"):
+    return bool(re.match(rf"(explicit )?{owner}\({arguments}\)", code))
+
+
+def is_sibling(code, above):
+    """Whether what is said of the operation above holds for this one: another overload, the setter
+    of a getter, or another name with the same arguments."""
+    if not above or not is_operation(code) or not is_operation(above.declarations[-1]):
+        return False
+    code, other = without_body(code), above.declarations[-1]
+    name, other_name = name_of(code), name_of(other)
+    stem = re.sub("^(get|is)(?=[A-Z])", "", other_name)
+    is_same_call = code.replace(name, "", 1) == other.replace(other_name, "", 1)
+    return (name in (other_name, "set" + stem[0].upper() + stem[1:])
+            or (is_same_call and not re.search(r"\(\)", code)))
+
+
+def describe(entry, body, section):
+    """Fills the items of entry. A comment describes what stands right below it."""
+    above, known = None, set()
     for part, comment, code, is_apart in statements(body, section):
-        if comment or part == "Q_SIGNALS" or is_enum(code):
+        known |= accessors(code)
+        if comment or is_enum(code):
             above = Item(part, [without_body(code)], comment)
-            items.append(above)
-        elif is_apart or not above or not is_operation(above.declarations[0]) or is_implied(code):
+            entry.items.append(above)
+        elif is_described(code, entry, known):
             above = None
-        else:
+        elif not is_apart and is_sibling(code, above):
             above.declarations.append(without_body(code))
-    return items
+        elif part != "private":
+            entry.bare.append(without_body(code))
+
+
+def is_described(code, entry, known):
+    """Whether code needs no comment: known by a property, by a base or by its form."""
+    if not is_operation(code):
+        return not is_field(code) or code.startswith(("using ", "Q_", "friend ", "class "))
+    is_plain = is_constructor(code, entry.name, r"(Q\w+ \*parent = nullptr)?")
+    return is_implied(code) or is_plain or name_of(code) in known
 
 
 def read_header(path):
@@ -124,10 +162,10 @@ def read_header(path):
                       [base.split("::")[-1] for base in bases])
         if found["key"].startswith("enum"):
             body = f"{found['key']} {found['name']} {{\n{found['body']}}};"
-            entry.items = items_of(body, "public")
+            describe(entry, body, "public")
         else:
             section = "private" if found["key"] == "class" else "public"
-            entry.items = items_of(found["body"], section)
+            describe(entry, found["body"], section)
         yield entry
 
 
@@ -241,6 +279,9 @@ def faults(classes, rows):
             yield f"{TABLE}: no header documents a class {name}"
         elif not Path(f"docs/snippets/{name.lower()}.cpp").exists():
             yield f"docs/snippets/{name.lower()}.cpp: missing"
+    for entry in classes.values():
+        for code in entry.bare:
+            yield f"{entry.header}: no comment describes {code}"
     for path in sorted({*headers()} - {entry.header for entry in classes.values()}):
         yield f"{path}: documents no class"
 

@@ -53,7 +53,7 @@ public:
     /// Shows \a state1 now and alternates both states on the ticks of the timer, until a state is
     /// set. The current state stays. Without an icon for both nothing happens.
     virtual void blink(const QString &state1, const QString &state2);
-    /// Shows \a state1 now and makes it current, and shows \a state2 1000 ms later; state1 stays
+    /// Shows \a state1 now and makes it current, and shows \a state2 1000 ms later; \a state1 stays
     /// current. Without an icon for both nothing happens.
     virtual void oneShot(const QString &state1, const QString &state2);
     /// Whether the next state, tick or end of a one-shot shows inverse icons. Default false.

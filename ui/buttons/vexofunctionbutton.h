@@ -80,6 +80,7 @@ public:
 
     static const QSizeF ICON_SIZE; ///< of the arrow, mm: 0 x 8, as wide as the image makes it
 
+    /// A row of a type, which can be changed later.
     explicit VexoFunctionButton(
         QWidget *parent = nullptr, const VexoFunctionButtonType &type = CheckboxType);
     ~VexoFunctionButton() override;

@@ -40,6 +40,7 @@ public:
     CachedVectorIcon &operator=(const CachedVectorIcon &other);
     ~CachedVectorIcon() override;
 
+    /// The file last given, empty at first.
     QString filename() const { return m_filename; }
     /// Nothing is rendered before the next size change or updateSizeCalculations().
     void setFilenameOfImageToCache(const QString &file);
@@ -61,6 +62,7 @@ public:
 
     /// px before they are cut; -1 until a size is set.
     double pxWidth() const { return m_px_width; }
+    /// As pxWidth().
     double pxHeight() const { return m_px_height; }
     /// Renders when the size differs. The size is kept in mm and the px are derived from them
     /// again, so at odd densities the rendering can be one pixel smaller than asked for. Throws as

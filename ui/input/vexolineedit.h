@@ -157,6 +157,7 @@ public:
     /// Whether dots are centred or start at the left. Default true. A change shows with the next
     /// repaint.
     bool isDrawedSecuredCentered() const { return m_draw_secured_centered; }
+    /// See isDrawedSecuredCentered().
     void setDrawSecuredCentered(bool centered);
 
     /// Shows a blinking cursor, or hides it. Default hidden. Shows with the next repaint.
@@ -168,8 +169,8 @@ public:
     void enableTrailingButtonAction();
     /// Shakes the content sideways, to say that it is wrong: what was painted last is shown while
     /// it shakes, even if the field is cleared at once. \a show_text must be true for a plain field
-    /// and false for a secret one. Lasts about \a duration_ms (100 to 2000 ms) and swings with \a
-    /// oscillations per second (3 to 20), at first by \a amplitude_px (1 to 20 px); other values
+    /// and false for a secret one. Lasts about \a duration_ms (100 to 2000 ms) and swings with
+    /// \a oscillations per second (3 to 20), at first by \a amplitude_px (1 to 20 px); other values
     /// are clamped. A shake during a shake goes on from the place of now. No cursor and no
     /// placeholder are shown meanwhile.
     void shake(unsigned int duration_ms, unsigned int oscillations, unsigned int amplitude_px,

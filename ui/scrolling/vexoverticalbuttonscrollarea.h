@@ -41,13 +41,16 @@ public:
     };
     Q_ENUM(VexoVerticalButtonScrollAreaType)
 
+    /// A jump bar with the buttons of \a type.
     explicit VexoVerticalButtonScrollArea(QWidget *parent = nullptr,
         VexoVerticalButtonScrollAreaType type = VexoVerticalButtonScrollAreaType::Alphabetic);
 
     void setType(VexoVerticalButtonScrollAreaType type);
     /// Appends a button of 60 x 60 px with \a text, translated in the context of this class.
     void addButton(const QString &text);
+    /// Appends the buttons A to Z, behind one of # if \a with_hash.
     void addAlphabeticButtons(bool with_hash);
+    /// Appends the buttons 0 to 9.
     void addNumericButtons();
     /// Appends the buttons of the type.
     void addScrollAreaContent();

@@ -28,6 +28,7 @@ class HOXQUI_EXPORT VexoVerticalScrollArea : public QScrollArea
     Q_PROPERTY(bool scroll_bar_enabled MEMBER m_scroll_bar_enabled WRITE setScrollBarEnabled)
 
 public:
+    /// \a scroll_bar_enabled as the property of that name.
     explicit VexoVerticalScrollArea(QWidget *parent = nullptr, bool scroll_bar_enabled = false);
 
     void setScrollBarEnabled(bool enabled);

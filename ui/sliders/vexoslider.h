@@ -30,6 +30,7 @@ class HOXQUI_EXPORT VexoSlider : public QSlider
 public:
     /// Vertical, as each QSlider.
     explicit VexoSlider(QWidget *parent = nullptr);
+    /// Level or upright.
     explicit VexoSlider(Qt::Orientation orientation, QWidget *parent = nullptr);
 
     /// Lowest real value. Default 0. Also sets it on the underlying slider at once.

@@ -59,6 +59,7 @@ public:
     };
     Q_ENUM(SliderDecorationStyle)
 
+    /// \a slider may be null, see setSliderWidget().
     explicit VexoSliderDecoration(QWidget *parent = nullptr,
         SliderDecorationStyle style = HorizontalWithoutScale, VexoSlider *slider = nullptr);
 

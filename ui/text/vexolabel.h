@@ -41,6 +41,7 @@ class HOXQUI_EXPORT VexoLabel : public QLabel
 
 public:
     explicit VexoLabel(QWidget *parent = nullptr);
+    /// With a text.
     explicit VexoLabel(const QString &text, QWidget *parent = nullptr);
     ~VexoLabel() override;
 
@@ -56,8 +57,8 @@ public:
     void setMmHeight(double mm);
     Qt::Alignment textAlignment() const { return m_text_alignment; }
     void setTextAlignment(Qt::Alignment alignment);
-    int fontWeight() const { return m_font_weight; }
     /// Weight as of QFont::Weight. Default QFont::Medium.
+    int fontWeight() const { return m_font_weight; }
     void setFontWeight(int weight);
 
     /// Hides \a buddy at once, and shows and hides it with the label from the next setVisible() on,
