@@ -10,6 +10,7 @@ get_property(forwards GLOBAL PROPERTY HOXQ_FORWARDS)
 install(FILES ${forwards} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui COMPONENT Devel)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/HoxqUi)
+install(FILES LICENSE NOTICES.md DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/hoxqui COMPONENT Runtime)
 install(EXPORT HoxqUi NAMESPACE Hoxq:: FILE HoxqUiTargets.cmake
   DESTINATION ${package_dir} COMPONENT Devel)
 configure_package_config_file(cmake/HoxqUiConfig.cmake.in HoxqUiConfig.cmake

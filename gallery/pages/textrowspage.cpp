@@ -77,7 +77,7 @@ void TextRowsPage::addDeviceInfo()
         }
         list->addWidget(row, 0, Qt::AlignLeft);
     };
-    add("Library", "HoxqUi 1.0.0");
+    add("Library", "HoxqUi " HOXQ_VERSION);
     add("Toolkit", QString("Qt %1").arg(qVersion()));
     add("Panel",
         QString("%1 x %2 px").arg(scaling->m_pixels.width()).arg(scaling->m_pixels.height()));

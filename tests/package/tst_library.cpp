@@ -48,6 +48,7 @@ private Q_SLOTS:
     void exportsItsPublicClassesAndNothingElse();
     void hasItsVersionAndFindsItsNeighbour_data();
     void hasItsVersionAndFindsItsNeighbour();
+    void bringsItsLicenceAndNotices();
 
 private:
     QString path(const QString &file) const { return m_folder.filePath(file); }
@@ -102,13 +103,23 @@ void TestLibrary::hasItsVersionAndFindsItsNeighbour()
 {
     const QString name = QString::fromLatin1(QTest::currentDataTag());
     const QString version = name + QLatin1String(".1");
-    QVERIFY(QFile::symLinkTarget(path(version)).endsWith(version + QLatin1String(".0.0")));
+    QVERIFY(QFile::symLinkTarget(path(version)).endsWith(name + QLatin1String("." HOXQ_VERSION)));
     const Finished readelf
         = run(QStringLiteral(HOXQ_READELF), { QStringLiteral("-dW"), path(name) });
     static const QRegularExpression soname(QStringLiteral("\\(SONAME\\).*\\[(.*)\\]"));
     static const QRegularExpression run_path(QStringLiteral("\\(R(?:UN)?PATH\\).*(\\[.*\\])"));
     QCOMPARE(soname.match(readelf.output).captured(1), version);
     QTEST(run_path.match(readelf.output).captured(1), "run_path");
+}
+
+void TestLibrary::bringsItsLicenceAndNotices()
+{
+    const auto text = [](const char *name) {
+        QFile file(QStringLiteral(HOXQ_STAGE "/share/doc/hoxqui/") + QLatin1String(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    QVERIFY(text("LICENSE").contains("The HoxqUi authors"));
+    QVERIFY(text("NOTICES.md").contains("SIL Open Font License"));
 }
 
 QTEST_APPLESS_MAIN(TestLibrary)
