@@ -1,4 +1,5 @@
-"""Writes the pages of docs/classes from the headers, or with --check compares; see scripts/docs."""
+"""Writes the pages of docs/classes from the headers, the list of images, and the code in the pages
+that are written by hand, or with --check compares; see scripts/docs."""
 
 import re
 import sys
@@ -8,6 +9,9 @@ from textwrap import indent
 
 PAGES = Path("docs/classes")
 TABLE = PAGES / "classes.txt"
+BY_HAND = [Path("README.md"), *sorted(Path("docs").glob("*.md"))]
+IMAGE_LIST = Path("docs/image-list.md")
+IMAGES_PAGE = Path("gallery/pages/imagespage.cpp")
 NOTICE = "<!-- Written by scripts/docs from {}: change it there. -->\n"
 
 CLASS = re.compile(
@@ -20,6 +24,11 @@ PROPERTY = re.compile(r"Q_PROPERTY\(\s*(?P<type>.+?) (?P<name>\w+) (?:READ (?P<g
 # its value, a quotation, a class; and what Markdown would take for its own.
 TOKEN = re.compile(r'\\a\s+(\w+)|\w+(?:::\w+)+(?:\(\))?|\w+\([^()]*\)|\w*_\w+(?:="[^"]*")?|"[^"]*"'
                    r"|\b[A-Z]\w+\b|[<>*|]")
+
+
+# <!-- code: FILE FUNCTION... --> before a block of code: what the block shows.
+EMBEDDED = re.compile(r"(?P<mark><!-- code: (?P<file>\S+)(?P<names>[\w ]*) -->\n```\w+\n)"
+                      r"(?P<code>.*?)(?P<end>^```$)", re.M | re.S)
 
 
 @dataclass
@@ -270,6 +279,63 @@ def index(rows):
     return f"{NOTICE.format(TABLE.name)}# Classes\n\n{listed}\n"
 
 
+def function_in(text, name):
+    """With the comment above it."""
+    found = re.search(rf"(?:^//(?!!)[^\n]*\n)*^\w[^\n;]*\b{name}\((?:[^\n]*\n)+?^\}}\n", text, re.M)
+    if not found:
+        raise ValueError(f"no function {name} to show")
+    return found[0]
+
+
+def code_of(found):
+    text = Path(found["file"]).read_text()
+    names = found["names"].split()
+    if names:
+        return "\n".join(function_in(text, name) for name in names)
+    if "//! [page]\n" in text:
+        return text.split("//! [page]\n")[1]
+    return re.sub(r"\A(//|#) SPDX[^\n]*\n+", "", text)
+
+
+def with_code(path):
+    return EMBEDDED.sub(lambda found: found["mark"] + code_of(found) + found["end"],
+                        path.read_text())
+
+
+def images():
+    """Yields the resource path, the kind and the drawing of each image of the bundle."""
+    for alias, file in re.findall(r'<file alias="([^"]+)">([^<]+)<',
+                                  Path("ui/resources/widgetimages.qrc.in").read_text()):
+        name = Path(file).name
+        raster = Path("ui/resources/images/raster") / name.replace(".png", ".svg")
+        drawing = Path(file.removeprefix("@PROJECT_SOURCE_DIR@/"))
+        yield f":/{alias}", name[-3:].upper(), raster if name.endswith(".png") else drawing
+
+
+def image_row(path, kind, drawing):
+    text = drawing.read_text()
+    width, height = re.search(r'viewBox="0 0 ([\d.]+) ([\d.]+)"', text).groups()
+    palette = {color.upper(): name for name, color in palette_colors()}
+    colors = {palette.get(color.upper(), color) for color in re.findall(r"#[0-9A-Fa-f]{6}\b", text)}
+    return [f"`{path}`", kind, f"{width} x {height}", ", ".join(sorted(colors)) or "none"]
+
+
+def palette_colors():
+    for name, *rgb in re.findall(r"(C\d+)\{ (\d+), (\d+), (\d+) \}",
+                                 Path("ui/foundation/vexocolors.h").read_text()):
+        yield name, "#" + "".join(f"{int(part):02x}" for part in rgb)
+
+
+def image_list():
+    intro = ("The images in the library, for `CachedVectorIcon`, `addIcon()` and the other\n"
+             "operations that take a file. Those in C0 or C13 alone are for dark ground. Sizes\n"
+             "are those of the drawing; a PNG is sharp at this one, an SVG at each.")
+    listed = table(["Path", "Kind", "Size", "Colours"], [image_row(*image) for image in images()])
+    return (f"{NOTICE.format('ui/resources/widgetimages.qrc.in')}# Images\n\n{intro}\n\n"
+            f"{listed}\n\n![Each of them on C0, C1 and C4](images/images.png)\n\n"
+            "In the gallery: `scripts/gallery --page images`.\n")
+
+
 def faults(classes, rows):
     """What is missing for the pages to be written."""
     for name in sorted(classes.keys() | rows.keys()):
@@ -286,7 +352,19 @@ def faults(classes, rows):
         yield f"{path}: documents no class"
 
 
+def dead_links():
+    for path in BY_HAND:
+        text = re.sub(r"^```.*?^```$", "", path.read_text(), flags=re.M | re.S)
+        for link in re.findall(r"\]\(([^)#:]+)[^)]*\)", text):
+            if not (path.parent / link).exists():
+                yield f"{path}: leads to {link}, which is missing"
+
+
 def missing_pictures(rows):
+    shown = IMAGES_PAGE.read_text()
+    for path, *_ in images():
+        if f'"{path}"' not in shown:
+            yield f"{IMAGES_PAGE}: does not show {path}"
     for page in sorted({page for need, page in rows.values()} - {"-"}):
         if not Path(f"docs/images/{page}.png").exists():
             yield f"docs/images/{page}.png: missing; scripts/docs --pictures renders it"
@@ -316,9 +394,11 @@ def main(mode):
         pages = {PAGES / f"{name}.md": page_of(classes[name], classes, page)
                  for name, (need, page) in rows.items()}
         pages[PAGES / "README.md"] = index(rows)
+        pages |= {path: with_code(path) for path in BY_HAND if path != IMAGE_LIST}
+        pages[IMAGE_LIST] = image_list()
         if mode != "--check":
             write(pages)
-        findings = [*differences(pages), *missing_pictures(rows)]
+        findings = [*differences(pages), *missing_pictures(rows), *dead_links()]
     for finding in findings:
         print(finding)
     return 1 if findings else 0

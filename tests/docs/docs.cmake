@@ -3,3 +3,7 @@ file(GLOB snippets CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/snippets/*.cpp)
 add_library(docsnippets OBJECT ${snippets})
 hoxq_compile(docsnippets)
 target_link_libraries(docsnippets PRIVATE Hoxq::Ui)
+
+# The example of the tutorial, as it stands.
+hoxq_test(docs/tst_firstpanel.cpp)
+target_include_directories(tst_firstpanel PRIVATE ${PROJECT_SOURCE_DIR})

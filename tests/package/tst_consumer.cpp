@@ -16,10 +16,11 @@ QStringList pkgConfig(const QString &what)
 }
 
 /// Configures the application in \a folder with the \a version asked for.
-Finished configure(const QString &folder, const char *version)
+Finished configure(const QString &folder, const char *version,
+    const QString &source = QStringLiteral(HOXQ_CONSUMER))
 {
     return run(QStringLiteral(HOXQ_CMAKE),
-        { QStringLiteral("-S" HOXQ_CONSUMER), QStringLiteral("-B"), folder,
+        { QStringLiteral("-S"), source, QStringLiteral("-B"), folder,
             QStringLiteral("-G" HOXQ_GENERATOR), QStringLiteral("-DCMAKE_PREFIX_PATH=" HOXQ_STAGE),
             QStringLiteral("-DCMAKE_CXX_COMPILER=" HOXQ_COMPILER),
             QStringLiteral("-DCMAKE_CXX_COMPILER_LAUNCHER=" HOXQ_LAUNCHER),
@@ -46,6 +47,7 @@ class TestConsumer : public QObject
 
 private Q_SLOTS:
     void findsThePackageWithCMake();
+    void buildsTheExample();
     void findsThePackageWithPkgConfig();
     void laterMajorVersionIsRefused();
     void everyClassHasAForwardingHeader();
@@ -74,6 +76,16 @@ void TestConsumer::findsThePackageWithCMake()
     const Finished built = run(QStringLiteral(HOXQ_CMAKE), { QStringLiteral("--build"), folder });
     QVERIFY2(built.exit_code == 0, qPrintable(built.output));
     verifyRuns(folder + QLatin1String("/consumer"));
+}
+
+void TestConsumer::buildsTheExample()
+{
+    const QString folder = m_dir.filePath(QStringLiteral("example"));
+    const QString source = QStringLiteral(HOXQ_SOURCE "/examples/first-panel");
+    const Finished configured = configure(folder, "1", source);
+    QVERIFY2(configured.exit_code == 0, qPrintable(configured.output));
+    const Finished built = run(QStringLiteral(HOXQ_CMAKE), { QStringLiteral("--build"), folder });
+    QVERIFY2(built.exit_code == 0, qPrintable(built.output));
 }
 
 void TestConsumer::findsThePackageWithPkgConfig()

@@ -21,7 +21,8 @@ class VisibleBuddies;
 /// the container 25 mm high, a label is wrapped in the caption's size at light weight. A payload
 /// that has no text of its own is named after the caption for assistive technology. The container
 /// shows and hides other widgets together with itself. The caption's object name is
-/// "vexoLabeledContainerLabel".
+/// "vexoLabeledContainerLabel". The panel's sheet gives the container the ground C1 while its
+/// window is active.
 class HOXQUI_EXPORT VexoLabeledContainer : public QWidget
 {
     Q_OBJECT
