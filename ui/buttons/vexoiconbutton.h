@@ -14,7 +14,8 @@ class StyledBackground;
 /// The panel's plain icon button: draws nothing but the icon of its state, centred. While pressed
 /// or checked it shows the icon of "CLICKED", or without one the inverse icon in a one-pixel
 /// outline on the ground as it is; while disabled the icon of "INACTIVE" if there is one; otherwise
-/// "DEFAULT". A finger that slides up to 20 px off the button still clicks.
+/// "DEFAULT". A finger that slides up to 20 px off the button still clicks. The width that it asks
+/// for is that of iconSize(), whatever its icons: set its size.
 ///
 /// The paint itself sets the state that goes with the look. So another state that an application
 /// sets, and a blink started before the first paint, give way to "DEFAULT" at the next paint of a

@@ -31,10 +31,11 @@ class VisibleBuddies;
 /// label that does not fit on one line is cut, between any two characters, into two.
 ///
 /// Its height is twice the sum of corner radius and vertical margin: 12 mm at first, 10 mm once it
-/// has an image, whose margin is smaller. It takes no focus, shows and hides other widgets with
-/// itself, rings the feedback delegator that was installed when it was constructed, and a finger
-/// that slides up to 20 px off it still clicks. It may be deleted in its pressed(), released() and
-/// clicked(). Assistive technology reads the second text as its description.
+/// has an image, whose margin is smaller. The width that it asks for leaves no room for its
+/// margins: set one. It takes no focus, shows and hides other widgets with itself, rings the
+/// feedback delegator that was installed when it was constructed, and a finger that slides up to 20
+/// px off it still clicks. It may be deleted in its pressed(), released() and clicked(). Assistive
+/// technology reads the second text as its description.
 ///
 /// Images are rendered when they are set, one for each ButtonState; a state without one shows the
 /// image of Standard. A button that has images but neither one for its state nor one for Standard
