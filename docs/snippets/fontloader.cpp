@@ -7,7 +7,8 @@
 
 using namespace vexo::hox::qt::ui;
 
-// Once, after the application object: all texts are light and 7 pt high from here on.
+// Part of Panel::setUp(). Without it: once, after the application object; all texts are light and
+// 7 pt high from here on.
 void useFonts()
 {
     FontLoader();

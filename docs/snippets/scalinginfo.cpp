@@ -5,7 +5,8 @@
 
 using namespace vexo::hox::qt::ui;
 
-// Where the screen reports wrong millimetres or none: before the first widget, say what it has.
+// Where the screen reports wrong millimetres, and Panel::setUp() is not told either: before the
+// first widget, say what it has.
 void describePanel()
 {
     ScalingInfo::inst()->setPixels(1280, 800);
