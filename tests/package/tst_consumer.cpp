@@ -7,14 +7,6 @@
 
 namespace {
 
-QStringList pkgConfig(const QString &what)
-{
-    const Finished result = run(QStringLiteral("pkg-config"), { what, QStringLiteral("hoxqui") },
-        QString(), { QStringLiteral("PKG_CONFIG_PATH=" HOXQ_STAGE "/" HOXQ_LIBDIR "/pkgconfig") });
-    return result.exit_code == 0 ? result.output.simplified().split(QLatin1Char(' '))
-                                 : QStringList();
-}
-
 /// Configures the application in \a folder with the \a version asked for.
 Finished configure(const QString &folder, const char *version,
     const QString &source = QStringLiteral(HOXQ_CONSUMER))
@@ -28,15 +20,18 @@ Finished configure(const QString &folder, const char *version,
             QStringLiteral("-DHOXQ_VERSION=") + QLatin1String(version) });
 }
 
-/// Compiles as the library is compiled.
+/// Compiles as the library is compiled. A shell reads the words of pkg-config, as make's does.
 Finished compile(const QStringList &arguments)
 {
-    const QString command = QStringLiteral(HOXQ_LAUNCHER ";" HOXQ_COMPILER ";");
-    const QString flags = QStringLiteral("-std=c++17 -fPIC -Wall -Wextra -Wpedantic -Werror ");
-    const QStringList words = command.split(QLatin1Char(';'), Qt::SkipEmptyParts)
-        + (flags + QLatin1String(HOXQ_FLAGS)).split(QLatin1Char(' '), Qt::SkipEmptyParts)
-        + pkgConfig(QStringLiteral("--cflags")) + arguments;
-    return run(words.first(), words.mid(1));
+    const QString compiler = QStringLiteral(HOXQ_LAUNCHER ";" HOXQ_COMPILER);
+    const QString flags
+        = QStringLiteral("-std=c++17 -fPIC -Wall -Wextra -Wpedantic -Werror " HOXQ_FLAGS);
+    const QString line = QStringLiteral("eval '\"$@\"' $(pkg-config --cflags --libs hoxqui)");
+    return run(QStringLiteral("sh"),
+        QStringList{ QStringLiteral("-c"), line, QStringLiteral("sh") }
+            + compiler.split(QLatin1Char(';'), Qt::SkipEmptyParts)
+            + flags.split(QLatin1Char(' '), Qt::SkipEmptyParts) + arguments,
+        QString(), { QStringLiteral("PKG_CONFIG_PATH=" HOXQ_STAGE "/" HOXQ_LIBDIR "/pkgconfig") });
 }
 
 } // namespace
@@ -91,9 +86,8 @@ void TestConsumer::buildsTheExample()
 void TestConsumer::findsThePackageWithPkgConfig()
 {
     const QString program = m_dir.filePath(QStringLiteral("consumer"));
-    const Finished built = compile(
-        QStringList{ QStringLiteral(HOXQ_CONSUMER "/main.cpp"), QStringLiteral("-o"), program }
-        + pkgConfig(QStringLiteral("--libs")));
+    const Finished built
+        = compile({ QStringLiteral(HOXQ_CONSUMER "/main.cpp"), QStringLiteral("-o"), program });
     QVERIFY2(built.exit_code == 0, qPrintable(built.output));
     verifyRuns(program, { QStringLiteral("LD_LIBRARY_PATH=" HOXQ_STAGE "/" HOXQ_LIBDIR) });
 }
