@@ -8,6 +8,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # One cache for all build folders: they lie at the same depth, so relative paths in them agree.
 export CCACHE_DIR=${CCACHE_DIR:-${HOME:-$PWD/build}/.cache/ccache}
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+export CCACHE_SLOPPINESS=pch_defines,time_macros # else nothing behind a precompiled header is kept
 
 # The comment at the head of the script is its help.
 usage() {

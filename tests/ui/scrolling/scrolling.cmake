@@ -1,3 +1,0 @@
-foreach(class vexoverticalbuttonscrollarea vexoverticalscrollarea)
-  hoxq_test(ui/scrolling/tst_${class}.cpp)
-endforeach()

@@ -1,3 +1,0 @@
-foreach(class vexoslider vexosliderdecoration)
-  hoxq_test(ui/sliders/tst_${class}.cpp)
-endforeach()
