@@ -1,0 +1,12 @@
+#pragma once
+
+/// The clock of a test: from start() on it moves only as it is told, and by a little at each look.
+/// So what the toolkit times, as its scroller does, is the same on each machine, and waiting takes
+/// no time. Sources that use it are linked with virtualclock.cpp.
+namespace virtualclock {
+
+void start();
+/// Lets \a ms pass, and what is due meanwhile happen.
+void pass(int ms);
+
+} // namespace virtualclock
