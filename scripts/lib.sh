@@ -1,5 +1,6 @@
 # shellcheck shell=bash
-# Sourced by the scripts beside it: starts in the root of the tree, says what goes on, builds.
+# Sourced by the scripts beside it: starts in the root of the tree, shows the help when asked for
+# it, says what goes on, builds.
 set -euo pipefail
 NAME=scripts/$(basename "$0")
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -7,13 +8,9 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 # One cache for all build folders: they lie at the same depth, so relative paths in them agree.
 export CCACHE_DIR=${CCACHE_DIR:-${HOME:-$PWD/build}/.cache/ccache}
+mkdir -p "$CCACHE_DIR" 2>/dev/null || CCACHE_DIR=$PWD/build/ccache # the account has no home
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
 export CCACHE_SLOPPINESS=pch_defines,time_macros # else nothing behind a precompiled header is kept
-
-# The comment at the head of the script is its help.
-usage() {
-    sed -n '2,/^[^#]/s/^# \{0,1\}//p' "scripts/$(basename "$0")"
-}
 
 phase() {
     printf '== [%d:%02d] %s\n' $((SECONDS / 60)) $((SECONDS % 60)) "$*"
@@ -25,16 +22,41 @@ fail() {
     exit 1
 }
 
-# build FOLDER TARGET [CMAKE OPTION...]
-build() {
-    local folder=$1 target=$2 log=$1/configure.log
-    shift 2
+# The command line is wrong.
+refuse() {
+    printf '%s: %s, see --help\n' "$NAME" "$*" >&2
+    exit 2
+}
+
+# no_options ARGUMENT...
+no_options() {
+    local argument
+    for argument; do
+        [[ $argument != -* ]] || refuse "unknown option $argument"
+    done
+}
+
+# writable FOLDER
+writable() {
+    mkdir -p "$1" 2>/dev/null || true
+    [ -w "$1" ] || fail "$PWD/$1 cannot be created or written to"
+}
+
+# configure FOLDER [CMAKE OPTION...]
+configure() {
+    local folder=$1 log=$1/configure.log
+    shift
+    writable "$folder"
     phase "configuring $folder"
-    mkdir -p "$folder"
     if ! cmake -G Ninja -S . -B "$folder" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@" &>"$log"; then
         cat "$log"
         fail "$folder could not be configured: $(cmake_error "$log")"
     fi
+}
+
+# build FOLDER [TARGET]
+build() {
+    local folder=$1 target=${2:-all}
     phase "building $target in $folder"
     cmake --build "$folder" --target "$target" \
         || fail "$folder could not be built: $(build_error "$folder" "$target")"
@@ -54,3 +76,10 @@ build_error() {
         /error: |undefined reference/ && !reason { reason = $0 }
         END { print reason ? reason : text }'
 }
+
+# The comment at the head of the script is its help.
+case ${1:-} in -h | --help)
+    sed -n '2,/^[^#]/s/^# \{0,1\}//p' "$NAME"
+    exit
+    ;;
+esac
