@@ -4,7 +4,7 @@
 
 BUILD_PACKAGES=(g++ cmake ninja-build ccache qtbase5-dev libqt5svg5-dev librsvg2-bin zlib1g-dev
     fonts-inter fonts-droid-fallback)
-DESIGNER_PACKAGES=(extra-cmake-modules qttools5-dev)
+DESIGNER_PACKAGES=(qttools5-dev)
 STYLE_PACKAGES=(clang-format python3)
 # The tests read symbols with binutils, link through pkg-config and fall back to DejaVu.
 TEST_PACKAGES=("${BUILD_PACKAGES[@]}" "${DESIGNER_PACKAGES[@]}" "${STYLE_PACKAGES[@]}"

@@ -117,7 +117,8 @@ QVariant otherEnumerator(const QMetaProperty &property, int current)
     return QVariant();
 }
 
-// \a step keeps the value for the stylesheet apart from the one written by name.
+} // namespace
+
 QVariant otherValue(const QMetaProperty &property, const QVariant &value, int step)
 {
     if (property.isEnumType())
@@ -147,6 +148,8 @@ QVariant otherValue(const QMetaProperty &property, const QVariant &value, int st
         return QVariant();
     }
 }
+
+namespace {
 
 QString cssText(const QMetaProperty &property, const QVariant &value)
 {

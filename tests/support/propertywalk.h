@@ -1,10 +1,13 @@
 #pragma once
 
 #include <QStringList>
+#include <QVariant>
 #include <QWidget>
 
 #include <functional>
 #include <vector>
+
+class QMetaProperty;
 
 /// A class with properties, and how to make one on a parent.
 struct WalkedClass
@@ -15,6 +18,10 @@ struct WalkedClass
 
 /// Every exported widget class. A new class adds its line here.
 const std::vector<WalkedClass> &walkedClasses();
+
+/// A value for \a property that is not \a value; another one for each \a step. Invalid if the type
+/// of the property is not known.
+QVariant otherValue(const QMetaProperty &property, const QVariant &value, int step);
 
 /// Walks the properties that the class of \a widget declares itself: each must be designable,
 /// scriptable and stored, take another value by name and give it back, and take one from a

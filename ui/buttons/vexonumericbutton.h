@@ -22,7 +22,8 @@ class HOXQUI_EXPORT VexoNumericButton : public QWidget
 
     /// Colour of the number, given to its label as a stylesheet. Default C3.
     Q_PROPERTY(QColor text_color READ textColor WRITE setTextColor)
-    /// Default 0. Clamped to the limits; emits nothing.
+    /// Default 0. Clamped to the limits; emits nothing. A form sets it before the limits, so set it
+    /// in code.
     Q_PROPERTY(int current_value READ value WRITE setValue)
     /// Default 0. A change shows with the next value or press.
     Q_PROPERTY(int minimum READ minimum WRITE setMinimum)

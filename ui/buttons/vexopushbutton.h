@@ -81,7 +81,8 @@ class HOXQUI_EXPORT VexoPushButton // clazy:exclude=copyable-polymorphic
     Q_PROPERTY(bool m_align_image_right READ alignImageRight WRITE setAlignImageRight)
     /// Outline inside the margin; without it the whole widget is filled. Default true.
     Q_PROPERTY(bool m_draw_button_border READ drawButtonBorder WRITE setDrawButtonBorder)
-    /// Space at the sides of the texts, mm. Default 0.0. Shows with the next paint.
+    /// Space at the sides of the texts, mm. Default 0.0. Shows with the next paint. Qt Designer
+    /// knows no float and does not offer it.
     Q_PROPERTY(float m_text_mm_margin_x READ textMmMarginX WRITE setTextMmMarginX)
     /// Of each text. Default Qt::AlignCenter. Shows with the next paint.
     Q_PROPERTY(Qt::Alignment m_text_alignment READ textAlignment WRITE setTextAlignment)

@@ -54,7 +54,8 @@ class HOXQUI_EXPORT VexoLineEdit // clazy:exclude=copyable-polymorphic
     /// ends m_underscores. Secret fields do not draw it.
     Q_PROPERTY(QString m_placeholder_text READ placeholderText WRITE setPlaceholderText)
     /// Number of underscores that are the placeholder, drawn with blanks between them. Default 0, a
-    /// plain placeholder. A negative number is ignored, more than 32767 count as that many.
+    /// plain placeholder. A negative number is ignored, more than 32767 count as that many. A form
+    /// sets its texts last, so leave the placeholder text alone there.
     Q_PROPERTY(int m_underscores MEMBER m_underscores WRITE setUnderscores)
     /// Default C2.
     Q_PROPERTY(QColor m_placeholder_color MEMBER m_placeholder_color WRITE setPlaceholderColor)

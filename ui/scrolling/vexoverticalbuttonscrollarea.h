@@ -40,6 +40,11 @@ public:
         AlphabeticWithHash ///< #, then A to Z
     };
     Q_ENUM(VexoVerticalButtonScrollAreaType)
+    /// The names of the types in forms.
+    static constexpr auto None = VexoVerticalButtonScrollAreaType::None;
+    static constexpr auto Alphabetic = VexoVerticalButtonScrollAreaType::Alphabetic;
+    static constexpr auto Numbers = VexoVerticalButtonScrollAreaType::Numbers;
+    static constexpr auto AlphabeticWithHash = VexoVerticalButtonScrollAreaType::AlphabeticWithHash;
 
     /// A jump bar with the buttons of \a type.
     explicit VexoVerticalButtonScrollArea(QWidget *parent = nullptr,

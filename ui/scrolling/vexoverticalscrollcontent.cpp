@@ -27,4 +27,10 @@ void VexoVerticalScrollContent::centered()
     layout()->invalidate();
 }
 
+void VexoVerticalScrollContent::addFromForm(QWidget *row)
+{
+    if (row && layout()->indexOf(row) < 0)
+        layout()->addWidget(row);
+}
+
 } // namespace vexo::hox::qt::ui

@@ -19,6 +19,9 @@ public:
 
     /// Centres rows that are narrower than the area.
     void centered();
+    /// Adds \a row at the bottom of layout() unless it is there. Forms call it for each child of
+    /// the content; null is ignored.
+    Q_INVOKABLE void addFromForm(QWidget *row);
 };
 
 } // namespace vexo::hox::qt::ui

@@ -168,6 +168,11 @@ void VexoSliderDecoration::setSliderWidget(VexoSlider *slider)
     add(Item::Slider, slider, isVertical() ? Qt::AlignHCenter : Qt::Alignment());
 }
 
+void VexoSliderDecoration::addFromForm(QWidget *slider)
+{
+    setSliderWidget(qobject_cast<VexoSlider *>(slider));
+}
+
 void VexoSliderDecoration::setSliderUnit(const QString &unit)
 {
     clearUnit();

@@ -85,6 +85,9 @@ public:
     /// Finishes the configuration of \a slider, sizes it and makes it a child. Null is ignored. A
     /// slider set before is hidden; it stays a child until it is given another parent.
     void setSliderWidget(VexoSlider *slider);
+    /// setSliderWidget() for a VexoSlider. Forms call it for each child of the decoration; another
+    /// widget and null are ignored.
+    Q_INVOKABLE void addFromForm(QWidget *slider);
     /// Adds \a unit in 9 pt, and describes the slider with it for assistive technology.
     void setSliderUnit(const QString &unit);
     /// The labels of the scale from start to end. Ignored while there is no scale: in a style

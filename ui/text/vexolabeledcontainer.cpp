@@ -112,6 +112,12 @@ void VexoLabeledContainer::removeWidget()
     m_payload = nullptr;
 }
 
+void VexoLabeledContainer::addFromForm(QWidget *widget)
+{
+    if (widget && !m_layout->itemAtPosition(2, 1))
+        swapWidget(nullptr, widget);
+}
+
 QWidget *VexoLabeledContainer::addVisibleBuddy(QWidget *buddy)
 {
     m_visible_buddies->add(buddy);

@@ -70,6 +70,9 @@ public:
     void swapWidget(QWidget *old_widget, QWidget *new_widget);
     /// The payload is hidden, loses its parent and belongs to the caller.
     void removeWidget();
+    /// Shows \a widget as the payload if there is none. Forms call it for each child of the
+    /// container; null is ignored, a second child stays where the form puts it.
+    Q_INVOKABLE void addFromForm(QWidget *widget);
 
     /// Hides \a buddy at once, and shows and hides it with the container from the next setVisible()
     /// on, in the order of the calls. Not owned; null is ignored. Returns \a buddy.

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QStringList>
+
+/// The classes among the public headers that forms can hold.
+QStringList publicWidgetsForForms();
