@@ -22,6 +22,9 @@ class TextBlock;
 /// background of standard keys, all others that of special keys. A pressed or latched (checked) key
 /// is dark and shows its inverse icon.
 ///
+/// The light edge is as wide as the key, so on a dark ground it shows beside the rounded corners:
+/// set is_standard_border_drawing_disabled to false there, which draws the cap without edges.
+///
 /// The label is text(), drawn in the application's font at light weight. The width is what the
 /// toolkit needs for it in the widget's font, 3 to 5 mm for a letter in 7 pt: set one.
 class HOXQUI_EXPORT VexoKeyboardButton : public ActiveButton

@@ -39,6 +39,10 @@ class VexoIconButton;
 /// toolkit's own cursor, which is not shown. textEditWanted() tells that the user touched the
 /// field. A press rings the feedback delegator that was installed when the field was constructed.
 ///
+/// The library's main stylesheet gives the field a ground of C1, which shows as light corners on
+/// any other ground: there add "vexo--hox--qt--ui--VexoLineEdit { background: transparent; }" after
+/// it.
+///
 /// The height is fixed: radius and vertical margin twice, and the frame line. Fields may be deleted
 /// in each of their own signals. For assistive technology the field is a text, with the placeholder
 /// as its description, or a password whose content is not told.

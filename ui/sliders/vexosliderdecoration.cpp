@@ -146,6 +146,11 @@ void VexoSliderDecoration::setGridLayout()
     m_unit_spacer = nullptr;
     m_layout = new QGridLayout(this);
     tighten(m_layout);
+    // Room that is left over is behind all cells: unit and images stay at the slider.
+    if (isHorizontal())
+        m_layout->setColumnStretch(3, 1);
+    else if (isVertical())
+        m_layout->setRowStretch(3, 1);
 }
 
 void VexoSliderDecoration::setSliderWidget(VexoSlider *slider)

@@ -25,6 +25,8 @@ class VexoSlider;
 /// Level, the minimum image is left and the maximum image right of the slider; upright, the maximum
 /// image is on top. The unit stands where the maximum image does, so use one of the two.
 ///
+/// In a row that is wider all lies at the left, in a column that is higher at the top.
+///
 /// What is set again replaces what was there. A rebuilt arrangement shows with the next layout.
 class HOXQUI_EXPORT VexoSliderDecoration : public QWidget
 {

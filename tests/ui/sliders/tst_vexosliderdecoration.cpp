@@ -72,6 +72,8 @@ class TestVexoSliderDecoration : public TestCase
 
 private Q_SLOTS:
     void partsHaveTheirCells();
+    void imagesStayAtTheSlider_data();
+    void imagesStayAtTheSlider();
     void gapAndShiftFollowTheMinimumImage_data();
     void gapAndShiftFollowTheMinimumImage();
     void imageIsRenderedAtItsMeasures();
@@ -98,6 +100,36 @@ void TestVexoSliderDecoration::partsHaveTheirCells()
         if (style < 4)
             QCOMPARE(shown.slider->size(), style < 2 ? QSize(560, 130) : QSize(65, 260));
     }
+}
+
+void TestVexoSliderDecoration::imagesStayAtTheSlider_data()
+{
+    QTest::addColumn<int>("style");
+    QTest::addColumn<QSize>("more"); // than it asks for, px
+    QTest::newRow("level, wide") << int(Deco::HorizontalWithoutScale) << QSize(500, 0);
+    QTest::newRow("level with scale, wide") << int(Deco::HorizontalWithScale) << QSize(500, 0);
+    QTest::newRow("upright, high") << int(Deco::VerticalWithoutScale) << QSize(0, 500);
+    QTest::newRow("upright with scale, high") << int(Deco::VerticalWithScale) << QSize(0, 500);
+}
+
+void TestVexoSliderDecoration::imagesStayAtTheSlider()
+{
+    QFETCH(int, style);
+    QFETCH(QSize, more);
+    Shown shown(style);
+    shown.deco.setSliderUnit(QStringLiteral("%"));
+    shown.settle();
+    const auto places = [&shown] {
+        QVector<QPoint> found;
+        for (const QWidget *part :
+            { shown.label("MinIcon"), shown.label("MaxIcon"), shown.label("Unit") })
+            found += part->mapTo(&shown.deco, QPoint()) - shown.slider->pos();
+        return found;
+    };
+    const QVector<QPoint> tight = places();
+    shown.deco.resize(shown.deco.sizeHint() + more);
+    PaintCounter().take(nullptr);
+    QCOMPARE(places(), tight);
 }
 
 void TestVexoSliderDecoration::gapAndShiftFollowTheMinimumImage_data()
