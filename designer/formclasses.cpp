@@ -54,8 +54,8 @@ const std::vector<FormClass> &formClasses()
         formClass<VexoFunctionButton>(
             BUTTONS, { 70, 0 }, "button_text=Row; m_button_type=ActionType", 14, "button_text=ab"),
         formClass<VexoHorizontalTextIconButton>(BUTTONS, { 70, 0 },
-            "left_side_text=Text; right_side_text=Value", 14,
-            "left_side_text=a; right_side_text=", dressWithArrow),
+            "left_side_text=Text; right_side_text=Value; mm_indent=3", 14,
+            "left_side_text=a; right_side_text=; mm_indent=1", dressWithArrow),
         formClass<VexoDesignVectorButton>(BUTTONS, { 70, 0 }, "text=Text; subtext=Subtext", 18,
             "text=ab; subtext=cd; mm_icon_width=8; mm_indent=12", dressWithMenu),
         formClass<VexoCenteredVectorButton>(BUTTONS, {},
@@ -82,7 +82,7 @@ const std::vector<FormClass> &formClasses()
         formClass<VexoLabel>(TEXT, { 30, 0 }, "text=Label", 7, "text=ab; indent_in_mm=1"),
         formClass<VexoHorizontalLabelWidget>(TEXT, {},
             "left_label_text=Text; right_label_text=Value; left_label_mm_width=30; "
-            "right_label_mm_width=30",
+            "right_label_mm_width=30; mm_indent=3",
             14,
             "left_label_text=a; right_label_text=b; left_label_mm_width=8; right_label_mm_width=6; "
             "mm_indent=1"),

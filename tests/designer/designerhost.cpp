@@ -16,7 +16,9 @@
 
 DesignerHost::DesignerHost()
 {
-    QCoreApplication::addLibraryPath(QStringLiteral(HOXQ_PLUGINS));
+    const QStringList paths = QCoreApplication::libraryPaths();
+    // Alone, whatever other plugins the machine has.
+    QCoreApplication::setLibraryPaths({ QStringLiteral(HOXQ_PLUGINS) });
     m_core = QDesignerComponents::createFormEditor(&m_top);
     QDesignerComponents::initializeResources();
     m_core->setTopLevel(&m_top);
@@ -24,6 +26,7 @@ DesignerHost::DesignerHost()
     m_core->setPropertyEditor(QDesignerComponents::createPropertyEditor(m_core, &m_top));
     new QDesignerIntegration(m_core, &m_top);
     QDesignerComponents::initializePlugins(m_core);
+    QCoreApplication::setLibraryPaths(paths);
     openEmpty();
 }
 
