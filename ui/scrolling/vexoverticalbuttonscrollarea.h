@@ -40,10 +40,13 @@ public:
         AlphabeticWithHash ///< #, then A to Z
     };
     Q_ENUM(VexoVerticalButtonScrollAreaType)
-    /// The names of the types in forms.
+    /// Its name in forms, which know no name of the enumeration.
     static constexpr auto None = VexoVerticalButtonScrollAreaType::None;
+    /// Its name in forms.
     static constexpr auto Alphabetic = VexoVerticalButtonScrollAreaType::Alphabetic;
+    /// Its name in forms.
     static constexpr auto Numbers = VexoVerticalButtonScrollAreaType::Numbers;
+    /// Its name in forms.
     static constexpr auto AlphabeticWithHash = VexoVerticalButtonScrollAreaType::AlphabeticWithHash;
 
     /// A jump bar with the buttons of \a type.
