@@ -102,6 +102,7 @@ def statements(body, section):
                 name = "" if is_complete(code) else f"- \\a {re.match(r'[^ ,=]+', line)[0]}:"
                 comment.append(f"///{name}{behind}")
             if is_complete(code):
+                code = code.removeprefix("Q_INVOKABLE ")
                 yield section, uncommented(comment), code, is_apart
                 comment, code, is_apart = [], "", False
 

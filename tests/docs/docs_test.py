@@ -31,6 +31,8 @@ public:
     /// gap px.
     void draw(int n, int gap);
     void draw(int n);
+    /// For forms.
+    Q_INVOKABLE void addFromForm(QWidget *widget);
     /// Weight of the text.
     int fontWeight() const { return 50; }
     void setFontWeight(int weight);
@@ -63,6 +65,7 @@ class DocsTest(unittest.TestCase):
                                                     "QString toLower(const QString &text)",
                                                     "QString toLower(int number)"])
         self.assertEqual(self.page.count("Draws"), 1)
+        self.assertIn("`void addFromForm(QWidget *widget)`", self.page)
 
     def test_member_that_nothing_describes_is_told(self):
         self.assertEqual(self.widget.bare, ["void reset()"])
