@@ -1,6 +1,7 @@
 #include "ui/buttons/measuredpushbutton.h"
 
 #include "ui/buttons/tone_p.h"
+#include "ui/foundation/press_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
 
 #include <QMouseEvent>
@@ -57,46 +58,32 @@ void MeasuredPushButton::setVisible(bool visible)
     m_visible_buddies->setVisible(visible);
 }
 
-void MeasuredPushButton::changeEvent(QEvent *event)
-{
-    QToolButton::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange && !isEnabled())
-        stopMeasuring();
-}
-
-void MeasuredPushButton::hideEvent(QHideEvent *event)
-{
-    QToolButton::hideEvent(event);
-    if (m_press_time.isValid())
-        setDown(false);
-    stopMeasuring();
-}
-
 void MeasuredPushButton::mousePressEvent(QMouseEvent *event)
 {
-    if (event->button() != Qt::LeftButton) {
-        QToolButton::mousePressEvent(event);
+    if (!Press::begin(this, event))
         return;
-    }
     const QPointer<MeasuredPushButton> self(this);
-    m_press_time.start(); // a slot of pressed() that hides or disables the button ends the press
+    m_press_time.start(); // a slot of pressed() may run the event loop until the release
     QToolButton::mousePressEvent(event);
-    if (self && m_press_time.isValid())
+    if (self && Press::isOn(this))
         startMeasuring();
 }
 
 void MeasuredPushButton::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (!m_press_time.isValid() || event->button() != Qt::LeftButton) {
-        QToolButton::mouseReleaseEvent(event);
+    const Press::End end = Press::end(this, *event);
+    if (end == Press::Late)
         return;
-    }
-    const auto elapsed = static_cast<unsigned int>(m_press_time.elapsed());
+    const bool is_released = end == Press::Released;
+    const auto elapsed = is_released ? static_cast<unsigned int>(m_press_time.elapsed()) : 0;
     // Stopped before the slots run: they may open a dialog, whose event loop would still report a
     // long press.
-    stopMeasuring();
+    if (end != Press::Unknown)
+        stopMeasuring();
     const QPointer<MeasuredPushButton> self(this);
     QToolButton::mouseReleaseEvent(event);
+    if (!is_released)
+        return;
     if (self)
         mouseReleaseEvent(elapsed);
     if (self)
@@ -125,7 +112,6 @@ void MeasuredPushButton::startMeasuring()
 
 void MeasuredPushButton::stopMeasuring()
 {
-    m_press_time.invalidate();
     m_pulse_timer.stop();
     m_long_press_timer.stop();
 }

@@ -19,8 +19,9 @@ class VisibleBuddies;
 ///
 /// A press shorter than 300 ms gives pressedDelayed(t), keyPressHandling(t, true, false) at the
 /// release; a longer one gives keyPressHandling(t, false, true) after 300 ms, then
-/// pressedDelayed(t), keyPressHandling(t, false, false) at the release. Hiding or disabling the
-/// button ends a press without any of them. The button may be deleted in each of its signals.
+/// pressedDelayed(t), keyPressHandling(t, false, false) at the release. A press that ends
+/// otherwise, as by a dialog or a scroller, gives none of them. The button may be deleted in each
+/// of its signals.
 ///
 /// Each press rings the feedback delegator that was installed when the button was constructed.
 class HOXQUI_EXPORT MeasuredPushButton : public QToolButton,
@@ -57,8 +58,6 @@ Q_SIGNALS:
     void keyPressHandling(uint elapsed, bool short_pressed, bool pressed);
 
 protected:
-    void changeEvent(QEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     /// Hook for subclasses: the button was released after \a elapsed_ms ms, its released() and
@@ -72,7 +71,7 @@ private:
     void startMeasuring();
     void stopMeasuring();
 
-    QElapsedTimer m_press_time; // valid while a press is measured
+    QElapsedTimer m_press_time;
     QTimer m_long_press_timer;
     QTimer m_pulse_timer;
     bool m_pulse_enabled = false;

@@ -1,7 +1,7 @@
 #include "ui/buttons/vexocheckbox.h"
 
-#include "ui/buttons/swipeguard_p.h"
 #include "ui/buttons/tone_p.h"
+#include "ui/foundation/press_p.h"
 
 #include <QMouseEvent>
 
@@ -10,7 +10,7 @@ namespace vexo::hox::qt::ui {
 VexoCheckBox::VexoCheckBox(QWidget *parent)
     : QCheckBox(parent)
     , m_delegator(VexoFeedbackDelegator::tone_delegator)
-    , m_guard(std::make_unique<SwipeGuard>(8))
+    , m_distance(std::make_unique<TapDistance>(8))
 {
     setupConnections();
 }
@@ -19,12 +19,12 @@ VexoCheckBox::~VexoCheckBox() = default;
 
 int VexoCheckBox::mouseMoveDelta() const
 {
-    return m_guard->threshold();
+    return m_distance->px();
 }
 
 void VexoCheckBox::setMouseMoveDelta(int px)
 {
-    m_guard->setThreshold(px);
+    m_distance->setPx(px);
 }
 
 void VexoCheckBox::setupConnections()
@@ -42,19 +42,19 @@ void VexoCheckBox::toggleButton()
 
 void VexoCheckBox::mousePressEvent(QMouseEvent *event)
 {
-    m_guard->press(event->globalPos());
-    Q_EMIT pressed();
+    if (Press::begin(this, event, event->globalPos()))
+        Q_EMIT pressed();
 }
 
 void VexoCheckBox::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (m_guard->release(event->globalPos()))
+    if (Press::end(this, *event) == Press::Released)
         toggleButton();
 }
 
 void VexoCheckBox::mouseMoveEvent(QMouseEvent *event)
 {
-    m_guard->move(event->globalPos());
+    Press::move(this, event->globalPos(), *m_distance);
 }
 
 } // namespace vexo::hox::qt::ui

@@ -9,7 +9,7 @@
 
 namespace vexo::hox::qt::ui {
 
-class SwipeGuard;
+class TapDistance;
 class VexoFeedbackDelegator;
 
 /// A check box for lists that are scrolled by swiping: it changes at the release instead of the
@@ -48,7 +48,7 @@ protected:
 
 private:
     const QPointer<VexoFeedbackDelegator> m_delegator;
-    const std::unique_ptr<SwipeGuard> m_guard;
+    const std::unique_ptr<TapDistance> m_distance;
 };
 
 } // namespace vexo::hox::qt::ui

@@ -3,13 +3,13 @@
 #include "ui/buttons/rowaccessible_p.h"
 #include "ui/buttons/rowlabel_p.h"
 #include "ui/buttons/rowlayout_p.h"
-#include "ui/buttons/swipeguard_p.h"
 #include "ui/buttons/tone_p.h"
 #include "ui/buttons/vexocheckbox.h"
 #include "ui/buttons/vexoiconbutton.h"
 #include "ui/buttons/vexoradiobutton.h"
 #include "ui/foundation/cachedvectoricon.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/press_p.h"
 #include "ui/foundation/quietly_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
 
@@ -104,7 +104,7 @@ VexoFunctionButton::VexoFunctionButton(QWidget *parent, const VexoFunctionButton
     , m_layout(new RowLayout)
     , m_label(new RowLabel(this))
     , m_visible_buddies(std::make_unique<VisibleBuddies>())
-    , m_guard(std::make_unique<SwipeGuard>(10))
+    , m_distance(std::make_unique<TapDistance>(10))
     , m_button_type(type)
 {
     qRegisterMetaType<VexoFunctionButtonType>("VexoFunctionButtonType");
@@ -221,13 +221,13 @@ QAbstractButton *VexoFunctionButton::getButtonInstance() const
 
 int VexoFunctionButton::getMouseMoveDelta() const
 {
-    return m_guard->threshold();
+    return m_distance->px();
 }
 
 void VexoFunctionButton::setMouseMoveDelta(int px)
 {
     if (px >= 3 && px <= 24)
-        m_guard->setThreshold(px);
+        m_distance->setPx(px);
 }
 
 QWidget *VexoFunctionButton::addVisibleBuddy(QWidget *buddy)
@@ -253,7 +253,8 @@ void VexoFunctionButton::setVisible(bool visible)
 
 void VexoFunctionButton::mousePressEvent(QMouseEvent *event)
 {
-    m_guard->press(event->pos());
+    if (!Press::begin(this, event, event->pos()))
+        return;
     if (m_button_type == ActionType)
         setDown(true);
     Q_EMIT pressed();
@@ -262,15 +263,16 @@ void VexoFunctionButton::mousePressEvent(QMouseEvent *event)
 void VexoFunctionButton::mouseReleaseEvent(QMouseEvent *event)
 {
     const QPointer<VexoFunctionButton> self(this);
-    if (m_guard->release(event->globalPos()))
+    const Press::End end = Press::end(this, *event);
+    if (end == Press::Released)
         tap();
-    if (self && m_button_type == ActionType)
-        setDown(false);
+    if (self && end != Press::Unknown)
+        setDown(isChecked());
 }
 
 void VexoFunctionButton::mouseMoveEvent(QMouseEvent *event)
 {
-    m_guard->move(event->pos());
+    Press::move(this, event->pos(), *m_distance);
 }
 
 void VexoFunctionButton::paintEvent(QPaintEvent *event)
@@ -318,17 +320,21 @@ bool VexoFunctionButton::event(QEvent *event)
     return is_handled;
 }
 
+// The toolkit takes a chosen row, which is down, for one that is held, and would report that it has
+// been released.
 void VexoFunctionButton::changeEvent(QEvent *event)
 {
+    if (event->type() == QEvent::EnabledChange)
+        setDown(isEnabled() && isChecked());
     QToolButton::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange && !isEnabled())
-        endPress();
 }
 
-void VexoFunctionButton::hideEvent(QHideEvent *event)
+void VexoFunctionButton::focusOutEvent(QFocusEvent *event)
 {
-    QToolButton::hideEvent(event);
-    endPress();
+    if (isChecked())
+        QWidget::focusOutEvent(event); // NOLINT(bugprone-parent-virtual-call)
+    else
+        QToolButton::focusOutEvent(event);
 }
 
 void VexoFunctionButton::tickAgreementClicked()
@@ -449,15 +455,6 @@ void VexoFunctionButton::toggleRightButton()
         box->toggleButton();
     else if (auto *radio = qobject_cast<VexoRadioButton *>(m_right_widget))
         radio->toggleButton();
-}
-
-// No release comes any more.
-void VexoFunctionButton::endPress()
-{
-    if (!m_guard->isPressed())
-        return;
-    m_guard->release();
-    setDown(isChecked());
 }
 
 void VexoFunctionButton::change(QColor *color, const QColor &to)

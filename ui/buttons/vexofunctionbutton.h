@@ -19,7 +19,7 @@ class OpaqueRows;
 class RowLabel;
 class RowLayout;
 class ScalingInfo;
-class SwipeGuard;
+class TapDistance;
 class VexoFeedbackDelegator;
 class VisibleBuddies;
 
@@ -142,7 +142,7 @@ protected:
     void nextCheckState() override;
     bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private Q_SLOTS:
     void tickAgreementClicked();
@@ -161,7 +161,6 @@ private:
     QColor ground() const;
     void tap();
     void toggleRightButton();
-    void endPress();
     void change(QColor *color, const QColor &to);
     void skipWhatIsCovered();
     void setSeen(bool is_seen);
@@ -180,7 +179,7 @@ private:
     QPixmap m_arrow_normal;
     QPixmap m_arrow_pressed;
     QPixmap m_arrow_inactive;
-    const std::unique_ptr<SwipeGuard> m_guard;
+    const std::unique_ptr<TapDistance> m_distance;
     bool m_last_checked = false;
     bool m_inactive_shown = false;
     bool m_last_down = false;

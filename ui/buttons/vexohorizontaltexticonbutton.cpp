@@ -2,6 +2,7 @@
 
 #include "ui/foundation/accessible_p.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/press_p.h"
 #include "ui/foundation/textblock_p.h"
 
 #include <QPainter>
@@ -123,6 +124,18 @@ void VexoHorizontalTextIconButton::setLeftSideTextPercentWidth(double percent)
 void VexoHorizontalTextIconButton::setRightSideTextPercentWidth(double percent)
 {
     m_right_side_text_percent_width = percent;
+}
+
+void VexoHorizontalTextIconButton::mousePressEvent(QMouseEvent *event)
+{
+    if (Press::begin(this, event))
+        QPushButton::mousePressEvent(event);
+}
+
+void VexoHorizontalTextIconButton::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (Press::end(this, *event) != Press::Late)
+        QPushButton::mouseReleaseEvent(event);
 }
 
 void VexoHorizontalTextIconButton::paintEvent(QPaintEvent *)

@@ -1,6 +1,7 @@
 #include "ui/buttons/vexoiconbutton.h"
 
 #include "ui/buttons/styledbackground_p.h"
+#include "ui/foundation/press_p.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -49,7 +50,8 @@ bool VexoIconButton::event(QEvent *event)
 
 void VexoIconButton::mouseReleaseEvent(QMouseEvent *event)
 {
-    const bool is_click = mouseWasReleased();
+    const bool is_slide = Press::isSlide(this, *event);
+    const bool is_click = mouseWasReleased() && is_slide;
     const QPointer<VexoIconButton> self(this);
     ActiveVectorButton::mouseReleaseEvent(event);
     if (!self || !is_click)
@@ -61,6 +63,7 @@ void VexoIconButton::mouseReleaseEvent(QMouseEvent *event)
 
 void VexoIconButton::mouseMoveEvent(QMouseEvent *event)
 {
+    Press::move(this);
     mouseWasMoved(event->pos().x(), event->pos().y(), width(), height());
     QAbstractButton::mouseMoveEvent(event);
 }

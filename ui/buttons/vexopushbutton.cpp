@@ -4,6 +4,7 @@
 #include "ui/buttons/tone_p.h"
 #include "ui/foundation/accessible_p.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/press_p.h"
 #include "ui/foundation/textblock_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
 
@@ -340,11 +341,20 @@ bool VexoPushButton::event(QEvent *event)
     return QPushButton::event(event);
 }
 
+void VexoPushButton::mousePressEvent(QMouseEvent *event)
+{
+    if (Press::begin(this, event))
+        QPushButton::mousePressEvent(event);
+}
+
 void VexoPushButton::mouseReleaseEvent(QMouseEvent *event)
 {
+    const bool is_slide = Press::isSlide(this, *event);
+    if (Press::end(this, *event) == Press::Late)
+        return;
     const QPointer<VexoPushButton> self(this);
     QAbstractButton::mouseReleaseEvent(event);
-    if (self && mouseWasReleased()) {
+    if (self && mouseWasReleased() && is_slide) {
         // The toolkit ignored a release outside, and would go on with a button that a slot deletes.
         event->accept();
         Q_EMIT clicked(false);
@@ -353,6 +363,7 @@ void VexoPushButton::mouseReleaseEvent(QMouseEvent *event)
 
 void VexoPushButton::mouseMoveEvent(QMouseEvent *event)
 {
+    Press::move(this);
     const QPointer<VexoPushButton> self(this);
     QAbstractButton::mouseMoveEvent(event);
     if (self)

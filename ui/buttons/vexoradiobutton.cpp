@@ -1,7 +1,7 @@
 #include "ui/buttons/vexoradiobutton.h"
 
-#include "ui/buttons/swipeguard_p.h"
 #include "ui/buttons/tone_p.h"
+#include "ui/foundation/press_p.h"
 
 #include <QMouseEvent>
 
@@ -10,7 +10,7 @@ namespace vexo::hox::qt::ui {
 VexoRadioButton::VexoRadioButton(QWidget *parent)
     : QRadioButton(parent)
     , m_delegator(VexoFeedbackDelegator::tone_delegator)
-    , m_guard(std::make_unique<SwipeGuard>(8))
+    , m_distance(std::make_unique<TapDistance>(8))
 {
     setupConnections();
 }
@@ -32,19 +32,19 @@ void VexoRadioButton::toggleButton()
 
 void VexoRadioButton::mousePressEvent(QMouseEvent *event)
 {
-    m_guard->press(event->globalPos());
-    Q_EMIT pressed();
+    if (Press::begin(this, event, event->globalPos()))
+        Q_EMIT pressed();
 }
 
 void VexoRadioButton::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (m_guard->release(event->globalPos()))
+    if (Press::end(this, *event) == Press::Released)
         toggleButton();
 }
 
 void VexoRadioButton::mouseMoveEvent(QMouseEvent *event)
 {
-    m_guard->move(event->globalPos());
+    Press::move(this, event->globalPos(), *m_distance);
 }
 
 } // namespace vexo::hox::qt::ui

@@ -9,7 +9,7 @@
 
 namespace vexo::hox::qt::ui {
 
-class SwipeGuard;
+class TapDistance;
 class VexoFeedbackDelegator;
 
 /// A radio button for lists that are scrolled by swiping: it is chosen at the release instead of
@@ -42,7 +42,7 @@ protected:
 
 private:
     const QPointer<VexoFeedbackDelegator> m_delegator;
-    const std::unique_ptr<SwipeGuard> m_guard;
+    const std::unique_ptr<TapDistance> m_distance;
 };
 
 } // namespace vexo::hox::qt::ui

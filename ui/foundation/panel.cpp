@@ -1,9 +1,9 @@
 #include "ui/foundation/panel.h"
 
-#include "ui/buttons/swipeguard_p.h"
 #include "ui/foundation/fontloader.h"
 #include "ui/foundation/mmsheet_p.h"
 #include "ui/foundation/scalecheck_p.h"
+#include "ui/foundation/tapdistance_p.h"
 #include "ui/foundation/vexocolors.h"
 #include "ui/foundation/vexostylesheet.h"
 
@@ -65,7 +65,7 @@ void Panel::setUp(QApplication &application, const PanelOptions &options)
     if (options.use_fonts)
         FontLoader();
     setUpSheets(options);
-    SwipeGuard::setCommonDistance(options.tap_mm);
+    TapDistance::setCommon(options.tap_mm);
 }
 
 QPalette Panel::palette()

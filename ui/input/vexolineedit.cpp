@@ -4,6 +4,7 @@
 #include "ui/buttons/vexoiconbutton.h"
 #include "ui/foundation/imagefile_p.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/press_p.h"
 #include "ui/input/fieldframe_p.h"
 #include "ui/input/lineeditaccessible_p.h"
 #include "ui/input/placeholder_p.h"
@@ -317,22 +318,33 @@ void VexoLineEdit::shake(
 
 void VexoLineEdit::mousePressEvent(QMouseEvent *event)
 {
-    if (!event)
+    if (!event || !Press::begin(this, event))
         return;
     const QPointer<VexoLineEdit> self(this);
     QLineEdit::mousePressEvent(event);
-    if (self && m_tone_delegator)
-        QMetaObject::invokeMethod(m_tone_delegator, "tone", Qt::QueuedConnection);
+    if (self)
+        ring();
 }
 
 void VexoLineEdit::mouseReleaseEvent(QMouseEvent *event)
 {
     if (!event)
         return;
+    const Press::End end = Press::end(this, *event);
     const QPointer<VexoLineEdit> self(this);
     QLineEdit::mouseReleaseEvent(event);
-    if (self)
+    const bool is_lost = end == Press::TakenBack || end == Press::Late;
+    if (self && event->button() == Qt::LeftButton && !is_lost)
         Q_EMIT textEditWanted(text());
+}
+
+// The press of a second quick tap comes as this, and as nothing else.
+void VexoLineEdit::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (!event || !Press::begin(this, event))
+        return;
+    QLineEdit::mouseDoubleClickEvent(event);
+    ring();
 }
 
 void VexoLineEdit::resizeEvent(QResizeEvent *event)
@@ -369,6 +381,12 @@ void VexoLineEdit::onShakeAnimationStep()
     else
         update(m_shake_area | area);
     m_shake_area = area;
+}
+
+void VexoLineEdit::ring()
+{
+    if (m_tone_delegator)
+        QMetaObject::invokeMethod(m_tone_delegator, "tone", Qt::QueuedConnection);
 }
 
 void VexoLineEdit::setHeight()

@@ -190,6 +190,7 @@ Q_SIGNALS:
 protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
@@ -200,6 +201,7 @@ private Q_SLOTS:
 private:
     void setupUi();
     void reapplyProperties();
+    void ring();
     void setHeight();
     void calculateCursorPosition();
     void placeSideWidgets();

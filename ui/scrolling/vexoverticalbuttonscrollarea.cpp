@@ -1,5 +1,6 @@
 #include "ui/scrolling/vexoverticalbuttonscrollarea.h"
 
+#include "ui/foundation/press_p.h"
 #include "ui/foundation/tightlayout_p.h"
 #include "ui/scrolling/vexoverticalscrollarea.h"
 #include "ui/scrolling/vexoverticalscrollcontent.h"
@@ -17,14 +18,34 @@ namespace {
 const int button_px = 60;
 const int page_px = 150;
 
+/// A stock button, but for the ends of a press.
+class JumpButton : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override
+    {
+        if (Press::begin(this, event))
+            QPushButton::mousePressEvent(event);
+    }
+
+    void mouseReleaseEvent(QMouseEvent *event) override
+    {
+        if (Press::end(this, *event) != Press::Late)
+            QPushButton::mouseReleaseEvent(event);
+    }
+};
+
 } // namespace
 
 VexoVerticalButtonScrollArea::VexoVerticalButtonScrollArea(
     QWidget *parent, VexoVerticalButtonScrollAreaType type)
     : QWidget(parent)
     , m_scroll_area(new VexoVerticalScrollArea)
-    , m_up_button(new QPushButton)
-    , m_down_button(new QPushButton)
+    , m_up_button(new JumpButton)
+    , m_down_button(new JumpButton)
     , m_type(type)
 {
     setupUi();
@@ -43,7 +64,7 @@ void VexoVerticalButtonScrollArea::setType(VexoVerticalButtonScrollAreaType type
 
 void VexoVerticalButtonScrollArea::addButton(const QString &text)
 {
-    auto *button = new QPushButton(tr(text.toUtf8().constData()));
+    auto *button = new JumpButton(tr(text.toUtf8().constData()));
     button->setFixedSize(button_px, button_px);
     button->setObjectName(QStringLiteral("letterButton"));
     m_scroll_area->widget()->layout()->addWidget(button);

@@ -1,5 +1,7 @@
 #include "ui/scrolling/vexoverticalscrollarea.h"
 
+#include "ui/foundation/press_p.h"
+#include "ui/foundation/touchwatch_p.h"
 #include "ui/sliders/vexoslider.h"
 
 #include <QEasingCurve>
@@ -22,12 +24,17 @@ VexoVerticalScrollArea::VexoVerticalScrollArea(QWidget *parent, bool scroll_bar_
     setFrameShadow(QFrame::Plain);
     setLineWidth(0);
     setWidgetResizable(true);
-    horizontalScrollBar()->setRange(0, 0);
+    QScrollBar *across = horizontalScrollBar();
+    // The toolkit sets the range anew whenever it lays out.
+    connect(across, &QScrollBar::rangeChanged, across, [across] { across->setRange(0, 0); });
     tuneScroller();
     QScroller::grabGesture(this, QScroller::LeftMouseButtonGesture);
     connect(
         m_scroller, &QScroller::stateChanged, this, &VexoVerticalScrollArea::scrollerStateChanged);
+    connect(m_scroller, &QScroller::stateChanged, this, &VexoVerticalScrollArea::watchTouch);
 }
+
+VexoVerticalScrollArea::~VexoVerticalScrollArea() = default;
 
 void VexoVerticalScrollArea::setScrollBarEnabled(bool enabled)
 {
@@ -91,6 +98,24 @@ void VexoVerticalScrollArea::tuneScroller()
     properties.setScrollMetric(Properties::DragStartDistance, 0.005);
     properties.setScrollMetric(Properties::DragVelocitySmoothingFactor, 0.1);
     m_scroller->setScrollerProperties(properties);
+}
+
+void VexoVerticalScrollArea::watchTouch(QScroller::State state)
+{
+    if (state != QScroller::Pressed && state != QScroller::Dragging)
+        m_touch.reset();
+    else if (!m_touch)
+        m_touch = std::make_unique<TouchWatch>(this, [this] { letGo(); });
+}
+
+// A scroller that waits for a release which does not come would swallow the next tap.
+void VexoVerticalScrollArea::letGo()
+{
+    const bool is_alone = testAttribute(Qt::WA_NoMousePropagation);
+    setAttribute(Qt::WA_NoMousePropagation, true);
+    m_scroller->stop();
+    Press::dropHeldBack(this);
+    setAttribute(Qt::WA_NoMousePropagation, is_alone);
 }
 
 void VexoVerticalScrollArea::hand(QScroller::Input input, const QMouseEvent *event)

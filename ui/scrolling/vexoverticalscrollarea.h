@@ -5,10 +5,13 @@
 #include <QScrollArea>
 #include <QScroller>
 
+#include <memory>
+
 class QMouseEvent;
 
 namespace vexo::hox::qt::ui {
 
+class TouchWatch;
 class VexoSlider;
 
 /// The panel's list: scrolls vertically by a finger that flicks, without overshoot and at no more
@@ -30,6 +33,7 @@ class HOXQUI_EXPORT VexoVerticalScrollArea : public QScrollArea
 public:
     /// \a scroll_bar_enabled as the property of that name.
     explicit VexoVerticalScrollArea(QWidget *parent = nullptr, bool scroll_bar_enabled = false);
+    ~VexoVerticalScrollArea() override;
 
     void setScrollBarEnabled(bool enabled);
     /// Jumps, without an animation.
@@ -52,11 +56,14 @@ private Q_SLOTS:
 
 private:
     void tuneScroller();
+    void watchTouch(QScroller::State state);
+    void letGo();
     void hand(QScroller::Input input, const QMouseEvent *event);
     QPointF positionOf(const QMouseEvent &event) const;
 
     QScroller *const m_scroller;
     bool m_scroll_bar_enabled;
+    std::unique_ptr<TouchWatch> m_touch; // as long as the finger holds the list
 };
 
 } // namespace vexo::hox::qt::ui

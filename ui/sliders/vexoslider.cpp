@@ -1,6 +1,7 @@
 #include "ui/sliders/vexoslider.h"
 
 #include "ui/buttons/tone_p.h"
+#include "ui/foundation/press_p.h"
 #include "ui/foundation/quietly_p.h"
 #include "ui/sliders/slideraccessible_p.h"
 
@@ -97,19 +98,22 @@ void VexoSlider::onValueChanged(int value)
 
 void VexoSlider::mousePressEvent(QMouseEvent *event)
 {
+    if (!Press::begin(this, event))
+        return;
     const QPointer<VexoSlider> self(this);
     QSlider::mousePressEvent(event);
     if (!self || isSliderDown())
         return;
-    endPress(*event);
+    letGo(*event);
     Q_EMIT forwardPressEvent(event);
 }
 
 void VexoSlider::mouseReleaseEvent(QMouseEvent *event)
 {
+    const Press::End end = Press::end(this, *event);
     if (isSliderDown())
         QSlider::mouseReleaseEvent(event);
-    else
+    else if (event->button() == Qt::LeftButton && end != Press::TakenBack && end != Press::Late)
         Q_EMIT forwardReleaseEvent(event);
 }
 
@@ -117,13 +121,13 @@ void VexoSlider::mouseMoveEvent(QMouseEvent *event)
 {
     if (isSliderDown())
         QSlider::mouseMoveEvent(event);
-    else
+    else if (!Press::wasTakenBack(this))
         Q_EMIT forwardMoveEvent(event);
 }
 
 // The release of a press beside the handle does not reach the toolkit, which would page 20 times a
 // second and look pressed until it came.
-void VexoSlider::endPress(const QMouseEvent &press)
+void VexoSlider::letGo(const QMouseEvent &press)
 {
     QMouseEvent release(QEvent::MouseButtonRelease, press.localPos(), press.windowPos(),
         press.screenPos(), press.button(), Qt::NoButton, press.modifiers());

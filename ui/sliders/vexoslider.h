@@ -73,7 +73,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
 
 private:
-    void endPress(const QMouseEvent &press);
+    void letGo(const QMouseEvent &press);
 
     int m_minimum = 0;
     int m_maximum = 0;

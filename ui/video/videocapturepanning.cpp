@@ -1,5 +1,6 @@
 #include "ui/video/videocapturepanning.h"
 
+#include "ui/foundation/press_p.h"
 #include "ui/foundation/scalinginfo.h"
 
 #include <QMouseEvent>
@@ -68,12 +69,24 @@ void VideoCapturePanning::mousePressEvent(QMouseEvent *event)
 {
     const qint64 longest_ms = 250;
     const QPointer<VideoCapturePanning> self(this);
+    const bool is_second = m_tap_timer.isValid() && m_tap_timer.elapsed() <= longest_ms;
+    const bool is_begun = Press::begin(this, event);
     // A press is for this widget alone, so it is handled as by one without content.
     QWidget::mousePressEvent(event); // NOLINT(bugprone-parent-virtual-call)
-    if (m_tap_timer.restart() <= longest_ms)
+    if (!is_begun)
+        return;
+    m_tap_timer.start();
+    if (is_second)
         Q_EMIT tap();
     if (!self)
         event->accept(); // else the toolkit goes on with the deleted widget
+}
+
+void VideoCapturePanning::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (Press::end(this, *event) == Press::TakenBack)
+        m_tap_timer.invalidate(); // was no tap
+    QScrollArea::mouseReleaseEvent(event);
 }
 
 // The toolkit delivers the second of two quick presses at one place as this, and as nothing else.

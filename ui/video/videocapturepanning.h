@@ -46,10 +46,11 @@ protected:
     void moveEvent(QMoveEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 
 private:
-    QElapsedTimer m_tap_timer;
+    QElapsedTimer m_tap_timer; // since the last press; invalid after one that was taken back
 };
 
 } // namespace vexo::hox::qt::ui

@@ -171,10 +171,10 @@ void TestMeasuredPushButton::otherMouseButtonsAreNotMeasured()
     QTest::mouseClick(&button, Qt::RightButton);
     QCOMPARE(log.text(), QByteArray());
     press(&button);
-    QTest::mouseClick(&button, Qt::RightButton);
-    QCOMPARE(log.text(), QByteArray("pressed"));
+    QTest::mouseClick(&button, Qt::RightButton); // ends the press
+    QVERIFY(!button.isDown());
     release(&button);
-    QCOMPARE(log.text(), QByteArray("pressed; released; clicked; delayed; short"));
+    QCOMPARE(log.text(), QByteArray("pressed"));
 }
 
 void TestMeasuredPushButton::hookReceivesTheDurationInsteadOfTheSignal()
@@ -294,8 +294,7 @@ void TestMeasuredPushButton::endedPressIsSilent()
     button.show();
     runLoop(4, 100); // longer than a long press
     release(&button);
-    // The toolkit itself tells released() when it disables a button that is down.
-    QCOMPARE(log.text(), QByteArray(by == "disable" ? "pressed; released" : "pressed"));
+    QCOMPARE(log.text(), QByteArray("pressed"));
     QCOMPARE(m_pulses, 0);
 }
 

@@ -1,0 +1,153 @@
+#include "support/touchsubjects.h"
+
+#include <ActiveButton>
+#include <ActiveVectorButton>
+#include <MeasuredPushButton>
+#include <VexoCenteredVectorButton>
+#include <VexoCheckBox>
+#include <VexoDesignVectorButton>
+#include <VexoFunctionButton>
+#include <VexoHorizontalTextIconButton>
+#include <VexoIconButton>
+#include <VexoKeyboardButton>
+#include <VexoLineEdit>
+#include <VexoNumericButton>
+#include <VexoPushButton>
+#include <VexoRadioButton>
+#include <VexoSlider>
+#include <VexoVerticalButtonScrollArea>
+#include <VideoCapturePanning>
+
+#include <QAction>
+
+using namespace vexo::hox::qt::ui;
+
+namespace {
+
+using Row = VexoFunctionButton;
+
+const char *const MEASURED = "pressed; released; clicked; pressedDelayed; keyPressHandling";
+
+template <typename Button>
+QWidget *make()
+{
+    auto *button = new Button;
+    button->setFixedSize(160, 50);
+    return button;
+}
+
+template <typename Button>
+QWidget *makePulsing()
+{
+    QWidget *button = make<Button>();
+    auto *ticks = new QAction(button);
+    auto *measured = static_cast<MeasuredPushButton *>(button);
+    measured->pulse(50, ticks, SLOT(trigger()));
+    measured->enablePulse(true);
+    return button;
+}
+
+template <Row::VexoFunctionButtonType type>
+QWidget *makeRow()
+{
+    auto *row = new Row(nullptr, type);
+    row->setFixedSize(160, 50);
+    return row;
+}
+
+QWidget *makeStepper()
+{
+    auto *stepper = new VexoNumericButton;
+    stepper->setMaximum(1000000);
+    stepper->setValue(500000);
+    stepper->setFixedSize(240, 50);
+    return stepper;
+}
+
+QWidget *makeField()
+{
+    auto *field = new VexoLineEdit;
+    field->setMmTrailingIconSize(QSizeF(12, 12));
+    field->enableTrailingButtonAction();
+    field->setFixedSize(160, 50);
+    return field;
+}
+
+// Its middle, which is touched, is the handle.
+QWidget *makeSlider(int value)
+{
+    auto *slider = new VexoSlider(Qt::Horizontal);
+    slider->setMaximum(100);
+    slider->setValue(value);
+    slider->finishSliderConfiguration();
+    slider->setFixedSize(160, 50);
+    return slider;
+}
+
+QWidget *makeTile()
+{
+    auto *tile = new VexoCenteredVectorButton;
+    tile->getButtonInstance()->setFixedSize(80, 40);
+    return tile;
+}
+
+QWidget *makeJumpBar()
+{
+    auto *bar = new VexoVerticalButtonScrollArea;
+    bar->setFixedHeight(60 * 3);
+    return bar;
+}
+
+QWidget *makePanning()
+{
+    auto *panning = new VideoCapturePanning;
+    panning->setFixedSize(160, 50);
+    return panning;
+}
+
+} // namespace
+
+const std::vector<TouchSubject> &touchSubjects()
+{
+    static const std::vector<TouchSubject> subjects = {
+        { "MeasuredPushButton", makePulsing<MeasuredPushButton>, "", MEASURED, "clicked" },
+        { "ActiveButton", makePulsing<ActiveButton>, "", MEASURED, "clicked" },
+        { "ActiveVectorButton", makePulsing<ActiveVectorButton>, "", MEASURED, "clicked" },
+        { "VexoIconButton", makePulsing<VexoIconButton>, "", MEASURED, "clicked" },
+        { "VexoDesignVectorButton", makePulsing<VexoDesignVectorButton>, "", MEASURED, "clicked" },
+        { "VexoKeyboardButton", makePulsing<VexoKeyboardButton>, "", MEASURED, "clicked" },
+        { "VexoPushButton", make<VexoPushButton>, "", "pressed; released; clicked", "clicked" },
+        { "VexoHorizontalTextIconButton", make<VexoHorizontalTextIconButton>, "",
+            "pressed; released; clicked", "clicked" },
+        { "VexoCheckBox", make<VexoCheckBox>, "", "pressed; clicked; toggled", "clicked" },
+        { "VexoRadioButton", make<VexoRadioButton>, "", "pressed; clicked; toggled", "clicked" },
+        { "check box row", makeRow<Row::CheckboxType>, "", "pressed; clicked", "clicked" },
+        { "action row", makeRow<Row::ActionType>, "", "pressed; clicked", "clicked" },
+        { "radio button row", makeRow<Row::RadiobuttonType>, "", "pressed; clicked", "clicked" },
+        { "chosen row", makeRow<Row::FullsizeRadiobuttonType>, "",
+            "pressed; clicked; toggled; stateChanged", "clicked" },
+        { "tick row", makeRow<Row::TickAgreementType>, "vexoFunctionButtonWidgetRight",
+            "pressed; released; clicked; toggled; pressedDelayed; keyPressHandling", "clicked" },
+        { "VexoNumericButton", makeStepper, "increaseButton",
+            "valueChanged; pressed; released; clicked; pressedDelayed; keyPressHandling",
+            "valueChanged" },
+        { "VexoCenteredVectorButton", makeTile, "iconButton", MEASURED, "clicked" },
+        { "VexoLineEdit", makeField, "", "textEditWanted", "textEditWanted" },
+        { "its trailing button", makeField, "trailingButton",
+            "deleteButtonClick; pressed; released; clicked; pressedDelayed; keyPressHandling",
+            "deleteButtonClick" },
+        { "handle of a VexoSlider", [] { return makeSlider(50); }, "",
+            "sliderPressed; sliderReleased", "sliderReleased", "sliderReleased" },
+        { "VexoSlider beside its handle", [] { return makeSlider(0); }, "",
+            "actionTriggered; forwardPressEvent; forwardReleaseEvent", "forwardReleaseEvent" },
+        { "letter of a jump bar", makeJumpBar, "letterButton", "pressed; released; clicked",
+            "clicked" },
+        { "VideoCapturePanning", makePanning, "", "", "tap" },
+    };
+    return subjects;
+}
+
+QWidget *touchedPart(const TouchSubject &subject, QWidget *whole)
+{
+    return *subject.part ? whole->findChild<QWidget *>(QLatin1String(subject.part)) : whole;
+}

@@ -1,0 +1,135 @@
+#include "ui/foundation/press_p.h"
+
+#include "ui/foundation/touchwatch_p.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QMouseEvent>
+
+#include <memory>
+
+namespace vexo::hox::qt::ui {
+
+namespace {
+
+const QPoint far_away(-QWIDGETSIZE_MAX, -QWIDGETSIZE_MAX); // where the toolkit's scroller lets go
+
+struct
+{
+    QPointer<QWidget> widget; // also after a press was taken back, until the finger is lifted
+    std::unique_ptr<TouchWatch> watch; // as long as the press goes on
+    QPoint position; // of the beginning
+    bool has_moved = false;
+    bool is_swipe = false;
+    bool is_dropping = false;
+} state;
+
+bool isFarAway(const QPoint &position)
+{
+    return position.x() <= far_away.x() / 2;
+}
+
+// The scroller forgets the time of an event that it holds back.
+bool isTooLate(const QMouseEvent &press, const QWidget &widget)
+{
+    const bool was_held_back = press.spontaneous() && press.timestamp() == 0;
+    return was_held_back && (state.is_dropping || TouchWatch::isOutOfReach(widget));
+}
+
+QMouseEvent releaseFarAway()
+{
+    return QMouseEvent(QEvent::MouseButtonRelease, far_away, far_away, far_away, Qt::LeftButton,
+        Qt::NoButton, Qt::NoModifier);
+}
+
+// An event that is sent would go through the gestures, which take it for that of the finger, and
+// not to a disabled widget.
+struct Handlers : QWidget
+{
+    static void release(QWidget *widget)
+    {
+        QMouseEvent event = releaseFarAway();
+        (widget->*&Handlers::mouseReleaseEvent)(&event);
+    }
+};
+
+} // namespace
+
+bool Press::begin(QWidget *widget, QMouseEvent *event, const QPoint &position)
+{
+    takeBack();
+    if (event->button() != Qt::LeftButton || isTooLate(*event, *widget)) {
+        event->ignore();
+        return false;
+    }
+    state.widget = widget;
+    state.watch = std::make_unique<TouchWatch>(widget, takeBack);
+    state.position = position;
+    state.has_moved = false;
+    state.is_swipe = false;
+    return true;
+}
+
+bool Press::isOn(const QWidget *widget)
+{
+    return state.watch && state.widget == widget;
+}
+
+bool Press::wasTakenBack(const QWidget *widget)
+{
+    return !state.watch && state.widget == widget;
+}
+
+void Press::move(const QWidget *widget)
+{
+    if (isOn(widget))
+        state.has_moved = true;
+}
+
+void Press::move(const QWidget *widget, const QPoint &position, const TapDistance &distance)
+{
+    if (isOn(widget) && distance.isExceededBy(position - state.position))
+        state.is_swipe = true;
+}
+
+bool Press::isSlide(const QWidget *widget, const QMouseEvent &release)
+{
+    return isOn(widget) && state.has_moved && release.button() == Qt::LeftButton
+        && !isFarAway(release.globalPos());
+}
+
+Press::End Press::end(QWidget *widget, const QMouseEvent &release)
+{
+    const bool is_taken_back = isFarAway(release.globalPos());
+    if (state.widget != widget || release.button() != Qt::LeftButton)
+        return is_taken_back ? TakenBack : Unknown; // of a child, which did not accept it
+    const bool was_on = isOn(widget);
+    state.watch.reset();
+    if (was_on && is_taken_back) {
+        if (auto *button = qobject_cast<QAbstractButton *>(widget))
+            button->setDown(false);
+        return TakenBack;
+    }
+    state.widget.clear();
+    if (!was_on)
+        return Late;
+    return state.is_swipe ? Swiped : Released;
+}
+
+// It sends what it holds back when it sees the release.
+void Press::dropHeldBack(QWidget *list)
+{
+    QMouseEvent event = releaseFarAway();
+    state.is_dropping = true;
+    QCoreApplication::sendEvent(list, &event);
+    state.is_dropping = false;
+}
+
+void Press::takeBack()
+{
+    if (state.watch && state.widget)
+        Handlers::release(state.widget);
+    state.watch.reset(); // the handler may be one of the application
+}
+
+} // namespace vexo::hox::qt::ui

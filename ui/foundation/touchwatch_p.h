@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+
+namespace vexo::hox::qt::ui {
+
+/// Tells when the release of a touch will not come any more: the widget is hidden, with its page or
+/// alone, or disabled; a dialog blocks its window; a popup opens, which takes the release without
+/// a word to the widget; another widget has grabbed the mouse; another button or a new press
+/// follows. It filters the events of the whole application, so it should live as long as the touch.
+class TouchWatch : public QObject
+{
+public:
+    /// Calls \a lost, which may delete the watch. A touch of a child of \a widget is one of it.
+    TouchWatch(QWidget *widget, std::function<void()> lost);
+
+    /// Whether no finger can touch \a widget now.
+    static bool isOutOfReach(const QWidget &widget);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    const QPointer<QWidget> m_widget;
+    const std::function<void()> m_lost;
+};
+
+} // namespace vexo::hox::qt::ui
