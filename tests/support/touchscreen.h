@@ -42,6 +42,7 @@ public:
     void lift() { QTest::mouseRelease(m_window, Qt::LeftButton, Qt::NoModifier, m_at); }
     void clickRight() { QTest::mouseClick(m_window, Qt::RightButton, Qt::NoModifier, m_at); }
 
+    void setPlace(const QPoint &at) { m_at = at; }
     QPoint place() const { return m_at; }
 
 private:

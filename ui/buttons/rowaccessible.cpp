@@ -62,14 +62,10 @@ QStringList RowAccessible::actionNames() const
 
 void RowAccessible::doAction(const QString &action)
 {
-    if (action != pressAction()) {
+    if (action == pressAction())
+        row()->click();
+    else
         QAccessibleWidget::doAction(action);
-        return;
-    }
-    const bool is_tick_box
-        = row()->property("m_button_type").toInt() == VexoFunctionButton::TickAgreementType;
-    QAbstractButton *button = is_tick_box ? row()->getButtonInstance() : row();
-    button->click();
 }
 
 QAccessible::Role RowAccessible::roleOf(int type)

@@ -370,6 +370,7 @@ void VexoFunctionButton::setupRightWidget()
     setDown(m_last_checked);
     if (auto *button = qobject_cast<QAbstractButton *>(m_right_widget))
         connect(button, &QAbstractButton::toggled, this, &VexoFunctionButton::tellChecked);
+    m_right_widget->setFocusPolicy(Qt::NoFocus); // the row itself takes the keys
     m_right_widget->setObjectName(QStringLiteral("vexoFunctionButtonWidgetRight"));
     m_layout->addWidget(m_right_widget, 0, Qt::AlignRight);
     setMmRightSpacer(float(rightSpacerMm(m_button_type)));
@@ -455,6 +456,8 @@ void VexoFunctionButton::toggleRightButton()
         box->toggleButton();
     else if (auto *radio = qobject_cast<VexoRadioButton *>(m_right_widget))
         radio->toggleButton();
+    else if (auto *tick_box = qobject_cast<VexoIconButton *>(m_right_widget))
+        Q_EMIT tick_box->clicked(true); // which ticks it
 }
 
 void VexoFunctionButton::change(QColor *color, const QColor &to)

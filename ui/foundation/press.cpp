@@ -58,11 +58,13 @@ struct Handlers : QWidget
 bool Press::begin(QWidget *widget, QMouseEvent *event, const QPoint &position)
 {
     takeBack();
-    if (event->button() != Qt::LeftButton || isTooLate(*event, *widget)) {
+    const bool is_touch = event->button() == Qt::LeftButton;
+    if (is_touch)
+        state.widget = widget;
+    if (!is_touch || isTooLate(*event, *widget)) {
         event->ignore();
         return false;
     }
-    state.widget = widget;
     state.watch = std::make_unique<TouchWatch>(widget, takeBack);
     state.position = position;
     state.has_moved = false;
@@ -105,10 +107,10 @@ Press::End Press::end(QWidget *widget, const QMouseEvent &release)
         return is_taken_back ? TakenBack : Unknown; // of a child, which did not accept it
     const bool was_on = isOn(widget);
     state.watch.reset();
-    if (was_on && is_taken_back) {
+    if (is_taken_back) {
         if (auto *button = qobject_cast<QAbstractButton *>(widget))
             button->setDown(false);
-        return TakenBack;
+        return TakenBack; // and known until the finger is lifted
     }
     state.widget.clear();
     if (!was_on)

@@ -1,6 +1,9 @@
 #include "support/panelscale.h"
 #include "support/testcase.h"
+#include "support/touch.h"
 #include "support/touchscreen.h"
+
+#include <VexoIconButton>
 
 #include <QAbstractButton>
 #include <QAbstractEventDispatcher>
@@ -9,6 +12,8 @@
 #include <QPointer>
 
 #include <memory>
+
+using vexo::hox::qt::ui::VexoIconButton;
 
 namespace {
 
@@ -139,10 +144,17 @@ public:
             emissions.watch(ticks);
     }
 
+    void point()
+    {
+        finger = std::make_unique<Finger>(&screen);
+        finger->setPlace(screen.placeOf(touched));
+        emissions.take();
+    }
+
     /// Held, and moved a little beside it.
     void press(bool is_slid)
     {
-        finger = std::make_unique<Finger>(&screen);
+        point();
         finger->press(screen.placeOf(touched));
         virtualclock::pass(delivered_ms);
         if (is_slid && !qobject_cast<QAbstractSlider *>(m_whole))
@@ -171,6 +183,8 @@ public:
         virtualclock::pass(20);
         finger->lift();
     }
+
+    bool isAlone() const { return touched == m_whole; }
 
     bool isDown() const
     {
@@ -206,6 +220,11 @@ private Q_SLOTS:
     void initTestCase();
     void nothingFollowsAnEnding_data();
     void nothingFollowsAnEnding();
+    void onlyATapOperates_data();
+    void onlyATapOperates();
+    void mayBeDeletedWhileHeld_data() { onlyATapOperates_data(); }
+    void mayBeDeletedWhileHeld();
+    void menuOfTheButtonEndsThePulse();
 
 private:
     void checkEnding(const TouchSubject &subject, const Ending &ending, int variant);
@@ -258,6 +277,73 @@ void TestPressEndings::checkEnding(const TouchSubject &subject, const Ending &en
     QCOMPARE(where + trial.emissions.take(), where);
     trial.tap();
     QCOMPARE(where + trial.emissions.take(), where + subject.tap);
+}
+
+void TestPressEndings::onlyATapOperates_data()
+{
+    QTest::addColumn<const TouchSubject *>("subject");
+    for (const TouchSubject &subject : touchSubjects())
+        QTest::addRow("%s", subject.name) << &subject;
+}
+
+void TestPressEndings::onlyATapOperates()
+{
+    QFETCH(const TouchSubject *, subject);
+    Trial trial(*subject, false);
+    QVERIFY(trial.screen.appear());
+    trial.point();
+    trial.perform([](TouchScreen &, Finger &finger, QWidget *) { finger.clickRight(); });
+    trial.perform(closePopup);
+    QCOMPARE(trial.emissions.take(), QByteArray());
+    if (qobject_cast<QAbstractButton *>(trial.touched) && trial.isAlone()) {
+        finger(trial.touched, QEvent::MouseButtonRelease, trial.touched->rect().center()); // stray
+        QCOMPARE(trial.emissions.take(), QByteArray());
+    }
+    virtualclock::pass(300); // longer than between the presses of a double tap
+    trial.tap();
+    QCOMPARE(trial.emissions.take(), QByteArray(subject->tap));
+}
+
+void TestPressEndings::mayBeDeletedWhileHeld()
+{
+    QFETCH(const TouchSubject *, subject);
+    for (const bool is_in_list : { false, true }) {
+        Trial trial(*subject, is_in_list);
+        QVERIFY(trial.screen.appear());
+        trial.press(true);
+        delete trial.touched;
+        virtualclock::pass(500);
+        trial.finger->move(QPoint(0, 3));
+        trial.finger->lift();
+        virtualclock::pass(500);
+    }
+}
+
+void TestPressEndings::menuOfTheButtonEndsThePulse()
+{
+    TouchScreen screen;
+    VexoIconButton button(screen.page);
+    button.setFixedSize(160, 50);
+    QMenu menu;
+    menu.addAction(QStringLiteral("Item"));
+    button.setMenu(&menu);
+    button.setPopupMode(QToolButton::InstantPopup);
+    QAction ticks;
+    button.pulse(50, &ticks, SLOT(trigger()));
+    button.enablePulse(true);
+    QVERIFY(screen.appear());
+    Emissions emissions;
+    emissions.watch(&ticks);
+    // Closed within the press, whose handler runs the menu's loop.
+    connect(
+        &menu, &QMenu::aboutToShow, &menu, [&] { QTimer::singleShot(0, &menu, &QMenu::close); });
+    const Messages ignored;
+    Finger finger(&screen);
+    finger.press(QPoint(80, 25));
+    virtualclock::pass(1000);
+    QCOMPARE(emissions.take(), QByteArray());
+    QVERIFY(!button.isDown());
+    finger.lift();
 }
 
 QTEST_MAIN(TestPressEndings)

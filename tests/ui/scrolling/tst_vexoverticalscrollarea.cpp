@@ -185,6 +185,7 @@ private Q_SLOTS:
     void slidersDoNotStopASwipe();
     void flicksOnAtLimitedSpeed();
     void stopsAtTheEnd();
+    void neverScrollsSideways();
     void rowMayDeleteItself();
     void scrollBarIsOptional();
     void rowsLieTight();
@@ -297,6 +298,25 @@ void TestVexoVerticalScrollArea::stopsAtTheEnd()
     QCOMPARE(lowest, 0);
     list.area.scrollToTop();
     QCOMPARE(list.scrolled(), 0);
+}
+
+void TestVexoVerticalScrollArea::neverScrollsSideways()
+{
+    List list;
+    list.rowAt(5)->setFixedWidth(700);
+    QCoreApplication::processEvents(); // lays out
+    const QWidget *content = list.area.widget();
+    QCOMPARE(content->width(), 700);
+    Finger finger(&list, { 300, 275 });
+    finger.move({ -100, -120 });
+    finger.move({ -100, 0 });
+    finger.hold(frame_ms);
+    QVERIFY(list.scrolled() > 0);
+    finger.release();
+    QTRY_COMPARE(list.area.getScroller()->state(), QScroller::Inactive);
+    list.area.ensureWidgetVisible(list.rowAt(5), 500, 0);
+    list.area.horizontalScrollBar()->setValue(200);
+    QCOMPARE(content->x(), 0);
 }
 
 void TestVexoVerticalScrollArea::rowMayDeleteItself()
