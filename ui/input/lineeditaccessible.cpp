@@ -39,6 +39,12 @@ public:
     QString text(int start, int end) const override;
     int characterCount() const override { return field()->text().size(); }
     QRect characterRect(int) const override { return rect(); }
+    QString textBeforeOffset(
+        int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const override;
+    QString textAfterOffset(
+        int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const override;
+    QString textAtOffset(
+        int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const override;
     int offsetAtPoint(const QPoint &point) const override;
     void scrollToSubstring(int start, int) override { field()->setCursorPosition(start); }
     QString attributes(int offset, int *start, int *end) const override;
@@ -49,7 +55,11 @@ public:
 
 private:
     VexoLineEdit *field() const { return static_cast<VexoLineEdit *>(widget()); }
-    bool isSecret() const { return field()->echoMode() != QLineEdit::Normal; }
+    bool isSecret() const
+    {
+        return field()->isDrawedPasswordSecured() || field()->echoMode() != QLineEdit::Normal;
+    }
+    int resolved(int offset) const;
 };
 
 void *LineEditAccessible::interface_cast(QAccessible::InterfaceType type)
@@ -65,6 +75,8 @@ QString LineEditAccessible::text(QAccessible::Text kind) const
 {
     if (kind == QAccessible::Value) {
         const QString text = field()->text();
+        if (field()->echoMode() == QLineEdit::NoEcho)
+            return QString();
         return isSecret() ? QString(text.size(), QLatin1Char('*')) : text;
     }
     const QString text = QAccessibleWidget::text(kind);
@@ -102,6 +114,34 @@ QString LineEditAccessible::text(int start, int end) const
     return isSecret() || start > end ? QString() : field()->text().mid(start, end - start);
 }
 
+QString LineEditAccessible::textBeforeOffset(
+    int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const
+{
+    return QAccessibleTextInterface::textBeforeOffset(resolved(offset), boundary, start, end);
+}
+
+QString LineEditAccessible::textAfterOffset(
+    int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const
+{
+    return QAccessibleTextInterface::textAfterOffset(resolved(offset), boundary, start, end);
+}
+
+QString LineEditAccessible::textAtOffset(
+    int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const
+{
+    return QAccessibleTextInterface::textAtOffset(resolved(offset), boundary, start, end);
+}
+
+// Two offsets are names: of the end of the text, and of the cursor.
+int LineEditAccessible::resolved(int offset) const
+{
+    const int end_name = -1;
+    const int cursor_name = -2;
+    if (offset == end_name)
+        return characterCount();
+    return offset == cursor_name ? cursorPosition() : offset;
+}
+
 int LineEditAccessible::offsetAtPoint(const QPoint &point) const
 {
     return field()->cursorPositionAt(field()->mapFromGlobal(point));
@@ -109,8 +149,8 @@ int LineEditAccessible::offsetAtPoint(const QPoint &point) const
 
 QString LineEditAccessible::attributes(int offset, int *start, int *end) const
 {
-    *start = offset;
-    *end = offset;
+    *start = resolved(offset);
+    *end = *start;
     return QString();
 }
 

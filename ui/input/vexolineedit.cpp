@@ -61,6 +61,8 @@ void VexoLineEdit::setupUi()
     connect(m_cursor_timer, &QTimer::timeout, this, &VexoLineEdit::onCursorTimeout);
     setAttribute(Qt::WA_StyleSheet);
     setAttribute(Qt::WA_StyledBackground);
+    m_leading_label->installEventFilter(this);
+    m_trailing_button->installEventFilter(this);
     m_trailing_button->setObjectName(QStringLiteral("trailingButton"));
     m_trailing_button->setAccessibleName(tr("Delete"));
     setFocusPolicy(Qt::NoFocus);
@@ -291,7 +293,6 @@ void VexoLineEdit::enableLeadingLabelAction()
     m_leading_action->setObjectName(QStringLiteral("leadingAction"));
     m_leading_action->setDefaultWidget(m_leading_label);
     addAction(m_leading_action, LeadingPosition);
-    placeSideWidgets();
 }
 
 void VexoLineEdit::enableTrailingButtonAction()
@@ -300,7 +301,6 @@ void VexoLineEdit::enableTrailingButtonAction()
     m_trailing_action->setObjectName(QStringLiteral("trailingAction"));
     m_trailing_action->setDefaultWidget(m_trailing_button);
     addAction(m_trailing_action, TrailingPosition);
-    placeSideWidgets();
     if (!m_trailing_button)
         return;
     m_trailing_button->setCanChangeBackgroundColor(false);
@@ -347,17 +347,19 @@ void VexoLineEdit::mouseDoubleClickEvent(QMouseEvent *event)
     ring();
 }
 
-void VexoLineEdit::resizeEvent(QResizeEvent *event)
+// The toolkit places the side widgets anew with each action, size and direction.
+bool VexoLineEdit::eventFilter(QObject *watched, QEvent *event)
 {
-    QLineEdit::resizeEvent(event);
-    placeSideWidgets();
+    if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
+        placeSideWidgets();
+    return QLineEdit::eventFilter(watched, event);
 }
 
 void VexoLineEdit::onCursorTimeout()
 {
     m_cursor_visible = !m_cursor_visible;
-    if (m_shake->isRunning() ? !m_shake_shows_text : m_draw_password_secured)
-        return; // dots, without a cursor
+    if (showsDots())
+        return; // without a cursor
     const int x = cursorX(textRect(m_text_run->advance(), m_placeholder_run->advance(), 0));
     if (m_draw_centered || x != m_cursor_x)
         update(); // centred text moves with the cursor
@@ -455,19 +457,26 @@ QRect VexoLineEdit::cursorArea() const
         .adjusted(-seam, -seam, seam, seam);
 }
 
+// Echo modes hide the text, too, which may have been shown before.
+bool VexoLineEdit::showsDots() const
+{
+    const bool is_secret = m_draw_password_secured || echoMode() != Normal;
+    return is_secret || (m_shake->isRunning() && !m_shake_shows_text);
+}
+
 QRect VexoLineEdit::shakeArea() const
 {
     QRectF area;
-    if (m_shake_shows_text) {
-        m_text_run->set(m_shake_text, font());
-        area = m_text_run->inkRect(
-            textRect(m_text_run->advance(), 0, m_shake->offset()), textAlignment());
-    } else {
+    if (showsDots()) {
         const QVector<QRectF> dots = dotRects(m_shake->offset(), m_shake_dot_count);
         for (const QRectF &dot : dots)
             area |= dot;
         const double seam = m_frame->pen().widthF() / 2 + 1;
         area.adjust(-seam, -seam, seam, seam);
+    } else {
+        m_text_run->set(m_shake_text, font());
+        area = m_text_run->inkRect(
+            textRect(m_text_run->advance(), 0, m_shake->offset()), textAlignment());
     }
     return (area & QRectF(rect())).toAlignedRect();
 }
@@ -504,7 +513,7 @@ void VexoLineEdit::paintEvent(QPaintEvent *)
     const QColor ink = isEnabled() ? m_text_color : m_text_inactive_color;
     if (m_shake->isRunning())
         drawShake(ink);
-    else if (m_draw_password_secured)
+    else if (showsDots())
         drawSecuredText(ink);
     else
         drawPlainText(ink);
@@ -557,12 +566,13 @@ void VexoLineEdit::drawSecuredText(const QColor &ink)
 
 void VexoLineEdit::drawSecuredTextInternal(const QColor &ink, int dx, int count)
 {
-    m_dots->draw(&m_painter, dotRects(dx, count), m_frame->pen(), ink);
+    if (echoMode() != NoEcho) // which does not even tell the length
+        m_dots->draw(&m_painter, dotRects(dx, count), m_frame->pen(), ink);
 }
 
 void VexoLineEdit::drawShake(const QColor &ink)
 {
-    if (!m_shake_shows_text) {
+    if (showsDots()) {
         drawSecuredTextInternal(ink, m_shake->offset(), m_shake_dot_count);
         return;
     }

@@ -107,7 +107,8 @@ class HOXQUI_EXPORT VexoLineEdit // clazy:exclude=copyable-polymorphic
     /// Text height, pt. Default 9.0. Negative is ignored.
     Q_PROPERTY(double m_pt_font_size READ ptFontSize WRITE setPtFontSize)
     /// Draws a dot per character, and neither cursor nor placeholder. Default false. The echo mode
-    /// follows, so that nothing else tells the text either.
+    /// follows, so that nothing else tells the text either. An echo mode that is not Normal hides
+    /// the text all the same; NoEcho draws no dots.
     Q_PROPERTY(
         bool m_draw_password_secured READ isDrawedPasswordSecured WRITE setDrawPasswordSecured)
     /// Centres text, cursor and placeholder. Default false.
@@ -191,7 +192,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private Q_SLOTS:
@@ -209,6 +210,7 @@ private:
     QRectF textRect(int advance, int placeholder_advance, int dx) const;
     int cursorX(const QRectF &text_rect) const;
     QRect cursorArea() const;
+    bool showsDots() const;
     QRect shakeArea() const;
     QVector<QRectF> dotRects(int dx, int count) const;
     Qt::Alignment textAlignment() const;
