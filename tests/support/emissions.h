@@ -13,7 +13,6 @@ class Emissions
 public:
     void watch(QObject *object)
     {
-        qRegisterMetaType<QMouseEvent *>("QMouseEvent *");
         qRegisterMetaType<QMouseEvent *>("QMouseEvent*");
         const QMetaObject *meta = object->metaObject();
         for (int i = 0; i < meta->methodCount(); ++i) {

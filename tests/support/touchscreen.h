@@ -13,7 +13,7 @@
 #include <QTest>
 #include <QWindow>
 
-/// The finger of the real window system.
+/// The finger of the real window system. Two quick taps at one place are a double click.
 class Finger
 {
 public:
@@ -25,6 +25,7 @@ public:
     void press(const QPoint &at)
     {
         m_at = at;
+        tellTime();
         QTest::mousePress(m_window, Qt::LeftButton, Qt::NoModifier, at);
     }
 
@@ -34,18 +35,30 @@ public:
         const QPoint from = m_at;
         for (int i = 1; i <= steps; ++i) {
             m_at = from + way * i / steps;
+            tellTime();
             QTest::mouseMove(m_window, m_at);
             virtualclock::pass(10);
         }
     }
 
-    void lift() { QTest::mouseRelease(m_window, Qt::LeftButton, Qt::NoModifier, m_at); }
-    void clickRight() { QTest::mouseClick(m_window, Qt::RightButton, Qt::NoModifier, m_at); }
+    void lift()
+    {
+        tellTime();
+        QTest::mouseRelease(m_window, Qt::LeftButton, Qt::NoModifier, m_at);
+    }
+
+    void clickRight()
+    {
+        tellTime();
+        QTest::mouseClick(m_window, Qt::RightButton, Qt::NoModifier, m_at);
+    }
 
     void setPlace(const QPoint &at) { m_at = at; }
     QPoint place() const { return m_at; }
 
 private:
+    static void tellTime() { QTest::lastMouseTimestamp = virtualclock::ms(); }
+
     QWindow *const m_window;
     QPoint m_at; // px of the window
 };
@@ -55,11 +68,9 @@ private:
 class TouchScreen : public QWidget
 {
 public:
-    static const int LIST_PX = 500;
-
-    TouchScreen()
+    explicit TouchScreen(const QSize &px = QSize(400, 500))
     {
-        resize(400, LIST_PX);
+        resize(px);
         pages = new QStackedWidget(this);
         pages->resize(size());
         page = new QWidget;
@@ -67,11 +78,12 @@ public:
         pages->addWidget(new QWidget);
     }
 
-    /// Rows with a height of 50 px above and below.
-    void addToList(const QVector<QWidget *> &widgets, int rows_above, int rows_below)
+    /// In a column of \a width px, with rows of 50 px above and below.
+    void addToList(
+        const QVector<QWidget *> &widgets, int rows_above, int rows_below, int width = 400)
     {
         list = new vexo::hox::qt::ui::VexoVerticalScrollArea(page);
-        list->resize(size());
+        list->resize(width, height());
         auto *content = new vexo::hox::qt::ui::VexoVerticalScrollContent;
         addSpace(content, rows_above);
         for (QWidget *widget : widgets)

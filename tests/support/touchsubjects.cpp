@@ -64,12 +64,11 @@ QWidget *makeStepper()
     return stepper;
 }
 
-QWidget *makeField()
+QWidget *makeFieldWithButton()
 {
-    auto *field = new VexoLineEdit;
+    auto *field = static_cast<VexoLineEdit *>(make<VexoLineEdit>());
     field->setMmTrailingIconSize(QSizeF(12, 12));
     field->enableTrailingButtonAction();
-    field->setFixedSize(160, 50);
     return field;
 }
 
@@ -110,39 +109,46 @@ QWidget *makePanning()
 const std::vector<TouchSubject> &touchSubjects()
 {
     static const std::vector<TouchSubject> subjects = {
-        { "MeasuredPushButton", makePulsing<MeasuredPushButton>, "", MEASURED, "clicked" },
-        { "ActiveButton", makePulsing<ActiveButton>, "", MEASURED, "clicked" },
-        { "ActiveVectorButton", makePulsing<ActiveVectorButton>, "", MEASURED, "clicked" },
-        { "VexoIconButton", makePulsing<VexoIconButton>, "", MEASURED, "clicked" },
-        { "VexoDesignVectorButton", makePulsing<VexoDesignVectorButton>, "", MEASURED, "clicked" },
-        { "VexoKeyboardButton", makePulsing<VexoKeyboardButton>, "", MEASURED, "clicked" },
-        { "VexoPushButton", make<VexoPushButton>, "", "pressed; released; clicked", "clicked" },
+        { "MeasuredPushButton", makePulsing<MeasuredPushButton>, "", MEASURED, "clicked(bool)" },
+        { "ActiveButton", makePulsing<ActiveButton>, "", MEASURED, "clicked(bool)" },
+        { "ActiveVectorButton", makePulsing<ActiveVectorButton>, "", MEASURED, "clicked(bool)" },
+        { "VexoIconButton", makePulsing<VexoIconButton>, "", MEASURED, "clicked(bool)" },
+        { "VexoDesignVectorButton", makePulsing<VexoDesignVectorButton>, "", MEASURED,
+            "clicked(bool)" },
+        { "VexoKeyboardButton", makePulsing<VexoKeyboardButton>, "", MEASURED, "clicked(bool)" },
+        { "VexoPushButton", make<VexoPushButton>, "", "pressed; released; clicked",
+            "clicked(bool)" },
         { "VexoHorizontalTextIconButton", make<VexoHorizontalTextIconButton>, "",
-            "pressed; released; clicked", "clicked" },
-        { "VexoCheckBox", make<VexoCheckBox>, "", "pressed; clicked; toggled", "clicked" },
-        { "VexoRadioButton", make<VexoRadioButton>, "", "pressed; clicked; toggled", "clicked" },
-        { "check box row", makeRow<Row::CheckboxType>, "", "pressed; clicked", "clicked" },
-        { "action row", makeRow<Row::ActionType>, "", "pressed; clicked", "clicked" },
-        { "radio button row", makeRow<Row::RadiobuttonType>, "", "pressed; clicked", "clicked" },
+            "pressed; released; clicked", "clicked(bool)" },
+        { "VexoCheckBox", make<VexoCheckBox>, "", "pressed; clicked; toggled", "clicked(bool)" },
+        { "VexoRadioButton", make<VexoRadioButton>, "", "pressed; clicked; toggled",
+            "clicked(bool)" },
+        { "check box row", makeRow<Row::CheckboxType>, "", "pressed; clicked", "clicked(bool)" },
+        { "action row", makeRow<Row::ActionType>, "", "pressed; clicked", "clicked(bool)" },
+        { "radio button row", makeRow<Row::RadiobuttonType>, "", "pressed; clicked",
+            "clicked(bool)" },
         { "chosen row", makeRow<Row::FullsizeRadiobuttonType>, "",
-            "pressed; clicked; toggled; stateChanged", "clicked" },
+            "pressed; clicked; toggled; stateChanged", "clicked(bool)" },
         { "tick row", makeRow<Row::TickAgreementType>, "vexoFunctionButtonWidgetRight",
-            "pressed; released; clicked; toggled; pressedDelayed; keyPressHandling", "clicked" },
+            "pressed; released; clicked; toggled; pressedDelayed; keyPressHandling",
+            "clicked(bool)" },
         { "VexoNumericButton", makeStepper, "increaseButton",
             "valueChanged; pressed; released; clicked; pressedDelayed; keyPressHandling",
-            "valueChanged" },
-        { "VexoCenteredVectorButton", makeTile, "iconButton", MEASURED, "clicked" },
-        { "VexoLineEdit", makeField, "", "textEditWanted", "textEditWanted" },
-        { "its trailing button", makeField, "trailingButton",
+            "valueChanged(int)" },
+        { "VexoCenteredVectorButton", makeTile, "iconButton", MEASURED, "clicked(bool)" },
+        { "VexoLineEdit", make<VexoLineEdit>, "", "textEditWanted", "textEditWanted(QString)", "",
+            true },
+        { "its trailing button", makeFieldWithButton, "trailingButton",
             "deleteButtonClick; pressed; released; clicked; pressedDelayed; keyPressHandling",
-            "deleteButtonClick" },
+            "deleteButtonClick()" },
         { "handle of a VexoSlider", [] { return makeSlider(50); }, "",
-            "sliderPressed; sliderReleased", "sliderReleased", "sliderReleased" },
+            "sliderPressed; sliderReleased", "sliderReleased()", "sliderReleased" },
         { "VexoSlider beside its handle", [] { return makeSlider(0); }, "",
-            "actionTriggered; forwardPressEvent; forwardReleaseEvent", "forwardReleaseEvent" },
+            "actionTriggered; forwardPressEvent; forwardReleaseEvent",
+            "forwardReleaseEvent(QMouseEvent*)", "", true },
         { "letter of a jump bar", makeJumpBar, "letterButton", "pressed; released; clicked",
-            "clicked" },
-        { "VideoCapturePanning", makePanning, "", "", "tap" },
+            "clicked(bool)" },
+        { "VideoCapturePanning", makePanning, "", "", "tap()" },
     };
     return subjects;
 }

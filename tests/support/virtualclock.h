@@ -6,6 +6,8 @@
 namespace virtualclock {
 
 void start();
+/// Of now.
+int ms();
 /// Lets \a ms pass, and what is due meanwhile happen.
 void pass(int ms);
 

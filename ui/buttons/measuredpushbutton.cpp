@@ -82,11 +82,9 @@ void MeasuredPushButton::mouseReleaseEvent(QMouseEvent *event)
         stopMeasuring();
     const QPointer<MeasuredPushButton> self(this);
     QToolButton::mouseReleaseEvent(event);
-    if (!is_released)
-        return;
-    if (self)
+    if (self && is_released)
         mouseReleaseEvent(elapsed);
-    if (self)
+    if (self && is_released)
         Q_EMIT keyPressHandling(elapsed, elapsed < m_long_press_ms, false);
     if (!self)
         event->accept(); // ignored beside the button; the toolkit would go on with the deleted one

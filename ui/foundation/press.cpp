@@ -3,7 +3,7 @@
 #include "ui/foundation/touchwatch_p.h"
 
 #include <QAbstractButton>
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QMouseEvent>
 
 #include <memory>
@@ -22,6 +22,7 @@ struct
     bool has_moved = false;
     bool is_swipe = false;
     bool is_dropping = false;
+    bool is_nobodys = false; // what the finger does, until the next press
 } state;
 
 bool isFarAway(const QPoint &position)
@@ -29,11 +30,10 @@ bool isFarAway(const QPoint &position)
     return position.x() <= far_away.x() / 2;
 }
 
-// The scroller forgets the time of an event that it holds back.
-bool isTooLate(const QMouseEvent &press, const QWidget &widget)
+// A scroller forgets the time of an event that it holds back.
+bool isHeldBack(const QMouseEvent &press)
 {
-    const bool was_held_back = press.spontaneous() && press.timestamp() == 0;
-    return was_held_back && (state.is_dropping || TouchWatch::isOutOfReach(widget));
+    return press.spontaneous() && press.timestamp() == 0;
 }
 
 QMouseEvent releaseFarAway()
@@ -59,13 +59,18 @@ bool Press::begin(QWidget *widget, QMouseEvent *event, const QPoint &position)
 {
     takeBack();
     const bool is_touch = event->button() == Qt::LeftButton;
-    if (is_touch)
+    if (is_touch) {
         state.widget = widget;
-    if (!is_touch || isTooLate(*event, *widget)) {
+        state.is_nobodys = false;
+    }
+    const bool is_late = isHeldBack(*event);
+    if (!is_touch || (is_late && (state.is_dropping || TouchWatch::isOutOfReach(*widget)))) {
         event->ignore();
         return false;
     }
     state.watch = std::make_unique<TouchWatch>(widget, takeBack);
+    if (is_late && !(QGuiApplication::mouseButtons() & Qt::LeftButton))
+        state.watch->endSoon();
     state.position = position;
     state.has_moved = false;
     state.is_swipe = false;
@@ -79,7 +84,7 @@ bool Press::isOn(const QWidget *widget)
 
 bool Press::wasTakenBack(const QWidget *widget)
 {
-    return !state.watch && state.widget == widget;
+    return !state.watch && (state.widget == widget || state.is_nobodys);
 }
 
 void Press::move(const QWidget *widget)
@@ -104,7 +109,7 @@ Press::End Press::end(QWidget *widget, const QMouseEvent &release)
 {
     const bool is_taken_back = isFarAway(release.globalPos());
     if (state.widget != widget || release.button() != Qt::LeftButton)
-        return is_taken_back ? TakenBack : Unknown; // of a child, which did not accept it
+        return is_taken_back ? TakenBack : state.is_nobodys ? Late : Unknown;
     const bool was_on = isOn(widget);
     state.watch.reset();
     if (is_taken_back) {
@@ -125,6 +130,7 @@ void Press::dropHeldBack(QWidget *list)
     state.is_dropping = true;
     QCoreApplication::sendEvent(list, &event);
     state.is_dropping = false;
+    state.is_nobodys = true;
 }
 
 void Press::takeBack()

@@ -22,7 +22,7 @@ public:
     enum End {
         Unknown, ///< there was no press
         TakenBack,
-        Late, ///< the finger of a press that was taken back has been lifted
+        Late, ///< the finger of a press that was taken back, or never came, has been lifted
         Swiped, ///< released after it had wandered too far
         Released
     };
@@ -47,7 +47,8 @@ public:
     /// no place of the release clicks.
     static End end(QWidget *widget, const QMouseEvent &release);
 
-    /// Makes the scroller of \a list forget a press that it holds back.
+    /// Makes the scroller of \a list forget a press that it holds back. What the finger does until
+    /// the next press is nobody's.
     static void dropHeldBack(QWidget *list);
 
 private:

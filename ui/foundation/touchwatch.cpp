@@ -92,8 +92,16 @@ bool TouchWatch::eventFilter(QObject *watched, QEvent *event)
     if (touched && isLostBy(*watched, *event, *touched)) {
         const std::function<void()> lost = m_lost;
         lost(); // may delete this
+    } else if (event->type() == QEvent::MouseButtonRelease && watched->isWindowType()) {
+        endSoon();
     }
     return false;
+}
+
+// A touch that still goes on when the window has handled the release never gets it.
+void TouchWatch::endSoon()
+{
+    QMetaObject::invokeMethod(this, m_lost, Qt::QueuedConnection);
 }
 
 } // namespace vexo::hox::qt::ui

@@ -11,7 +11,8 @@ namespace vexo::hox::qt::ui {
 /// Tells when the release of a touch will not come any more: the widget is hidden, with its page or
 /// alone, or disabled; a dialog blocks its window; a popup opens, which takes the release without
 /// a word to the widget; another widget has grabbed the mouse; another button or a new press
-/// follows. It filters the events of the whole application, so it should live as long as the touch.
+/// follows; or, whatever the reason, the widget does not see the release. It filters the events of
+/// the whole application, so it should live as long as the touch.
 class TouchWatch : public QObject
 {
 public:
@@ -20,6 +21,9 @@ public:
 
     /// Whether no finger can touch \a widget now.
     static bool isOutOfReach(const QWidget &widget);
+
+    /// The finger has been lifted: the release comes at once or never.
+    void endSoon();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -64,6 +64,7 @@ void VexoLineEdit::setupUi()
     m_leading_label->installEventFilter(this);
     m_trailing_button->installEventFilter(this);
     m_trailing_button->setObjectName(QStringLiteral("trailingButton"));
+    m_trailing_button->setAttribute(Qt::WA_NoMousePropagation); // a release beside it is not ours
     m_trailing_button->setAccessibleName(tr("Delete"));
     setFocusPolicy(Qt::NoFocus);
     m_font.setWeight(m_font_weight);

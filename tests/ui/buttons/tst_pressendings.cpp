@@ -184,8 +184,6 @@ public:
         finger->lift();
     }
 
-    bool isAlone() const { return touched == m_whole; }
-
     bool isDown() const
     {
         auto *button = qobject_cast<QAbstractButton *>(touched);
@@ -295,7 +293,7 @@ void TestPressEndings::onlyATapOperates()
     trial.perform([](TouchScreen &, Finger &finger, QWidget *) { finger.clickRight(); });
     trial.perform(closePopup);
     QCOMPARE(trial.emissions.take(), QByteArray());
-    if (qobject_cast<QAbstractButton *>(trial.touched) && trial.isAlone()) {
+    if (qobject_cast<QAbstractButton *>(trial.touched)) {
         finger(trial.touched, QEvent::MouseButtonRelease, trial.touched->rect().center()); // stray
         QCOMPARE(trial.emissions.take(), QByteArray());
     }

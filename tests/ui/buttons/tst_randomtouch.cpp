@@ -1,0 +1,422 @@
+#include "support/panelscale.h"
+#include "support/testcase.h"
+#include "support/touchscreen.h"
+
+#include <VexoSlider>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QMenu>
+#include <QPointer>
+#include <QRandomGenerator>
+
+#include <memory>
+
+using vexo::hox::qt::ui::VexoSlider;
+using vexo::hox::qt::ui::VexoVerticalScrollArea;
+
+namespace {
+
+const int far_px = 120; // further than each widget is wide with what easy access adds
+
+/// One of the classes on the screen, what it has told, and what the model expects.
+struct Target
+{
+    const TouchSubject *subject = nullptr;
+    QWidget *whole = nullptr;
+    QWidget *touched = nullptr;
+    std::unique_ptr<QSignalSpy> clicks;
+    std::unique_ptr<QSignalSpy> pulses;
+    bool is_in_list = false;
+    int expected = 0;
+
+    int excess() const { return clicks->count() - expected; }
+};
+
+/// What a tap is: a press on a widget that can be touched, and the release of it, with nothing
+/// between that ends a press or moves the finger away.
+struct Model
+{
+    Target *armed = nullptr; // its press goes on
+    bool is_unsure = false; // it touched a list that moved: may click or not
+    bool is_double = false; // the press was the second of a double click, which no list takes back
+    bool is_far = false;
+    bool is_up = false; // where it goes if it goes far
+    bool may_pulse = false; // also with the finger beside the widget
+    QPoint way;
+
+    void end()
+    {
+        armed = nullptr;
+        may_pulse = false;
+    }
+
+    void move(const QPoint &by)
+    {
+        way += by;
+        is_far = is_far || qAbs(way.y()) >= far_px;
+        if (!armed || !is_far)
+            return;
+        const bool is_slider = qobject_cast<VexoSlider *>(armed->touched);
+        if (armed->is_in_list && (!is_double || is_slider))
+            end();
+        else if (!armed->subject->is_lax)
+            armed = nullptr;
+    }
+};
+
+/// What lies over the widgets, or keeps a finger from them.
+enum Obstacle { None, Dialog, WindowDialog, Menu, OtherPage, DisabledPage, Disabled, Hidden };
+
+QByteArray nameOf(const Target &target)
+{
+    return target.subject->name + QByteArray(target.is_in_list ? " in the list" : "");
+}
+
+std::unique_ptr<QSignalSpy> spyOn(QObject *sender, const QByteArray &signal)
+{
+    const QMetaObject *meta = sender->metaObject();
+    return std::make_unique<QSignalSpy>(sender, meta->method(meta->indexOfSignal(signal)));
+}
+
+/// All classes, in a list and beside it, under one finger.
+class RandomScreen : public QObject
+{
+public:
+    explicit RandomScreen(quint32 seed);
+
+    bool appear() { return m_screen.appear(); }
+    void step();
+    /// Empty, or what is wrong and how it came.
+    QByteArray fault();
+    int taps() const { return m_taps; }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        m_double_clicks += event->type() == QEvent::MouseButtonDblClick;
+        return false;
+    }
+
+private:
+    int random(int end) { return int(m_random.bounded(quint32(end))); }
+    void add(const TouchSubject &subject, bool is_in_list, int index);
+    void stepWithFingerUp();
+    void stepWithFingerDown();
+    void press(Target *target);
+    void move(const QPoint &way);
+    void lift();
+    void pass(int ms);
+    void clickRight();
+    void putObstacle(Target *target);
+    void removeObstacle();
+    bool isResting() const;
+    Target *targetAt(const QPoint &at) const;
+    void reveal(const Target &target);
+    void note(const QByteArray &line);
+
+    TouchScreen m_screen{ QSize(640, 590) }; // all of it on the screen
+    std::vector<std::unique_ptr<Target>> m_targets;
+    std::unique_ptr<Finger> m_finger;
+    QRandomGenerator m_random;
+    Model m_model;
+    Obstacle m_obstacle = None;
+    QPointer<QWidget> m_over; // the dialog or menu
+    QWidget *m_out_of_order = nullptr; // what an obstacle disables or hides
+    bool m_is_down = false;
+    int m_pulses = 0;
+    int m_taps = 0;
+    int m_double_clicks = 0;
+    QByteArrayList m_history;
+};
+
+RandomScreen::RandomScreen(quint32 seed)
+    : m_random(seed)
+{
+    QVector<QWidget *> rows;
+    int index = 0;
+    for (const TouchSubject &subject : touchSubjects()) {
+        // A double tap and a drag have no click.
+        if (QByteArray(subject.click) == "tap()" || QByteArray(subject.click) == "sliderReleased()")
+            continue;
+        add(subject, true, 0);
+        rows += m_targets.back()->whole;
+        add(subject, false, index++);
+    }
+    m_screen.addToList(rows, 2, 12, 300);
+    for (auto *slider : m_screen.list->findChildren<VexoSlider *>())
+        m_screen.list->forwardSliderEvents(slider);
+}
+
+void RandomScreen::add(const TouchSubject &subject, bool is_in_list, int index)
+{
+    auto target = std::make_unique<Target>();
+    target->subject = &subject;
+    target->whole = subject.make();
+    target->touched = touchedPart(subject, target->whole);
+    target->is_in_list = is_in_list;
+    if (!is_in_list) {
+        target->whole->setParent(m_screen.page);
+        target->whole->move(310 + index % 2 * 165, index / 2 * 53);
+        target->whole->setFixedSize(160, 50);
+    }
+    const bool is_of_part = target->touched->metaObject()->indexOfSignal(subject.click) >= 0;
+    target->clicks = spyOn(is_of_part ? target->touched : target->whole, subject.click);
+    if (auto *ticks = target->whole->findChild<QAction *>({}, Qt::FindDirectChildrenOnly))
+        target->pulses = std::make_unique<QSignalSpy>(ticks, &QAction::triggered);
+    m_targets.push_back(std::move(target));
+}
+
+void RandomScreen::note(const QByteArray &line)
+{
+    m_history += QByteArray::number(virtualclock::ms()) + ' ' + line;
+    if (m_history.size() > 25)
+        m_history.removeFirst();
+}
+
+bool RandomScreen::isResting() const
+{
+    const auto lists = m_screen.findChildren<VexoVerticalScrollArea *>();
+    return std::all_of(lists.begin(), lists.end(), [](VexoVerticalScrollArea *list) {
+        return list->getScroller()->state() == QScroller::Inactive;
+    });
+}
+
+void RandomScreen::reveal(const Target &target)
+{
+    if (auto *column = target.whole->findChild<VexoVerticalScrollArea *>())
+        column->scrollToTop();
+    if (target.is_in_list)
+        m_screen.list->ensureWidgetVisible(target.touched, 0, 30 + random(100));
+}
+
+void RandomScreen::step()
+{
+    if (!m_finger) {
+        m_finger = std::make_unique<Finger>(&m_screen);
+        m_screen.windowHandle()->installEventFilter(this);
+    }
+    const Messages ignored; // of the offscreen platform, which cannot grab and raise
+    if (m_is_down)
+        stepWithFingerDown();
+    else
+        stepWithFingerUp();
+}
+
+void RandomScreen::stepWithFingerUp()
+{
+    Target *target = m_targets[size_t(random(int(m_targets.size())))].get();
+    const int choice = random(100);
+    if (choice < 15)
+        pass(10 + random(400));
+    else if (choice < 20)
+        clickRight();
+    else if (m_obstacle != None && choice < 80)
+        removeObstacle();
+    else if (m_obstacle == None && choice < 28)
+        putObstacle(target);
+    else
+        press(target);
+}
+
+void RandomScreen::stepWithFingerDown()
+{
+    const int choice = random(100);
+    // Until it is lifted: a list holds the press back, and would not know.
+    const bool is_lasting = m_obstacle >= DisabledPage;
+    if (choice < 35)
+        lift();
+    else if (choice < 55)
+        move(QPoint(random(3) - 1, random(3) - 1));
+    else if (choice < 65)
+        move(QPoint(0, m_model.is_up ? -far_px - 10 : far_px + 10));
+    else if (choice < 88)
+        pass(10 + random(400));
+    else if (choice < 91)
+        clickRight();
+    else if (m_obstacle == None)
+        putObstacle(m_model.armed);
+    else if (!is_lasting)
+        removeObstacle();
+}
+
+// Which can be touched.
+Target *RandomScreen::targetAt(const QPoint &at) const
+{
+    const QWidget *widget = m_screen.childAt(at);
+    for (const auto &target : m_targets) {
+        if (target->touched == widget && widget->isEnabled())
+            return target.get();
+    }
+    return nullptr;
+}
+
+void RandomScreen::press(Target *target)
+{
+    if (m_obstacle == None && random(4) > 0) {
+        for (int i = 0; i < 100 && !isResting(); ++i)
+            virtualclock::pass(50);
+    }
+    const bool is_resting = isResting();
+    if (is_resting && m_obstacle == None)
+        reveal(*target);
+    const QPoint at = m_screen.placeOf(target->touched) - QPoint(random(4), random(4));
+    const bool is_open = m_obstacle == None || m_obstacle == Disabled || m_obstacle == Hidden;
+    Target *hit = is_open ? targetAt(at) : nullptr;
+    note("press " + (hit ? nameOf(*hit) : "nothing") + (is_resting ? "" : ", moving"));
+    m_model = Model();
+    m_model.armed = hit;
+    m_model.is_unsure = !is_resting;
+    m_model.is_up = random(2) != 0;
+    m_model.may_pulse = m_model.armed;
+    m_is_down = true;
+    m_double_clicks = 0;
+    m_finger->press(at);
+    m_model.is_double = m_double_clicks > 0;
+    if (m_obstacle == Menu && !QApplication::activePopupWidget())
+        removeObstacle(); // a touch beside it closes it
+}
+
+void RandomScreen::move(const QPoint &way)
+{
+    note("move " + QByteArray::number(way.x()) + ',' + QByteArray::number(way.y()));
+    if (m_model.armed && qAbs(m_model.way.x() + way.x()) > 3)
+        return;
+    m_model.move(way);
+    m_finger->move(way);
+}
+
+void RandomScreen::lift()
+{
+    note("lift");
+    m_is_down = false;
+    if (m_model.armed && !m_model.is_unsure) {
+        ++m_model.armed->expected;
+        ++m_taps;
+    }
+    m_finger->lift();
+    if (m_model.armed && m_model.is_unsure)
+        m_model.armed->expected += qBound(0, m_model.armed->excess(), 1);
+    m_model.end();
+    if (m_obstacle == Disabled || m_obstacle == Hidden)
+        removeObstacle();
+}
+
+void RandomScreen::pass(int ms)
+{
+    note("pass " + QByteArray::number(ms));
+    virtualclock::pass(ms);
+}
+
+void RandomScreen::clickRight()
+{
+    note("right button");
+    m_model.end();
+    m_finger->clickRight();
+    QWidget *popup = QApplication::activePopupWidget(); // of a field
+    if (popup && popup != m_over)
+        popup->close();
+    if (m_obstacle == Menu && !QApplication::activePopupWidget())
+        removeObstacle();
+}
+
+void RandomScreen::putObstacle(Target *target)
+{
+    m_obstacle = Obstacle(1 + random(target ? Hidden : DisabledPage));
+    note("obstacle " + QByteArray::number(m_obstacle));
+    m_model.end();
+    m_out_of_order = m_obstacle >= Disabled ? target->touched : m_screen.page;
+    if (m_obstacle == Dialog || m_obstacle == WindowDialog) {
+        m_over = new QDialog(&m_screen);
+        m_over->setWindowModality(m_obstacle == Dialog ? Qt::ApplicationModal : Qt::WindowModal);
+        m_over->show();
+    } else if (m_obstacle == Menu) {
+        auto *menu = new QMenu(&m_screen);
+        m_over = menu;
+        menu->addAction(QStringLiteral("Item"));
+        menu->popup(QPoint(700, 700));
+    }
+    m_screen.pages->setCurrentIndex(m_obstacle == OtherPage ? 1 : 0);
+    m_out_of_order->setEnabled(m_obstacle != DisabledPage && m_obstacle != Disabled);
+    if (m_obstacle == Hidden)
+        m_out_of_order->hide();
+    QCoreApplication::processEvents(); // the list lays out
+}
+
+void RandomScreen::removeObstacle()
+{
+    note("no obstacle");
+    delete m_over;
+    m_screen.pages->setCurrentIndex(0);
+    m_out_of_order->setEnabled(true);
+    if (m_obstacle == Hidden)
+        m_out_of_order->show();
+    m_obstacle = None;
+    virtualclock::pass(10); // lays out
+}
+
+QByteArray RandomScreen::fault()
+{
+    QByteArray fault;
+    int pulses = 0;
+    for (const auto &target : m_targets) {
+        if (target->excess() != 0)
+            fault += nameOf(*target) + ": " + QByteArray::number(target->excess())
+                + " clicks too many; ";
+        auto *button = qobject_cast<QAbstractButton *>(target->touched);
+        if (!m_is_down && button && button->isDown() && !button->isChecked())
+            fault += nameOf(*target) + " is down; ";
+        pulses += target->pulses ? target->pulses->count() : 0;
+    }
+    if (!m_model.may_pulse && !m_model.is_unsure && pulses != m_pulses)
+        fault += "pulses";
+    m_pulses = pulses;
+    return fault.isEmpty() ? fault : fault + "\n" + m_history.join('\n');
+}
+
+int numberFrom(const char *variable, int otherwise)
+{
+    const QByteArray value = qgetenv(variable);
+    return value.isEmpty() ? otherwise : value.toInt();
+}
+
+} // namespace
+
+/// Every class under a finger that does what it likes. HOXQ_TOUCH_EVENTS and HOXQ_TOUCH_SEED make
+/// a longer and another run.
+class TestRandomTouch : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void noClickIsLostDoubledOrUnwanted();
+
+private:
+    const PanelScale m_scale{ 4, 4 };
+};
+
+void TestRandomTouch::initTestCase()
+{
+    TestCase::initTestCase();
+    virtualclock::start();
+    qRegisterMetaType<QMouseEvent *>("QMouseEvent*");
+}
+
+void TestRandomTouch::noClickIsLostDoubledOrUnwanted()
+{
+    const int seed = numberFrom("HOXQ_TOUCH_SEED", 1);
+    const int events = numberFrom("HOXQ_TOUCH_EVENTS", 5000);
+    RandomScreen screen{ quint32(seed) };
+    QVERIFY(screen.appear());
+    for (int i = 0; i < events; ++i) {
+        screen.step();
+        const QByteArray fault = screen.fault();
+        QVERIFY2(fault.isEmpty(),
+            "seed " + QByteArray::number(seed) + ", event " + QByteArray::number(i) + ": " + fault);
+    }
+    QVERIFY2(screen.taps() > events / 20, QByteArray::number(screen.taps()));
+}
+
+QTEST_MAIN(TestRandomTouch)
+#include "tst_randomtouch.moc"
