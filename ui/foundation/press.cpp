@@ -14,7 +14,7 @@ namespace {
 
 const QPoint far_away(-QWIDGETSIZE_MAX, -QWIDGETSIZE_MAX); // where the toolkit's scroller lets go
 
-struct
+struct State
 {
     QPointer<QWidget> widget; // also after a press was taken back, until the finger is lifted
     std::unique_ptr<TouchWatch> watch; // as long as the press goes on
@@ -23,7 +23,13 @@ struct
     bool is_swipe = false;
     bool is_dropping = false;
     bool is_nobodys = false; // what the finger does, until the next press
-} state;
+};
+
+State &state()
+{
+    static State only_one;
+    return only_one;
+}
 
 bool isFarAway(const QPoint &position)
 {
@@ -60,84 +66,84 @@ bool Press::begin(QWidget *widget, QMouseEvent *event, const QPoint &position)
     takeBack();
     const bool is_touch = event->button() == Qt::LeftButton;
     if (is_touch) {
-        state.widget = widget;
-        state.is_nobodys = false;
+        state().widget = widget;
+        state().is_nobodys = false;
     }
     const bool is_late = isHeldBack(*event);
-    if (!is_touch || (is_late && (state.is_dropping || TouchWatch::isOutOfReach(*widget)))) {
+    if (!is_touch || (is_late && (state().is_dropping || TouchWatch::isOutOfReach(*widget)))) {
         event->ignore();
         return false;
     }
-    state.watch = std::make_unique<TouchWatch>(widget, takeBack);
+    state().watch = std::make_unique<TouchWatch>(widget, takeBack);
     if (is_late && !(QGuiApplication::mouseButtons() & Qt::LeftButton))
-        state.watch->endSoon();
-    state.position = position;
-    state.has_moved = false;
-    state.is_swipe = false;
+        state().watch->endSoon();
+    state().position = position;
+    state().has_moved = false;
+    state().is_swipe = false;
     return true;
 }
 
 bool Press::isOn(const QWidget *widget)
 {
-    return state.watch && state.widget == widget;
+    return state().watch && state().widget == widget;
 }
 
 bool Press::wasTakenBack(const QWidget *widget)
 {
-    return !state.watch && (state.widget == widget || state.is_nobodys);
+    return !state().watch && (state().widget == widget || state().is_nobodys);
 }
 
 void Press::move(const QWidget *widget)
 {
     if (isOn(widget))
-        state.has_moved = true;
+        state().has_moved = true;
 }
 
 void Press::move(const QWidget *widget, const QPoint &position, const TapDistance &distance)
 {
-    if (isOn(widget) && distance.isExceededBy(position - state.position))
-        state.is_swipe = true;
+    if (isOn(widget) && distance.isExceededBy(position - state().position))
+        state().is_swipe = true;
 }
 
 bool Press::isSlide(const QWidget *widget, const QMouseEvent &release)
 {
-    return isOn(widget) && state.has_moved && release.button() == Qt::LeftButton
+    return isOn(widget) && state().has_moved && release.button() == Qt::LeftButton
         && !isFarAway(release.globalPos());
 }
 
 Press::End Press::end(QWidget *widget, const QMouseEvent &release)
 {
     const bool is_taken_back = isFarAway(release.globalPos());
-    if (state.widget != widget || release.button() != Qt::LeftButton)
-        return is_taken_back ? TakenBack : state.is_nobodys ? Late : Unknown;
+    if (state().widget != widget || release.button() != Qt::LeftButton)
+        return is_taken_back ? TakenBack : state().is_nobodys ? Late : Unknown;
     const bool was_on = isOn(widget);
-    state.watch.reset();
+    state().watch.reset();
     if (is_taken_back) {
         if (auto *button = qobject_cast<QAbstractButton *>(widget))
             button->setDown(false);
         return TakenBack; // and known until the finger is lifted
     }
-    state.widget.clear();
+    state().widget.clear();
     if (!was_on)
         return Late;
-    return state.is_swipe ? Swiped : Released;
+    return state().is_swipe ? Swiped : Released;
 }
 
 // It sends what it holds back when it sees the release.
 void Press::dropHeldBack(QWidget *list)
 {
     QMouseEvent event = releaseFarAway();
-    state.is_dropping = true;
+    state().is_dropping = true;
     QCoreApplication::sendEvent(list, &event);
-    state.is_dropping = false;
-    state.is_nobodys = true;
+    state().is_dropping = false;
+    state().is_nobodys = true;
 }
 
 void Press::takeBack()
 {
-    if (state.watch && state.widget)
-        Handlers::release(state.widget);
-    state.watch.reset(); // the handler may be one of the application
+    if (state().watch && state().widget)
+        Handlers::release(state().widget);
+    state().watch.reset(); // the handler may be one of the application
 }
 
 } // namespace vexo::hox::qt::ui

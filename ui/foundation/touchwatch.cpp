@@ -89,19 +89,29 @@ bool TouchWatch::isOutOfReach(const QWidget &widget)
 bool TouchWatch::eventFilter(QObject *watched, QEvent *event)
 {
     const QWidget *touched = m_widget;
-    if (touched && isLostBy(*watched, *event, *touched)) {
-        const std::function<void()> lost = m_lost;
-        lost(); // may delete this
-    } else if (event->type() == QEvent::MouseButtonRelease && watched->isWindowType()) {
+    if (touched && isLostBy(*watched, *event, *touched))
+        end();
+    else if (event->type() == QEvent::MouseButtonRelease && watched->isWindowType())
         endSoon();
-    }
     return false;
 }
 
 // A touch that still goes on when the window has handled the release never gets it.
 void TouchWatch::endSoon()
 {
-    QMetaObject::invokeMethod(this, m_lost, Qt::QueuedConnection);
+    m_soon.start(0, this);
+}
+
+void TouchWatch::timerEvent(QTimerEvent *)
+{
+    m_soon.stop();
+    end();
+}
+
+void TouchWatch::end()
+{
+    const std::function<void()> lost = m_lost;
+    lost(); // may delete this
 }
 
 } // namespace vexo::hox::qt::ui

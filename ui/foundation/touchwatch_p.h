@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QBasicTimer>
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
@@ -27,9 +28,15 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+protected:
+    void timerEvent(QTimerEvent *event) override;
+
 private:
+    void end();
+
     const QPointer<QWidget> m_widget;
     const std::function<void()> m_lost;
+    QBasicTimer m_soon;
 };
 
 } // namespace vexo::hox::qt::ui
