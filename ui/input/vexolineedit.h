@@ -183,7 +183,7 @@ public:
         bool show_text);
 
 Q_SIGNALS:
-    /// The field was touched: a finger or button was lifted, wherever.
+    /// The field was touched: the finger was lifted, wherever, and its press was not taken back.
     void textEditWanted(QString current_text);
     /// The trailing button was clicked.
     void deleteButtonClick();

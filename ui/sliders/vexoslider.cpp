@@ -6,6 +6,7 @@
 #include "ui/sliders/slideraccessible_p.h"
 
 #include <QPointer>
+#include <QSignalBlocker>
 
 #include <limits>
 
@@ -111,6 +112,8 @@ void VexoSlider::mousePressEvent(QMouseEvent *event)
 void VexoSlider::mouseReleaseEvent(QMouseEvent *event)
 {
     const Press::End end = Press::end(this, *event);
+    if (end == Press::TakenBack)
+        undoDrag();
     if (isSliderDown())
         QSlider::mouseReleaseEvent(event);
     else if (event->button() == Qt::LeftButton && end != Press::TakenBack && end != Press::Late)
@@ -123,6 +126,13 @@ void VexoSlider::mouseMoveEvent(QMouseEvent *event)
         QSlider::mouseMoveEvent(event);
     else if (!Press::wasTakenBack(this))
         Q_EMIT forwardMoveEvent(event);
+}
+
+// Of a handle that is dragged without tracking, and would set the value when it is let go.
+void VexoSlider::undoDrag()
+{
+    const QSignalBlocker silence(this);
+    setSliderPosition(value());
 }
 
 // The release of a press beside the handle does not reach the toolkit, which would page 20 times a

@@ -73,6 +73,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
 
 private:
+    void undoDrag();
     void letGo(const QMouseEvent &press);
 
     int m_minimum = 0;

@@ -4,6 +4,7 @@
 #include "support/touchscreen.h"
 
 #include <VexoIconButton>
+#include <VexoNumericButton>
 
 #include <QAbstractButton>
 #include <QAbstractEventDispatcher>
@@ -14,6 +15,7 @@
 #include <memory>
 
 using vexo::hox::qt::ui::VexoIconButton;
+using vexo::hox::qt::ui::VexoNumericButton;
 
 namespace {
 
@@ -223,6 +225,7 @@ private Q_SLOTS:
     void mayBeDeletedWhileHeld_data() { onlyATapOperates_data(); }
     void mayBeDeletedWhileHeld();
     void menuOfTheButtonEndsThePulse();
+    void menuEndsTheRepeatOfAStepper();
 
 private:
     void checkEnding(const TouchSubject &subject, const Ending &ending, int variant);
@@ -342,6 +345,29 @@ void TestPressEndings::menuOfTheButtonEndsThePulse()
     QCOMPARE(emissions.take(), QByteArray());
     QVERIFY(!button.isDown());
     finger.lift();
+}
+
+void TestPressEndings::menuEndsTheRepeatOfAStepper()
+{
+    TouchScreen screen;
+    VexoNumericButton stepper(screen.page);
+    stepper.setFixedSize(300, 50);
+    stepper.setMaximum(1000);
+    auto *plus = stepper.findChild<VexoIconButton *>(QStringLiteral("increaseButton"));
+    plus->setAutoRepeat(true);
+    QVERIFY(screen.appear());
+    Finger finger(&screen);
+    finger.press(screen.placeOf(plus));
+    virtualclock::pass(1000);
+    const int reached = stepper.value();
+    QVERIFY(reached > 2);
+    {
+        const Messages ignored;
+        openMenuOf(&screen);
+    }
+    virtualclock::pass(1000);
+    QCOMPARE(stepper.value(), reached);
+    QVERIFY(QAbstractEventDispatcher::instance()->registeredTimers(plus).isEmpty());
 }
 
 QTEST_MAIN(TestPressEndings)

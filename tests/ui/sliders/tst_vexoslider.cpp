@@ -49,6 +49,7 @@ private Q_SLOTS:
     void movesInSteps_data();
     void movesInSteps();
     void onlyTheHandleMoves();
+    void dragThatIsTakenBackSetsNothing();
     void assistiveTechnologySeesRealValues();
     void ringsAndMayBeDeleted();
 };
@@ -99,6 +100,25 @@ void TestVexoSlider::onlyTheHandleMoves()
     touch(&slider, { { 5, 20 }, { 399, 20 }, { 399, -90 }, { 210, 20 } });
     QCOMPARE(slider.forwarded.size(), 4);
     QCOMPARE(values, (QList<QVariantList>{ { 100 }, { 50 } }));
+}
+
+void TestVexoSlider::dragThatIsTakenBackSetsNothing()
+{
+    Slider slider({ 0, 100, 1, 0 });
+    slider.setTracking(false);
+    const QSignalSpy values(&slider, &VexoSlider::valueChanged);
+    const QSignalSpy releases(&slider, &QAbstractSlider::sliderReleased);
+    touch(&slider, { { 5, 20 }, { 300, 20 } });
+    QCOMPARE(values.size(), 1);
+    const int set = slider.value();
+    finger(&slider, QEvent::MouseButtonPress, QPoint(300, 20));
+    finger(&slider, QEvent::MouseMove, QPoint(100, 20));
+    QVERIFY(slider.sliderPosition() < set);
+    slider.setEnabled(false);
+    QCOMPARE(values.size(), 1);
+    QCOMPARE(releases.size(), 2); // who saw it grabbed sees it let go
+    QCOMPARE(slider.sliderPosition(), set);
+    QCOMPARE(slider.value(), set);
 }
 
 void TestVexoSlider::assistiveTechnologySeesRealValues()
