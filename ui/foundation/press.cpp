@@ -31,9 +31,9 @@ State &state()
     return only_one;
 }
 
-bool isFarAway(const QPoint &position)
+bool isFarAway(const QMouseEvent &release)
 {
-    return position.x() <= far_away.x() / 2;
+    return qMin(release.pos().x(), release.globalPos().x()) <= far_away.x() / 2;
 }
 
 // A scroller forgets the time of an event that it holds back.
@@ -108,12 +108,12 @@ void Press::move(const QWidget *widget, const QPoint &position, const TapDistanc
 bool Press::isSlide(const QWidget *widget, const QMouseEvent &release)
 {
     return isOn(widget) && state().has_moved && release.button() == Qt::LeftButton
-        && !isFarAway(release.globalPos());
+        && !isFarAway(release);
 }
 
 Press::End Press::end(QWidget *widget, const QMouseEvent &release)
 {
-    const bool is_taken_back = isFarAway(release.globalPos());
+    const bool is_taken_back = isFarAway(release);
     if (state().widget != widget || release.button() != Qt::LeftButton)
         return is_taken_back ? TakenBack : state().is_nobodys ? Late : Unknown;
     const bool was_on = isOn(widget);

@@ -160,7 +160,7 @@ public:
         finger->press(screen.placeOf(touched));
         virtualclock::pass(delivered_ms);
         if (is_slid && !qobject_cast<QAbstractSlider *>(m_whole))
-            finger->move(QPoint(10, 0));
+            finger->move(QPoint(12, 0)); // a swipe for rows and boxes, near for easy access
         emissions.take();
     }
 
