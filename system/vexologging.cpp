@@ -4,6 +4,7 @@
 
 #include <map>
 #include <memory>
+#include <mutex>
 
 namespace vexo::hox::qt::system {
 
@@ -13,6 +14,8 @@ const QLoggingCategory *category(const char *channel)
 {
     // A category keeps only the pointer to its name: the key of its own node lives as long.
     static std::map<std::string, std::unique_ptr<QLoggingCategory>> categories;
+    static std::mutex mutex;
+    const std::lock_guard lock(mutex);
     const auto entry
         = categories.try_emplace(std::string("hoxq.") + (channel ? channel : "")).first;
     if (!entry->second)

@@ -11,7 +11,8 @@ namespace vexo::hox::qt::system {
 /// Base class of everything that logs: each call writes one line on the channel given at
 /// construction. The lines go through the toolkit's category "hoxq.<channel>", so an application
 /// filters them with the toolkit's own rules: QT_LOGGING_RULES="hoxq.*.debug=true" shows all of
-/// them. Debug lines are off by default, Info and Error are on.
+/// them. Debug lines are off by default, Info and Error are on. Loggers may be made and used in any
+/// thread.
 class HOXQSYSTEM_EXPORT VexoLogging // clazy:exclude=copyable-polymorphic
 {
 public:

@@ -4,6 +4,9 @@
 
 #include <QLoggingCategory>
 #include <QTest>
+#include <QThread>
+
+#include <thread>
 
 using vexo::hox::qt::system::VexoLogging;
 
@@ -15,6 +18,7 @@ private Q_SLOTS:
     void cleanup();
     void writesOneLineOnItsCategory();
     void debugIsOffUntilARuleSwitchesItOn();
+    void channelIsMadeByOneThread();
 };
 
 void TestVexoLogging::cleanup()
@@ -50,6 +54,27 @@ void TestVexoLogging::debugIsOffUntilARuleSwitchesItOn()
     QVERIFY(!button.isDebugging());
     icon.Debug("kept");
     QCOMPARE(messages.lines(), QStringList(QStringLiteral("debug hoxq.CVI: kept")));
+}
+
+/// A second thread asks for a channel while the first one is still at making it.
+void TestVexoLogging::channelIsMadeByOneThread()
+{
+    static int made = 0;
+    static std::thread second;
+    const auto notice = [](QLoggingCategory *category) {
+        if (qstrcmp(category->categoryName(), "hoxq.shared") != 0 || made++ > 0)
+            return;
+        second = std::thread([] { VexoLogging("shared").isDebugging(); });
+        QThread::msleep(100);
+    };
+    const auto former = QLoggingCategory::installFilter(notice);
+    const VexoLogging first("shared");
+    second.join();
+    QLoggingCategory::installFilter(former);
+    QCOMPARE(made, 1);
+    Messages messages;
+    first.Info("x");
+    QCOMPARE(messages.lines(), QStringList(QStringLiteral("info hoxq.shared: x")));
 }
 
 QTEST_MAIN(TestVexoLogging)
