@@ -1,5 +1,6 @@
 #include "ui/buttons/activebutton.h"
 
+#include "ui/foundation/imagefile_p.h"
 #include "ui/foundation/quietly_p.h"
 
 #include <QEvent>
@@ -140,7 +141,7 @@ void ActiveButton::timerEvent()
 
 QIcon ActiveButton::compute(const QString &file)
 {
-    return QIcon(file);
+    return ImageFile(file, ImageFile::Kind::Any).icon();
 }
 
 QIcon ActiveButton::generateInverseIcon(const QIcon &icon)

@@ -148,29 +148,33 @@ void CachedVectorIcon::compute()
         computeBitmap();
         return;
     }
-    VectorFile file(m_filename);
+    ImageFile file(m_filename, ImageFile::Kind::Vector);
     const QSize natural = file.naturalSize();
     if (!natural.isValid()) {
         log("SVG renderer invalid.");
         computeBitmap();
         return;
     }
+    const double width = natural.width();
+    const double height = natural.height();
     if (!natural.isEmpty())
-        fillMissingMm(fillMissingPx(double(natural.width()) / natural.height()));
+        fillMissingMm(fillMissingPx(width / height, height / width));
     addPixmap(file.pixmap(pxSize()), QIcon::Normal, QIcon::Off);
     m_must_relayout = false;
 }
 
 void CachedVectorIcon::computeBitmap()
 {
-    BitmapFile file(m_filename);
+    ImageFile file(m_filename, ImageFile::Kind::Any);
     const QSize natural = file.naturalSize();
     if (!natural.isValid()) {
         log("Invalid pixmap");
         return;
     }
+    const float width = float(natural.width());
+    const float height = float(natural.height());
     if (!natural.isEmpty())
-        fillMissingPx(double(float(natural.width()) / float(natural.height())));
+        fillMissingPx(double(width / height), double(height / width));
     addPixmap(file.pixmap(pxSize()), QIcon::Normal, QIcon::Off);
 }
 
@@ -191,15 +195,16 @@ QPixmap CachedVectorIcon::toPixmap()
     return pixmap(pxSize(), QIcon::Normal, QIcon::Off);
 }
 
-CachedVectorIcon::Dimension CachedVectorIcon::fillMissingPx(double aspect)
+CachedVectorIcon::Dimension CachedVectorIcon::fillMissingPx(
+    double width_per_height, double height_per_width)
 {
     const float ratio = ScalingInfo::inst()->m_xy_ratio;
     if (m_px_width == 0 && m_px_height > 0) {
-        m_px_width = double(1 / ratio) * m_px_height * aspect;
+        m_px_width = double(1 / ratio) * m_px_height * width_per_height;
         return Dimension::Width;
     }
     if (m_px_height == 0 && m_px_width > 0) {
-        m_px_height = double(ratio) * m_px_width / aspect;
+        m_px_height = double(ratio) * m_px_width * height_per_width;
         return Dimension::Height;
     }
     return Dimension::None;

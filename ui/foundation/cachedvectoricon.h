@@ -15,12 +15,14 @@ namespace vexo::hox::qt::ui {
 ///
 /// A dimension of 0 follows from the other one and the aspect ratio of the image. Rendering happens
 /// when a size is set, never in a paint; icons of the same unchanged file and size share one
-/// rendering. An image beyond 32767 px on a side or 64 Mpx in all is not rendered.
+/// rendering. An image beyond 32767 px on a side or 8 Mpx in all is not rendered, nor is an SVG of
+/// so many large shapes that it would take some tenths of a second.
 ///
-/// A file that cannot be read is no error: the icon keeps what it had and writes a Debug line on
-/// the channel "CVI". Hostile files (no regular file, promising more than 64 Mpx, exploding shapes,
-/// an SVG that refers to other files) count as unreadable; resources are not examined. The toolkit
-/// may warn about flaws in an SVG that is readable. GUI thread only.
+/// A file is found as QPixmap finds it: as a resource, in search paths, and without its suffix. One
+/// that cannot be read is no error: the icon keeps what it had and writes a Debug line on the
+/// channel "CVI". Hostile files (no regular file, more than 16 MB or 8 Mpx, an SVG that explodes or
+/// refers to other files) count as unreadable; resources are not examined. The toolkit may warn
+/// about flaws in an SVG that is readable. GUI thread only.
 class HOXQUI_EXPORT CachedVectorIcon // clazy:exclude=copyable-polymorphic
     : public QIcon,
       private vexo::hox::qt::system::VexoLogging
@@ -87,7 +89,7 @@ public:
 private:
     enum class Dimension { None, Width, Height };
 
-    Dimension fillMissingPx(double aspect);
+    Dimension fillMissingPx(double width_per_height, double height_per_width);
     void fillMissingMm(Dimension filled);
     QSize pxSize() const;
     void log(const char *line) const;

@@ -1,19 +1,20 @@
 #include "ui/foundation/imagefile_p.h"
 
+#include "ui/foundation/bitmapguard_p.h"
+#include "ui/foundation/rendercost_p.h"
 #include "ui/foundation/svgguard_p.h"
 
+#include <QApplication>
+#include <QBuffer>
 #include <QCache>
-#include <QFile>
+#include <QFileInfo>
+#include <QIconEngine>
 #include <QImageReader>
 #include <QPainter>
 #include <QPixmapCache>
-#include <QResource>
+#include <QStyle>
+#include <QStyleOption>
 #include <QSvgRenderer>
-
-#include <ctime>
-#include <initializer_list>
-
-#include <sys/stat.h>
 
 namespace vexo::hox::qt::ui {
 
@@ -25,92 +26,117 @@ QCache<QString, QSize> &naturalSizes()
     return sizes;
 }
 
-bool isResource(const QString &path)
+// A name without a suffix stands for the first file that has one of the toolkit's.
+QString found(const QString &path)
 {
-    return path.startsWith(QLatin1Char(':'));
+    const QFileInfo info(path);
+    if (path.isEmpty() || !info.completeSuffix().isEmpty() || info.exists())
+        return path;
+    const QList<QByteArray> suffixes = QImageReader::supportedImageFormats();
+    for (const QByteArray &suffix : suffixes) {
+        const QString candidate = path + QLatin1Char('.') + QLatin1String(suffix);
+        if (QFileInfo::exists(candidate))
+            return candidate;
+    }
+    return path;
 }
 
-QString joined(char first, std::initializer_list<qint64> numbers)
+QString kindKey(const QString &content_key, ImageFile::Kind kind)
 {
-    QString text = QStringLiteral("hoxq") + QLatin1Char(first);
-    for (const qint64 number : numbers)
-        text += QString::number(number, 36) + QLatin1Char(' ');
-    return text;
+    const char *const prefix = kind == ImageFile::Kind::Vector ? "hoxqv" : "hoxqb";
+    return content_key.isEmpty() ? QString() : QLatin1String(prefix) + content_key;
 }
 
-bool isHoldable(const QSize &px)
+QString sizeKey(const QString &key, const QSize &px)
 {
-    return !px.isEmpty() && px.width() <= ImageFile::MAX_SIDE && px.height() <= ImageFile::MAX_SIDE
-        && qint64(px.width()) * px.height() <= ImageFile::MAX_PIXELS;
+    return QStringLiteral("%1x%2 %3").arg(key).arg(px.width()).arg(px.height());
 }
 
-// Handed over as bytes: with a path the renderer prints its own warning about a broken file.
-std::unique_ptr<QSvgRenderer> loadSvg(const QString &path)
+QImage rendered(QSvgRenderer *renderer, const QSize &px)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return nullptr;
-    const QByteArray text = svgText(file.readAll());
-    if (!isResource(path) && !isHarmlessSvg(text))
-        return nullptr;
-    auto renderer = std::make_unique<QSvgRenderer>();
-    return renderer->load(text) ? std::move(renderer) : nullptr;
-}
-
-QPixmap renderSvg(QSvgRenderer *renderer, const QSize &px)
-{
-    QPixmap pixmap(px);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
+    QImage image(px, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
     renderer->render(&painter);
-    return pixmap;
+    return image;
 }
+
+bool isTimely(QSvgRenderer *renderer, const QSize &px)
+{
+    return isRenderedInTime(renderer, px, QRectF(QPointF(), px));
+}
+
+/// Renders a vector at each size once.
+class VectorIconEngine : public QIconEngine
+{
+public:
+    VectorIconEngine(const std::shared_ptr<QSvgRenderer> &renderer, const QString &key)
+        : m_renderer(renderer)
+        , m_key(key)
+    {
+    }
+
+    QIconEngine *clone() const override { return new VectorIconEngine(*this); }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        const double ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
+        painter->drawPixmap(rect, pixmap(rect.size() * ratio, mode, state));
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State) override
+    {
+        const QPixmap plain
+            = plainPixmap(m_renderer->defaultSize().scaled(size, Qt::KeepAspectRatio));
+        if (mode == QIcon::Normal || plain.isNull())
+            return plain;
+        QStyleOption option(0);
+        option.palette = QGuiApplication::palette();
+        return QApplication::style()->generatedIconPixmap(mode, plain, &option);
+    }
+
+private:
+    QPixmap plainPixmap(const QSize &px) const
+    {
+        QPixmap pixmap;
+        const QString key = sizeKey(m_key, px);
+        if (!ImageFile::isHoldable(px) || QPixmapCache::find(key, &pixmap)
+            || !isTimely(m_renderer.get(), px))
+            return pixmap;
+        pixmap = QPixmap::fromImage(rendered(m_renderer.get(), px));
+        QPixmapCache::insert(key, pixmap);
+        return pixmap;
+    }
+
+    std::shared_ptr<QSvgRenderer> m_renderer;
+    QString m_key;
+};
 
 } // namespace
 
-ImageFile::ImageFile(const QString &path, char kind)
-    : m_path(path)
+ImageFile::ImageFile(const QString &path, Kind kind)
+    : m_file(found(path), MAX_BYTES)
+    , m_kind(kind)
+    , m_key(kindKey(m_file.key(), kind))
 {
-    if (isResource(path))
-        identifyResource(kind);
-    else
-        identifyFile(kind);
 }
 
 ImageFile::~ImageFile() = default;
 
-void ImageFile::identifyResource(char kind)
+bool ImageFile::isHoldable(const QSize &px)
 {
-    const QResource resource(m_path);
-    m_is_safe = resource.data() != nullptr; // a folder has none
-    m_key = joined(kind, { qint64(reinterpret_cast<quintptr>(resource.data())), resource.size() });
-}
-
-// A pipe would block and a device never end, so only regular files are opened. A file written
-// within the granularity of its time stamp could change once more unnoticed.
-void ImageFile::identifyFile(char kind)
-{
-    const qint64 max_bytes = qint64(64) << 20;
-    const qint64 settling_s = 2;
-    struct stat info = {};
-    if (stat(QFile::encodeName(m_path).constData(), &info) != 0)
-        return;
-    m_is_safe = S_ISREG(info.st_mode) && info.st_size <= max_bytes;
-    if (info.st_mtim.tv_sec + settling_s < time(nullptr))
-        m_key = joined(kind,
-            { qint64(info.st_dev), qint64(info.st_ino), info.st_size, info.st_mtim.tv_sec,
-                info.st_mtim.tv_nsec });
+    return !px.isEmpty() && px.width() <= MAX_SIDE && px.height() <= MAX_SIDE
+        && qint64(px.width()) * px.height() <= MAX_PIXELS;
 }
 
 QSize ImageFile::naturalSize()
 {
-    if (!m_is_safe)
+    if (m_key.isEmpty())
         return QSize();
     if (const QSize *known = naturalSizes().object(m_key))
         return *known;
     const QSize size = read();
-    m_is_read = true;
-    if (size.isValid() && !m_key.isEmpty())
+    if (size.isValid())
         naturalSizes().insert(m_key, new QSize(size));
     return size;
 }
@@ -118,67 +144,83 @@ QSize ImageFile::naturalSize()
 QPixmap ImageFile::pixmap(const QSize &px)
 {
     QPixmap pixmap;
-    if (!m_is_safe || !isHoldable(px))
+    const QString key = sizeKey(m_key, px);
+    if (m_key.isEmpty() || QPixmapCache::find(key, &pixmap))
         return pixmap;
-    const QString key = m_key + QLatin1Char('x') + joined(' ', { px.width(), px.height() });
-    if (!m_key.isEmpty() && QPixmapCache::find(key, &pixmap))
-        return pixmap;
-    if (m_is_read || read().isValid())
-        pixmap = render(px);
-    if (!m_key.isEmpty() && !pixmap.isNull())
+    pixmap = QPixmap::fromImage(image(px));
+    if (!pixmap.isNull())
         QPixmapCache::insert(key, pixmap);
     return pixmap;
 }
 
-VectorFile::VectorFile(const QString &path)
-    : ImageFile(path, 'v')
+QIcon ImageFile::icon()
 {
+    if (!read().isValid())
+        return QIcon();
+    return m_renderer ? QIcon(new VectorIconEngine(m_renderer, m_key))
+                      : QIcon(QPixmap::fromImage(m_image));
 }
 
-VectorFile::~VectorFile() = default;
-
-QSvgRenderer *VectorFile::renderer()
+QSize ImageFile::read()
 {
-    return isSafe() && read().isValid() ? m_renderer.get() : nullptr;
+    if (!m_is_read)
+        m_size = parse();
+    m_is_read = true;
+    return m_size;
 }
 
-QSize VectorFile::read()
+QImage ImageFile::image(const QSize &px)
 {
-    m_renderer = loadSvg(m_path);
-    return m_renderer ? m_renderer->defaultSize() : QSize();
+    if (!isHoldable(px) || !read().isValid())
+        return QImage();
+    if (!m_renderer)
+        return m_image.scaled(px, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return m_file.isResource() || isTimely(m_renderer.get(), px) ? rendered(m_renderer.get(), px)
+                                                                 : QImage();
 }
 
-QPixmap VectorFile::render(const QSize &px)
+void ImageFile::draw(QPainter *painter, const QRectF &rect)
 {
-    return renderSvg(m_renderer.get(), px);
+    const QSize px(painter->device()->width(), painter->device()->height());
+    if (read().isValid() && m_renderer
+        && (m_file.isResource() || isRenderedInTime(m_renderer.get(), px, rect)))
+        m_renderer->render(painter, rect);
 }
 
-BitmapFile::BitmapFile(const QString &path)
-    : ImageFile(path, 'b')
+QSize ImageFile::parse()
 {
-}
-
-BitmapFile::~BitmapFile() = default;
-
-QSize BitmapFile::read()
-{
-    QImageReader reader(m_path);
-    reader.setDecideFormatFromContent(true); // an SVG may bear any name
-    if (reader.format().startsWith("svg")) {
-        m_renderer = loadSvg(m_path);
-        return m_renderer ? m_renderer->defaultSize() : QSize();
-    }
-    if (!isHoldable(reader.size()))
+    const QByteArray bytes = m_file.read();
+    if (bytes.isNull())
         return QSize();
-    m_pixmap = QPixmap::fromImageReader(&reader);
-    return m_pixmap.isNull() ? QSize() : m_pixmap.size();
+    return m_kind == Kind::Vector ? parseVector(bytes) : parseBitmap(bytes);
 }
 
-QPixmap BitmapFile::render(const QSize &px)
+// Handed over as bytes: with a path the renderer prints its own warning about a broken file.
+QSize ImageFile::parseVector(const QByteArray &bytes)
 {
-    if (m_renderer)
-        return renderSvg(m_renderer.get(), px);
-    return m_pixmap.scaled(px, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QByteArray text = svgText(bytes);
+    if (!m_file.isResource() && !isHarmlessSvg(text))
+        return QSize();
+    auto renderer = std::make_shared<QSvgRenderer>();
+    if (!renderer->load(text))
+        return QSize();
+    m_renderer = renderer;
+    return renderer->defaultSize();
+}
+
+QSize ImageFile::parseBitmap(const QByteArray &bytes)
+{
+    QBuffer buffer;
+    buffer.setData(bytes);
+    QImageReader reader(&buffer);
+    reader.setDecideFormatFromContent(true); // an SVG may bear any name
+    if (reader.format().startsWith("svg"))
+        return parseVector(bytes);
+    const qint64 decoded = decodedBytes(bytes);
+    if (decoded < 0 || decoded > 4 * MAX_PIXELS)
+        return QSize();
+    m_image = reader.read();
+    return m_image.isNull() ? QSize() : m_image.size();
 }
 
 } // namespace vexo::hox::qt::ui

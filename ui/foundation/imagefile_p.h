@@ -1,91 +1,75 @@
 #pragma once
 
+#include "ui/foundation/inputfile_p.h"
+
+#include <QIcon>
+#include <QImage>
 #include <QPixmap>
 #include <QSize>
-#include <QString>
 
 #include <memory>
 
+class QPainter;
+class QRectF;
 class QSvgRenderer;
 
 namespace vexo::hox::qt::ui {
 
 /// An image file on its way to icons: its natural size, and renderings of it at whole pixel sizes.
-/// Both are kept for all icons of the process as long as the file stays the same, so it is read
-/// again only after it has changed. Whatever cannot be read safely (no regular file, more than
-/// 64 MB, a header that promises more than MAX_PIXELS, a hostile SVG) counts as unreadable, without
-/// a message. A resource is the application's own and is not examined.
+/// Both are kept for all icons of the process as long as the content stays the same, so a file is
+/// read again only after it has changed. Whatever cannot be read safely (no regular file, more than
+/// MAX_BYTES, a header that promises more than MAX_PIXELS, a hostile SVG) counts as unreadable,
+/// without a message. A resource is the application's own and is not examined. Names are looked up
+/// as QPixmap does: in search paths, and without a suffix with each that the toolkit reads.
 class ImageFile
 {
 public:
     static constexpr int MAX_SIDE = 32767; ///< px; what the toolkit's painter can address
-    static constexpr qint64 MAX_PIXELS = qint64(64) << 20; ///< 256 MB in memory
+    static constexpr qint64 MAX_PIXELS = qint64(8) << 20; ///< a 4K screen; 32 MB in memory
+    static constexpr qint64 MAX_BYTES = qint64(16) << 20;
 
-    virtual ~ImageFile();
+    /// Vector is an SVG file, plain or gzip-compressed. Any is each format that the toolkit reads;
+    /// it recognises them by content, and vectors stay crisp.
+    enum class Kind { Vector, Any };
+
+    ImageFile(const QString &path, Kind kind);
+    ~ImageFile();
     ImageFile(const ImageFile &) = delete;
     ImageFile &operator=(const ImageFile &) = delete;
 
-    /// The size the file gives itself; invalid when it cannot be read.
-    QSize naturalSize();
-    /// The whole image stretched to \a px; null for an empty size and beyond the limits.
-    QPixmap pixmap(const QSize &px);
-    /// Stands for the content; empty for a file that may still be changing or that is gone.
+    /// Whether an image of this size may be made.
+    static bool isHoldable(const QSize &px);
+
+    /// Stands for the content; empty for a file that cannot be read.
     const QString &key() const { return m_key; }
+    /// The size the file gives itself; invalid when it cannot be read. GUI thread only.
+    QSize naturalSize();
+    /// The whole image stretched to \a px; null for an empty size, beyond the limits and when it
+    /// would take too long. GUI thread only.
+    QPixmap pixmap(const QSize &px);
+    /// An icon as QIcon makes it of a path, but read now: a bitmap at its own size, a vector at
+    /// each that is asked for. Null when the file cannot be read. GUI thread only.
+    QIcon icon();
 
-protected:
-    /// \a kind keeps the renderings of both kinds apart.
-    ImageFile(const QString &path, char kind);
-
-    bool isSafe() const { return m_is_safe; }
-    /// Reads the file and returns its natural size, invalid on failure.
-    virtual QSize read() = 0;
-    /// Renders what read() has read.
-    virtual QPixmap render(const QSize &px) = 0;
-
-    const QString m_path;
+    /// Reads the file now, past all caches and in whatever thread, and returns naturalSize().
+    QSize read();
+    /// The image as pixmap() gives it, past all caches and in whatever thread.
+    QImage image(const QSize &px);
+    /// Draws a vector into \a rect of the painter's device, as image() does.
+    void draw(QPainter *painter, const QRectF &rect);
 
 private:
-    void identifyResource(char kind);
-    void identifyFile(char kind);
+    QSize parse();
+    QSize parseVector(const QByteArray &bytes);
+    QSize parseBitmap(const QByteArray &bytes);
 
-    bool m_is_safe = false;
-    QString m_key;
+    InputFile m_file;
+    const Kind m_kind;
+    const QString m_key;
     bool m_is_read = false;
-};
-
-/// An SVG file, plain or gzip-compressed.
-class VectorFile : public ImageFile
-{
-public:
-    explicit VectorFile(const QString &path);
-    ~VectorFile() override;
-
-    /// Reads the file now, past all caches and in whatever thread; null when it cannot be read.
-    QSvgRenderer *renderer();
-
-protected:
-    QSize read() override;
-    QPixmap render(const QSize &px) override;
-
-private:
-    std::unique_ptr<QSvgRenderer> m_renderer;
-};
-
-/// A file of any format that the toolkit reads as an image. Vector formats, which it recognises by
-/// content, are rendered at the asked size and stay crisp.
-class BitmapFile : public ImageFile
-{
-public:
-    explicit BitmapFile(const QString &path);
-    ~BitmapFile() override;
-
-protected:
-    QSize read() override;
-    QPixmap render(const QSize &px) override;
-
-private:
-    std::unique_ptr<QSvgRenderer> m_renderer; // of a vector format
-    QPixmap m_pixmap;
+    QSize m_size; // as read
+    std::shared_ptr<QSvgRenderer> m_renderer; // of a vector
+    QImage m_image; // of a bitmap
 };
 
 } // namespace vexo::hox::qt::ui

@@ -5,12 +5,13 @@
 namespace vexo::hox::qt::ui {
 
 /// The bytes of an SVG file as text: gzip is unpacked. Empty when that fails or unpacks to more
-/// than 64 MB.
+/// than the guard lets through.
 QByteArray svgText(const QByteArray &bytes);
 
-/// Whether rendering \a text stays within bounds of time and memory that the renderer does not set
-/// itself. Refused are images that are not embedded, embedded images of more than 64 Mpx together,
-/// and uses of shapes that multiply through several levels.
+/// Whether the renderer reads \a text within bounds of time, memory and stack that it does not set
+/// itself, and opens no other file for it. Counted are elements and how deep they nest, attributes,
+/// gradient stops, letters, rules of stylesheets, what uses of shapes multiply to, and embedded
+/// images. One walk, which ends at the first excess. What rendering then costs depends on its size.
 bool isHarmlessSvg(const QByteArray &text);
 
 } // namespace vexo::hox::qt::ui

@@ -4,14 +4,13 @@
 #include "ui/foundation/scalinginfo.h"
 
 #include <QPainter>
-#include <QSvgRenderer>
 
 namespace vexo::hox::qt::ui {
 
 QImage logoImage(int width, int height, QImage::Format format)
 {
-    return qint64(width) * height > ImageFile::MAX_PIXELS ? QImage()
-                                                          : QImage(width, height, format);
+    const QSize px(width, height);
+    return ImageFile::isHoldable(px) ? QImage(px, format) : QImage();
 }
 
 QRectF logoRect(const QSize &natural, double mm, const QSizeF &room)
@@ -28,7 +27,7 @@ QRectF logoRect(const QSize &natural, double mm, const QSizeF &room)
         QPointF((room.width() - size.width()) / 2, (room.height() - size.height()) / 2), size);
 }
 
-void drawLogo(QImage *image, QSvgRenderer *renderer, const QRectF &rect)
+void drawLogo(QImage *image, ImageFile *file, const QRectF &rect)
 {
     QPainter painter;
     if (image->isNull() || !painter.begin(image))
@@ -36,8 +35,8 @@ void drawLogo(QImage *image, QSvgRenderer *renderer, const QRectF &rect)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBackground(Qt::white);
     painter.eraseRect(image->rect());
-    if (renderer && !rect.isEmpty())
-        renderer->render(&painter, rect);
+    if (!rect.isEmpty())
+        file->draw(&painter, rect);
 }
 
 } // namespace vexo::hox::qt::ui

@@ -3,19 +3,19 @@
 #include <QImage>
 #include <QRectF>
 
-class QSvgRenderer;
-
 namespace vexo::hox::qt::ui {
 
-/// A new image of undefined content; null beyond 64 Mpx, which no panel shows.
+class ImageFile;
+
+/// A new image of undefined content; null beyond 8 Mpx, which no panel shows.
 QImage logoImage(int width, int height, QImage::Format format);
 
 /// Where an SVG of the size \a natural stands at a width of \a mm millimetres, centred in \a room
 /// px. Empty when there is nothing to draw: no size, no width, or no number.
 QRectF logoRect(const QSize &natural, double mm, const QSizeF &room);
 
-/// Makes \a image white and draws the SVG into \a rect, nothing for null or an empty rectangle.
-/// Works in whatever thread.
-void drawLogo(QImage *image, QSvgRenderer *renderer, const QRectF &rect);
+/// Makes \a image white and draws the SVG into \a rect, nothing when it cannot be read or the
+/// rectangle is empty. Works in whatever thread.
+void drawLogo(QImage *image, ImageFile *file, const QRectF &rect);
 
 } // namespace vexo::hox::qt::ui

@@ -3,8 +3,6 @@
 #include "ui/foundation/imagefile_p.h"
 #include "ui/text/logo_p.h"
 
-#include <QSvgRenderer>
-
 namespace vexo::hox::qt::ui {
 
 namespace {
@@ -34,10 +32,8 @@ VexoLogo::VexoLogo(
 void VexoLogo::paint(float width_mm)
 {
     reclaimBuffer();
-    VectorFile file(m_file);
-    QSvgRenderer *renderer = file.renderer();
-    const QSize natural = renderer ? renderer->defaultSize() : QSize();
-    drawLogo(&m_image, renderer, logoRect(natural, double(width_mm), m_image.size()));
+    ImageFile file(m_file, ImageFile::Kind::Vector);
+    drawLogo(&m_image, &file, logoRect(file.read(), double(width_mm), m_image.size()));
 }
 
 // The painter would move to memory of its own while someone holds a copy of the image.

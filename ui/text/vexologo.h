@@ -12,7 +12,7 @@ namespace vexo::hox::qt::ui {
 class HOXQUI_EXPORT VexoLogo
 {
 public:
-    /// An image of \a width x \a height px, at most 64 Mpx. \a file is an SVG, mostly a resource.
+    /// An image of \a width x \a height px, at most 8 Mpx. \a file is an SVG, mostly a resource.
     VexoLogo(unsigned int width, unsigned int height, QImage::Format format, const QString &file);
     /// The image is the caller's buffer of \a width x \a height pixels, 32 bits each as in
     /// QImage::Format_ARGB32, without gaps. It is written in place and must outlive the logo and
@@ -24,7 +24,7 @@ public:
     /// not above 0, leaves the image white. Works in each thread, once ScalingInfo::inst() exists.
     void paint(float width_mm);
 
-    /// Undefined before the first paint(). Null for a size of 0 and beyond 64 Mpx.
+    /// Undefined before the first paint(). Null for a size of 0 and beyond 8 Mpx.
     const QImage &image() const { return m_image; }
 
 private:

@@ -57,11 +57,11 @@ void VexoLogoLabel::makeImage()
 // A file that has not changed since the last paint need not be drawn again. Returns where it is.
 QRectF VexoLogoLabel::renderImage()
 {
-    VectorFile file(m_file);
+    ImageFile file(m_file, ImageFile::Kind::Vector);
     const QSize natural = file.naturalSize();
     const QRectF rect = logoRect(natural, m_width_in_mm, natural);
     if (m_drawn_key.isEmpty() || m_drawn_key != file.key() || m_drawn_rect != rect)
-        drawLogo(&m_image, file.renderer(), rect);
+        drawLogo(&m_image, &file, rect);
     m_drawn_key = file.key();
     m_drawn_rect = rect;
     return rect;

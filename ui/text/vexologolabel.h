@@ -23,7 +23,7 @@ class HOXQUI_EXPORT VexoLogoLabel : public QLabel
     /// Width of the drawing, mm; its height follows from the file's proportions.
     Q_PROPERTY(double m_width_in_mm MEMBER m_width_in_mm WRITE setMmWidth)
     /// Width of the image, px. A change makes a new image; none for a width below 1 or
-    /// beyond 64 Mpx.
+    /// beyond 8 Mpx.
     Q_PROPERTY(int m_image_width MEMBER m_image_width WRITE setImageWidth)
     /// Height of the image, px. A change makes a new image; none for a height below 1.
     Q_PROPERTY(int m_image_height MEMBER m_image_height WRITE setImageHeight)

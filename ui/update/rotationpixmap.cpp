@@ -1,5 +1,6 @@
 #include "ui/update/rotationpixmap.h"
 
+#include "ui/foundation/imagefile_p.h"
 #include "ui/foundation/pixels_p.h"
 
 #include <QMutexLocker>
@@ -63,9 +64,9 @@ QPixmap RotationPixmap::rotate()
 void RotationPixmap::run()
 {
     for (int i = 0; i < m_files.size() && !isInterruptionRequested(); ++i) {
-        QImage image(m_files.at(i));
-        if (!image.isNull())
-            image = image.scaled(m_px, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+        ImageFile file(m_files.at(i), ImageFile::Kind::Any);
+        const QSize px = file.read().scaled(m_px, Qt::KeepAspectRatioByExpanding);
+        const QImage image = m_px.isEmpty() ? QImage() : file.image(px);
         const QMutexLocker lock(&m_mutex);
         m_loaded.insert(i, image);
     }

@@ -16,7 +16,8 @@ namespace vexo::hox::qt::ui {
 /// A busy animation: flips through a sequence of images every 500 ms, such as a symbol drawn at
 /// several angles. The images are loaded and scaled once, in a thread of its own that starts with
 /// the construction, so that the GUI thread is not held up; a frame that is asked for before it is
-/// loaded, or whose file cannot be read, is a null pixmap.
+/// loaded, or whose file cannot be read, is a null pixmap. The files are read as those of a
+/// CachedVectorIcon: hostile ones count as unreadable, and vectors come out at the frame's size.
 ///
 /// It belongs to the thread that creates it, the GUI thread, which also receives the frames. The
 /// destructor lets the loading end after the file it is at, and waits for it.

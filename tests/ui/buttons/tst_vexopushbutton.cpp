@@ -71,6 +71,7 @@ private Q_SLOTS:
     void imageIsPlacedInMillimetres();
     void looksFollowTheState_data();
     void looksFollowTheState();
+    void freshImageIsRenderedOnce();
     void imageCanBeHiddenAndRemoved();
     void buttonWithoutStandardImageThrows();
     void labelBreaksWhereItReachesTheMargins();
@@ -169,6 +170,19 @@ void TestVexoPushButton::looksFollowTheState()
     seen = picture(&button);
     QCOMPARE(boxOf(seen, fill), QRect(0, 0, 400, 240));
     QVERIFY(boxOf(seen, Qt::darkBlue).isEmpty());
+}
+
+/// A file that has just been written, too.
+void TestVexoPushButton::freshImageIsRenderedOnce()
+{
+    VexoPushButton button;
+    const QString file = m_files.svg(IMAGE);
+    button.setSvgImage(file, Standard);
+    button.setSvgImage(file, Clicked);
+    const QPixmap shown = button.icon().pixmap(button.iconSize());
+    QVERIFY(!shown.isNull());
+    for (const ButtonState state : { Standard, Clicked })
+        QCOMPARE(button.getIconForState(state).toPixmap().cacheKey(), shown.cacheKey());
 }
 
 void TestVexoPushButton::imageCanBeHiddenAndRemoved()

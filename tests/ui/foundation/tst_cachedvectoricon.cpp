@@ -4,6 +4,9 @@
 
 #include <CachedVectorIcon>
 
+#include <QDir>
+#include <QProcess>
+#include <QResource>
 #include <QTest>
 
 #include <stdexcept>
@@ -77,6 +80,10 @@ private Q_SLOTS:
     void assignmentTakesFileAndSizeOnly();
     void iconsOfOneFileAndSizeShareTheRendering();
     void changedFileIsRenderedAnew();
+    void replacedBundleIsRenderedAnew();
+    void findsWhatTheToolkitFinds_data();
+    void findsWhatTheToolkitFinds();
+    void bitmapKeepsItsProportions();
     void bitmapsAreScaledSmoothly();
     void vectorsStayCrispUnderAnyName();
 
@@ -265,13 +272,82 @@ void TestCachedVectorIcon::iconsOfOneFileAndSizeShareTheRendering()
 void TestCachedVectorIcon::changedFileIsRenderedAnew()
 {
     const QString name = QStringLiteral("changing.svg");
-    for (const int age_s : { 3600, 0 }) { // of the first version; both are of the same size
-        const QString file = m_files.write(name, svgOfTwoHalves("#ff0000"), age_s);
+    const QList<QPair<int, int>> ages_s{ { 3600, 0 }, { 0, 0 }, { 3600, 3600 } };
+    for (const auto &ages : ages_s) { // of the two versions, which are of the same size
+        const QString file = m_files.write(name, svgOfTwoHalves("#ff0000"), ages.first);
         CachedVectorIcon before(file, QSizeF(10, 5));
         QCOMPARE(leftOf(&before), QColor(Qt::red));
-        m_files.write(name, svgOfTwoHalves("#00ff00"));
+        const QDateTime time = QFileInfo(file).lastModified();
+        m_files.write(name, svgOfTwoHalves("#00ff00"), ages.second);
+        QFile copy(file); // as a copy that keeps the time stamp
+        if (ages.second != 0)
+            QVERIFY(copy.open(QIODevice::ReadWrite)
+                && copy.setFileTime(time, QFileDevice::FileModificationTime));
         CachedVectorIcon after(file, QSizeF(10, 5));
         QCOMPARE(leftOf(&after), QColor(Qt::green));
+    }
+}
+
+/// Day and night, both of the same size and at the same address.
+void TestCachedVectorIcon::replacedBundleIsRenderedAnew()
+{
+    const QByteArray list = "<RCC><qresource><file>look.svg</file></qresource></RCC>";
+    const QString qrc = m_files.write(QStringLiteral("look.qrc"), list);
+    QByteArray bundle(10000, '\0');
+    for (const char *color : { "#ff0000", "#00ff00" }) {
+        m_files.write(QStringLiteral("look.svg"), svgOfTwoHalves(color));
+        QProcess rcc;
+        rcc.start(QStringLiteral(HOXQ_RCC),
+            { QStringLiteral("--binary"), QStringLiteral("--no-compress"), qrc });
+        QVERIFY(rcc.waitForFinished());
+        const QByteArray bytes = rcc.readAllStandardOutput();
+        QVERIFY(bytes.startsWith("qres") && bytes.size() < bundle.size());
+        bundle.replace(0, bytes.size(), bytes);
+        const auto *address = reinterpret_cast<const uchar *>(bundle.constData());
+        QVERIFY(QResource::registerResource(address));
+        CachedVectorIcon icon(QStringLiteral(":/look.svg"), QSizeF(10, 5));
+        QCOMPARE(leftOf(&icon), QColor(QLatin1String(color)));
+        QVERIFY(QResource::unregisterResource(address));
+    }
+}
+
+void TestCachedVectorIcon::findsWhatTheToolkitFinds_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::newRow("svg in a search path") << QStringLiteral("theme:halves.svg");
+    QTest::newRow("bitmap in a search path") << QStringLiteral("theme:stem.png");
+    QTest::newRow("resource in a search path") << QStringLiteral("theme:cb_checked");
+    QTest::newRow("bitmap without suffix") << m_files.path(QStringLiteral("stem"));
+    QTest::newRow("both") << QStringLiteral("theme:stem");
+    QTest::newRow("vector without suffix") << m_files.path(QStringLiteral("halves"));
+    QTest::newRow("resource without slash") << QStringLiteral(":cb_checked");
+}
+
+void TestCachedVectorIcon::findsWhatTheToolkitFinds()
+{
+    QFETCH(QString, file);
+    QVERIFY(QImage(4, 2, QImage::Format_RGB32).save(m_files.path(QStringLiteral("stem.png"))));
+    QDir::setSearchPaths(
+        QStringLiteral("theme"), { m_files.path(QString()), QStringLiteral(":/") });
+    QVERIFY(!QPixmap(file).isNull());
+    QCOMPARE(CachedVectorIcon(file, QSizeF(10, 5)).toPixmap().size(), QSize(50, 100));
+    QDir::setSearchPaths(QStringLiteral("theme"), {});
+}
+
+/// Divided by the inverse, 7 x 7 px would come out a pixel short.
+void TestCachedVectorIcon::bitmapKeepsItsProportions()
+{
+    const PanelScale scale(10, 10);
+    const QString file = m_files.path(QStringLiteral("proportions.png"));
+    for (const QSize &natural : { QSize(40, 20), QSize(3, 21), QSize(30, 44), QSize(49, 7) }) {
+        QVERIFY(QImage(natural, QImage::Format_RGB32).save(file));
+        for (int width = 1; width < 200; ++width) {
+            CachedVectorIcon icon(file);
+            icon.setMmWidth(float(width) / 10);
+            const float whole
+                = float(double(width) * double(float(natural.height()) / float(natural.width())));
+            QCOMPARE(int(icon.pxHeight()), int(whole));
+        }
     }
 }
 

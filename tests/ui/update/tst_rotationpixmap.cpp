@@ -8,6 +8,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <sys/stat.h>
+
 using namespace vexo::hox::qt::ui;
 
 class TestRotationPixmap : public TestCase
@@ -20,6 +22,7 @@ private Q_SLOTS:
     void framesCoverWholeMillimetres();
     void handsOutNullWithoutFrames();
     void mayBeDestroyedAtEachMoment();
+    void hostileFilesHoldUpNothing();
 
 private:
     QString image(const QColor &color, const QSize &px = QSize(40, 20))
@@ -110,6 +113,19 @@ void TestRotationPixmap::mayBeDestroyedAtEachMoment()
     RotationPixmap rotation(files, 10, 10);
     rotation.requestInterruption();
     QVERIFY(rotation.wait());
+}
+
+void TestRotationPixmap::hostileFilesHoldUpNothing()
+{
+    const QString pipe = m_files.path(QStringLiteral("pipe.png"));
+    mkfifo(qPrintable(pipe), 0600);
+    const QString thin = image(Qt::blue, QSize(1, 8000)); // 10 px wide it would take 3 MB a mm
+    RotationPixmap rotation({ pipe, QStringLiteral("/dev/zero"), thin, image(Qt::red) }, 300, 1);
+    rotation.wait();
+    for (int i = 0; i < 2; ++i)
+        QVERIFY(rotation.rotate().isNull());
+    QCOMPARE(colorOf(rotation.rotate()), QColor(Qt::red));
+    QVERIFY(rotation.rotate().isNull());
 }
 
 QTEST_MAIN(TestRotationPixmap)
