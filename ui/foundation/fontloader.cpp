@@ -1,5 +1,6 @@
 #include "ui/foundation/fontloader.h"
 
+#include "ui/foundation/inputfile_p.h"
 #include "ui/foundation/panelfont_p.h"
 
 #include <QApplication>
@@ -36,10 +37,13 @@ FontLoader::FontLoader()
 
 QString FontLoader::loadFont(const char *path)
 {
-    const QString file = QString::fromUtf8(path);
-    if (file.isEmpty())
+    const QString name = QString::fromUtf8(path);
+    if (name.isEmpty())
         return QString();
-    const int id = QFontDatabase::addApplicationFont(file);
+    const qint64 max_bytes = qint64(32) << 20;
+    InputFile file(name, max_bytes);
+    const int id = file.isResource() ? QFontDatabase::addApplicationFont(name)
+                                     : QFontDatabase::addApplicationFontFromData(file.read());
     return QFontDatabase::applicationFontFamilies(id).value(0);
 }
 

@@ -18,7 +18,7 @@ public:
     FontLoader();
 
     /// Registers the font file at \a path (resource or file system) and returns the first family
-    /// in it; an empty string when nothing could be registered.
+    /// in it; an empty string when nothing could be registered, such as a pipe or more than 32 MB.
     static QString loadFont(const char *path);
 };
 

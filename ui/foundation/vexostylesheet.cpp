@@ -1,8 +1,10 @@
 #include "ui/foundation/vexostylesheet.h"
 
+#include "ui/foundation/cssguard_p.h"
+#include "ui/foundation/inputfile_p.h"
+
 #include <QApplication>
 #include <QDebug>
-#include <QFile>
 #include <QTextStream>
 
 namespace vexo::hox::qt::ui {
@@ -22,13 +24,15 @@ VexoStylesheet::VexoStylesheet(const QStringList &names, bool apply)
 
 void VexoStylesheet::setStylesheet(const QString &name)
 {
-    QFile file(name);
+    const int max_bytes = 1 << 18;
+    InputFile file(name, max_bytes);
     if (!file.exists()) {
         qWarning() << "Stylesheet " << name << " does not exist!";
         return;
     }
-    if (file.open(QIODevice::ReadOnly))
-        m_stylesheet += QTextStream(&file).readAll();
+    const QString text = QTextStream(file.read()).readAll();
+    if (file.isResource() || selectorsOfHarmlessCss(text))
+        m_stylesheet += text;
 }
 
 void VexoStylesheet::addText(const QString &rules)

@@ -7,7 +7,10 @@
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QRawFont>
+#include <QTemporaryDir>
 #include <QTest>
+
+#include <sys/stat.h>
 
 using namespace vexo::hox::qt::ui;
 
@@ -21,6 +24,9 @@ private Q_SLOTS:
     void lightFaceBecomesTheApplicationsFont();
     void allWeightsAndTheFallbackAreRegistered();
     void hugeStretchIsLimited();
+
+private:
+    const QTemporaryDir m_dir;
 };
 
 void TestFontLoader::unusableFileGivesNoFamily_data()
@@ -29,6 +35,9 @@ void TestFontLoader::unusableFileGivesNoFamily_data()
     QTest::newRow("no such file") << QByteArray(":/fonts/none.otf");
     QTest::newRow("not a font") << QByteArray(":/css/hoxq.qs");
     QTest::newRow("a directory") << QByteArray("/");
+    mkfifo(qPrintable(m_dir.filePath(QStringLiteral("pipe"))), 0600);
+    QTest::newRow("a pipe") << m_dir.filePath(QStringLiteral("pipe")).toUtf8();
+    QTest::newRow("an endless device") << QByteArray("/dev/zero");
     QTest::newRow("empty path") << QByteArray("");
     QTest::newRow("null path") << QByteArray();
 }

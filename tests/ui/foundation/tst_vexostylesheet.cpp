@@ -1,10 +1,14 @@
+#include "support/effort.h"
 #include "support/testcase.h"
 
 #include <VexoStylesheet>
 
 #include <QApplication>
+#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <sys/stat.h>
 
 using vexo::hox::qt::ui::VexoStylesheet;
 
@@ -33,6 +37,9 @@ private Q_SLOTS:
     void filesAreJoinedInListOrder();
     void missingFileIsNamedAndTheOthersApply();
     void unopenableFileAddsNothing();
+    void hostileFileAddsNothing_data();
+    void hostileFileAddsNothing();
+    void fileIsFoundInASearchPath();
     void bundledSheetsParse();
 };
 
@@ -81,6 +88,51 @@ void TestVexoStylesheet::unopenableFileAddsNothing()
     const QTemporaryDir dir;
     const VexoStylesheet sheet(dir.path());
     QCOMPARE(qApp->styleSheet(), QString());
+}
+
+void TestVexoStylesheet::hostileFileAddsNothing_data()
+{
+    const QByteArray rule = "QWidget { color: red; }\n";
+    const QByteArray stars = "*" + QByteArray(",*").repeated(400);
+    const QByteArray words = QByteArray("color:red;").repeated(400);
+    QTest::addColumn<QByteArray>("text"); // of a file, or the name of one
+    QTest::newRow("pipe") << QByteArray();
+    QTest::newRow("endless device") << QByteArray("/dev/zero");
+    QTest::newRow("a megabyte") << rule + QByteArray(1 << 20, ' ');
+    QTest::newRow("10000 selectors") << "*" + QByteArray(",*").repeated(10000) + "{color:red}";
+    QTest::newRow("10000 selectors, escaped")
+        << "*" + QByteArray("\\2c *").repeated(10000) + "{color:red}";
+    QTest::newRow("selectors times declarations") << stars + "{" + words + "}";
+    QTest::newRow("hidden behind a comment") << stars + "{/*}*/" + words + "}";
+    QTest::newRow("hidden behind a string") << stars + "{a:'}';" + words + "}";
+    QTest::newRow("faulty declarations") << "*{" + QByteArray(":;").repeated(30000) + "}";
+}
+
+void TestVexoStylesheet::hostileFileAddsNothing()
+{
+    QFETCH(QByteArray, text);
+    const QTemporaryDir dir;
+    QString file = QString::fromLatin1(text);
+    if (text.isEmpty()) {
+        file = dir.filePath(QStringLiteral("pipe"));
+        mkfifo(qPrintable(file), 0600);
+    } else if (!text.startsWith('/')) {
+        file = written(dir, "hostile.qs", text);
+    }
+    const Effort effort;
+    const VexoStylesheet sheet(QStringList{ file, WIDGET_SHEET });
+    QVERIFY2(effort.isSmall(), qPrintable(effort.text()));
+    QVERIFY(qApp->styleSheet().startsWith(QStringLiteral("vexo--")));
+}
+
+void TestVexoStylesheet::fileIsFoundInASearchPath()
+{
+    const QTemporaryDir dir;
+    written(dir, "own.qs", "QLabel { color: red }");
+    QDir::setSearchPaths(QStringLiteral("theme"), { dir.path() });
+    const VexoStylesheet sheet(QStringLiteral("theme:own.qs"));
+    QDir::setSearchPaths(QStringLiteral("theme"), {});
+    QCOMPARE(qApp->styleSheet(), QStringLiteral("QLabel { color: red }"));
 }
 
 void TestVexoStylesheet::bundledSheetsParse()
