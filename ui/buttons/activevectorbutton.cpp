@@ -62,9 +62,9 @@ void ActiveVectorButton::setPxIconSize(const QSize &px)
 {
     if (px == m_px_icon_size || px.width() < 0 || px.height() < 0)
         return;
-    m_px_icon_size = px;
-    m_mm_icon_width = double(m_scaling->px2mm_X(float(px.width())));
-    m_mm_icon_height = double(m_scaling->px2mm_Y(float(px.height())));
+    m_px_icon_size = px.boundedTo(QSize(MAX_PX, MAX_PX));
+    m_mm_icon_width = double(m_scaling->px2mm_X(float(m_px_icon_size.width())));
+    m_mm_icon_height = double(m_scaling->px2mm_Y(float(m_px_icon_size.height())));
     const QPointer<ActiveVectorButton> self(this);
     Q_EMIT sizeChanged(m_mm_icon_width, m_mm_icon_height);
     if (self)

@@ -132,7 +132,7 @@ void VexoDesignVectorButton::calculateIconDimension()
     const QSize px = pxIconSize();
     const float left = m_scaling->mm2px_X(float(m_mm_icon_pos.x())) - float(px.width() >> 1);
     const float top = m_scaling->mm2px_Y(float(m_mm_icon_pos.y())) - float(px.height() >> 1);
-    m_icon_rect = QRect(positionPx(double(left)), positionPx(double(top)), px.width(), px.height());
+    m_icon_rect = QRect(truncated(double(left)), truncated(double(top)), px.width(), px.height());
 }
 
 void VexoDesignVectorButton::calculateTextPosition()

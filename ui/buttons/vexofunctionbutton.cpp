@@ -176,7 +176,7 @@ void VexoFunctionButton::setBackgroundClickedColor(const QColor &color)
 void VexoFunctionButton::setMmIndent(double mm)
 {
     m_mm_indent = mm;
-    m_label->setIndent(positionX(*m_scaling, mm));
+    m_label->setIndent(pxX(*m_scaling, mm));
     update();
 }
 

@@ -106,7 +106,7 @@ void VexoHorizontalTextIconButton::setPtFontSize(int pt)
 void VexoHorizontalTextIconButton::setMmIndent(double mm)
 {
     m_mm_indent = mm;
-    m_indent_px = positionX(*m_scaling, mm);
+    m_indent_px = pxX(*m_scaling, mm);
     update();
 }
 
@@ -140,8 +140,8 @@ void VexoHorizontalTextIconButton::mouseReleaseEvent(QMouseEvent *event)
 
 void VexoHorizontalTextIconButton::paintEvent(QPaintEvent *)
 {
-    const int left_px = positionPx(width() * m_left_side_text_percent_width / 100 - m_indent_px);
-    const int right_px = positionPx(width() * m_right_side_text_percent_width / 100 - m_indent_px);
+    const int left_px = truncated(width() * m_left_side_text_percent_width / 100 - m_indent_px);
+    const int right_px = truncated(width() * m_right_side_text_percent_width / 100 - m_indent_px);
     const int right_x = left_px + 2 * m_indent_px - 1;
     const QRect image_area(QPoint(right_x + right_px - 1, 0), rect().bottomRight());
     const Look look = lookOfNow();

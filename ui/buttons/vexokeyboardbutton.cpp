@@ -85,8 +85,8 @@ void VexoKeyboardButton::setStandardBorderDrawingDisabled(bool disabled)
 void VexoKeyboardButton::setCornerRadius(double mm)
 {
     m_corner_radius_mm = mm;
-    m_corner_radius_x = m_scaling->mm2px_X(float(mm));
-    m_corner_radius_y = m_scaling->mm2px_Y(float(mm));
+    m_corner_radius_x = float(finitePx(m_scaling->mm2px_X(float(mm))));
+    m_corner_radius_y = float(finitePx(m_scaling->mm2px_Y(float(mm))));
     m_cap = QPixmap();
     update();
 }
@@ -141,7 +141,10 @@ void VexoKeyboardButton::paintEvent(QPaintEvent *)
     QStylePainter painter(this);
     const QRect cap = capRect();
     const bool is_dark = isChecked() || isDown();
-    painter.drawPixmap(0, 0, capPixmap(ground(is_dark)));
+    if (isKeepable(size()))
+        painter.drawPixmap(0, 0, capPixmap(ground(is_dark)));
+    else
+        drawCap(&painter, ground(is_dark));
     const QIcon shown = is_dark && isEnabled() ? inverseIcon() : icon();
     if (!shown.isNull())
         painter.drawItemPixmap(
@@ -190,20 +193,25 @@ const QPixmap &VexoKeyboardButton::capPixmap(const QColor &ground)
 
 QPixmap VexoKeyboardButton::renderCap(const QColor &ground) const
 {
-    const QRect cap = capRect();
     QPixmap pixmap(size() * devicePixelRatioF());
     pixmap.setDevicePixelRatio(devicePixelRatioF());
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
+    drawCap(&painter, ground);
+    return pixmap;
+}
+
+void VexoKeyboardButton::drawCap(QPainter *painter, const QColor &ground) const
+{
+    const QRect cap = capRect();
+    painter->setRenderHint(QPainter::Antialiasing);
     QPainterPath path;
     path.addRoundedRect(
         QRectF(cap), double(m_corner_radius_x), double(m_corner_radius_y), Qt::AbsoluteSize);
-    painter.fillPath(path, ground);
-    painter.strokePath(path, QPen(m_border_color, 1));
+    painter->fillPath(path, ground);
+    painter->strokePath(path, QPen(m_border_color, 1));
     if (m_standard_border_drawing_disabled)
-        drawEdges(&painter, cap);
-    return pixmap;
+        drawEdges(painter, cap);
 }
 
 void VexoKeyboardButton::drawEdges(QPainter *painter, const QRect &cap) const

@@ -200,8 +200,8 @@ void VexoPushButton::setIconDimension()
     const int half = m_icon_rect.width() >> 1;
     const double left = m_align_image_right ? width() - m_px_margin.width() - distance - half
                                             : distance + m_px_margin.width() - half;
-    const int top = positionPx(double(m_scaling->mm2px_Y(float(top_mm))));
-    m_icon_rect = QRect(QPoint(positionPx(left), top), m_px_icon_size);
+    const int top = truncated(double(m_scaling->mm2px_Y(float(top_mm))));
+    m_icon_rect = QRect(QPoint(truncated(left), top), m_px_icon_size);
     setIconSize(m_px_icon_size);
 }
 
@@ -313,7 +313,7 @@ void VexoPushButton::setPenColor(const QColor &color)
 void VexoPushButton::setMmPenLine(double mm)
 {
     m_mm_pen_line = mm;
-    m_pen.setWidthF(qBound(0.0, finitePx(m_scaling->mm2px_Y(float(mm))), double(WIDEST_PEN)));
+    m_pen.setWidthF(qMax(0.0, finitePx(m_scaling->mm2px_Y(float(mm)))));
     update();
 }
 
@@ -475,7 +475,7 @@ void VexoPushButton::drawGround(QPainter *painter, const QRectF &inside)
         painter->fillRect(inside, fillOfNow());
         return;
     }
-    if (painter->deviceTransform().type() > QTransform::TxTranslate) {
+    if (painter->deviceTransform().type() > QTransform::TxTranslate || !isKeepable(size())) {
         drawOutline(painter, inside, fillOfNow());
         return;
     }

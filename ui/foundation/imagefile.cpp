@@ -30,7 +30,8 @@ QCache<QString, QSize> &naturalSizes()
 QString found(const QString &path)
 {
     const QFileInfo info(path);
-    if (path.isEmpty() || !info.completeSuffix().isEmpty() || info.exists())
+    const bool is_name = !path.isEmpty() && !path.contains(QChar());
+    if (!is_name || !info.completeSuffix().isEmpty() || info.exists())
         return path;
     const QList<QByteArray> suffixes = QImageReader::supportedImageFormats();
     for (const QByteArray &suffix : suffixes) {

@@ -23,6 +23,12 @@ QByteArray hash(const QByteArray &bytes)
     return QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toBase64();
 }
 
+// With the search path in place of its prefix. The toolkit warns of a name that holds a 0.
+QString located(const QString &path)
+{
+    return path.contains(QChar()) ? QString() : QFileInfo(path).filePath();
+}
+
 // The bytes of the bundle itself, mostly in the program's read-only memory.
 QByteArray stored(const QResource &resource)
 {
@@ -45,7 +51,7 @@ QByteArray readRegular(int descriptor, qint64 max_bytes)
 } // namespace
 
 InputFile::InputFile(const QString &path, qint64 max_bytes)
-    : m_path(QFileInfo(path).filePath()) // with the search path in place of its prefix
+    : m_path(located(path))
     , m_max_bytes(max_bytes)
 {
     if (isResource())

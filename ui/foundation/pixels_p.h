@@ -5,19 +5,28 @@
 #include <QWidget>
 
 #include <cmath>
-#include <limits>
 
 namespace vexo::hox::qt::ui {
 
-/// Whole pixels, cut toward zero. NaN gives 0 and huge values are clamped: a plain cast of them is
-/// undefined and differs between processors.
+/// What the toolkit's painter can address, px; far more than a screen shows. Measures beyond it are
+/// clamped where they are converted, so that sums of some do not overflow.
+constexpr int MAX_PX = 32767;
+
+/// Pixels that are not cut, as a painter takes them. NaN gives 0.
+inline double finitePx(double px)
+{
+    return std::isnan(px) ? 0.0 : qBound(-double(MAX_PX), px, double(MAX_PX));
+}
+
+inline double finitePx(float px)
+{
+    return finitePx(double(px));
+}
+
+/// Whole pixels, cut toward zero.
 inline int truncated(double px)
 {
-    if (std::isnan(px))
-        return 0;
-    constexpr double lowest = std::numeric_limits<int>::min();
-    constexpr double highest = std::numeric_limits<int>::max();
-    return int(px < lowest ? lowest : px > highest ? highest : px);
+    return int(finitePx(px));
 }
 
 /// Whole pixels of a width in mm.
@@ -44,40 +53,25 @@ inline QSize pxSize(const ScalingInfo &scaling, const QSizeF &mm)
     return QSize(pxX(scaling, mm.width()), pxY(scaling, mm.height()));
 }
 
-/// Pixels that are not cut, as a painter takes them; kept so small that sums of some do not
-/// overflow. NaN gives 0.
-inline double finitePx(float px)
-{
-    const double limit = QWIDGETSIZE_MAX;
-    return std::isnan(px) ? 0.0 : qBound(-limit, double(px), limit);
-}
-
-/// Such pixels of a size in mm.
+/// Pixels of a size in mm that are not cut.
 inline QSizeF finitePxSize(const ScalingInfo &scaling, const QSizeF &mm)
 {
     return QSizeF(finitePx(scaling.mm2px_X(float(mm.width()))),
         finitePx(scaling.mm2px_Y(float(mm.height()))));
 }
 
-/// Whole pixels of a position, kept so small that a size added to it does not overflow.
-inline int positionPx(double px)
-{
-    return qBound(-QWIDGETSIZE_MAX, truncated(px), QWIDGETSIZE_MAX);
-}
-
-/// Such pixels of a width in mm.
-inline int positionX(const ScalingInfo &scaling, double mm)
-{
-    return positionPx(double(scaling.mm2px_X(float(mm))));
-}
-
-/// The widest pen that the toolkit takes without a warning, px.
-constexpr int WIDEST_PEN = 32767;
-
-/// \a px as a widget's fixed size takes it; beyond these limits the toolkit prints a warning.
+/// \a px, which may be a sum, as a widget's fixed size takes it; the toolkit warns of a negative
+/// one.
 inline int widgetPx(int px)
 {
-    return qBound(0, px, QWIDGETSIZE_MAX);
+    return qBound(0, px, MAX_PX);
+}
+
+/// Whether a widget keeps a picture of itself of \a px; beyond what a panel has it draws anew.
+inline bool isKeepable(const QSize &px)
+{
+    const qint64 most = 1 << 22;
+    return !px.isEmpty() && qint64(px.width()) * px.height() <= most;
 }
 
 } // namespace vexo::hox::qt::ui

@@ -1,5 +1,7 @@
 #include "ui/foundation/textblock_p.h"
 
+#include "ui/foundation/pixels_p.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPixmap>
@@ -119,7 +121,8 @@ QTextOption TextBlock::option(Qt::Alignment alignment) const
 bool TextBlock::canPrint(const QPainter &painter, const QRect &place, const Ground &ground) const
 {
     return ground.color.isValid() && ground.color.alpha() == 255 && ground.area.contains(place)
-        && painter.deviceTransform().type() <= QTransform::TxTranslate;
+        && painter.deviceTransform().type() <= QTransform::TxTranslate
+        && isKeepable(m_extent.size());
 }
 
 Print TextBlock::print(const Look &look) const

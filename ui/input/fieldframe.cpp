@@ -7,12 +7,6 @@
 
 namespace vexo::hox::qt::ui {
 
-namespace {
-
-const qint64 most_kept = 1 << 22; // px; more than a panel has
-
-} // namespace
-
 void FieldFrame::setLineColor(const QColor &color)
 {
     m_pen.setColor(color);
@@ -23,7 +17,7 @@ void FieldFrame::setLine(const QPointF &px)
 {
     m_line = px;
     m_rect.setTopLeft(px / 2);
-    m_pen.setWidthF(qMin(px.y(), double(WIDEST_PEN)));
+    m_pen.setWidthF(px.y());
     m_pixmap = QPixmap();
 }
 
@@ -41,7 +35,7 @@ void FieldFrame::setGround(const QColor &color)
 
 void FieldFrame::draw(QPainter *painter, const QSize &size)
 {
-    if (qint64(size.width()) * size.height() > most_kept) {
+    if (!isKeepable(size)) {
         drawPath(painter, size);
         return;
     }

@@ -46,6 +46,9 @@ void SecretDots::draw(
     const QRectF dot = dots.first().translated(-corner);
     const QSize size(truncated(dot.right() + seam) + 1, truncated(dot.bottom() + seam));
     if (qint64(size.width()) * size.height() > most_kept) {
+        QPen bounded = outline; // each might cover the whole field otherwise
+        bounded.setWidthF(qMin(outline.widthF(), std::sqrt(double(most_kept))));
+        painter->setPen(bounded);
         for (const QRectF &each : dots)
             painter->drawEllipse(each);
         return;

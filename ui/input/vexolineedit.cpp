@@ -169,7 +169,7 @@ void VexoLineEdit::setCursorPxPenWidth(int px)
 {
     if (px <= 0)
         return;
-    m_cursor_pen.setWidth(qMin(px, WIDEST_PEN));
+    m_cursor_pen.setWidth(qMin(px, MAX_PX));
     update();
 }
 
@@ -427,8 +427,8 @@ void VexoLineEdit::placeSideWidgets()
 
 QRectF VexoLineEdit::textRect(int advance, int placeholder_advance, int dx) const
 {
-    const int indent = positionX(*m_scaling, m_cursor_mm_indent);
-    const int offset = positionX(*m_scaling, m_left_offset_mm);
+    const int indent = pxX(*m_scaling, m_cursor_mm_indent);
+    const int offset = pxX(*m_scaling, m_left_offset_mm);
     const QLabel *const label = m_leading_action ? m_leading_label.data() : nullptr;
     double x = dx;
     if (m_draw_centered) {
@@ -439,7 +439,7 @@ QRectF VexoLineEdit::textRect(int advance, int placeholder_advance, int dx) cons
             left -= (indent + placeholder_advance) / 2;
         x += left;
     } else if (label) {
-        x += label->x() + positionX(*m_scaling, m_mm_leading_icon_size.width()) + offset;
+        x += label->x() + pxX(*m_scaling, m_mm_leading_icon_size.width()) + offset;
     } else {
         x += finitePx(m_scaling->mm2px_X(float(m_mm_radius))) + m_px_margin.x() + offset;
     }
@@ -448,7 +448,7 @@ QRectF VexoLineEdit::textRect(int advance, int placeholder_advance, int dx) cons
 
 int VexoLineEdit::cursorX(const QRectF &text_rect) const
 {
-    return truncated(text_rect.right()) + positionX(*m_scaling, m_cursor_mm_indent);
+    return truncated(text_rect.right()) + pxX(*m_scaling, m_cursor_mm_indent);
 }
 
 QRect VexoLineEdit::cursorArea() const

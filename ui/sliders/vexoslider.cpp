@@ -97,6 +97,16 @@ void VexoSlider::onValueChanged(int value)
     Q_EMIT valueChanged(m_step > 1 ? getRealSliderValue(value) : value);
 }
 
+// The toolkit divides by zero in a range that is wider than an int.
+void VexoSlider::sliderChange(SliderChange change)
+{
+    const int widest = saturated(qint64(minimum()) + std::numeric_limits<int>::max());
+    if (change == SliderRangeChange && maximum() > widest)
+        QSlider::setMaximum(widest);
+    else
+        QSlider::sliderChange(change);
+}
+
 void VexoSlider::mousePressEvent(QMouseEvent *event)
 {
     if (!Press::begin(this, event))

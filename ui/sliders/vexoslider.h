@@ -68,6 +68,7 @@ private Q_SLOTS:
     void onValueChanged(int value);
 
 protected:
+    void sliderChange(SliderChange change) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;

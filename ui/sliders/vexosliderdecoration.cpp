@@ -357,7 +357,7 @@ int VexoSliderDecoration::offsetPx() const
     if (!hasWideGap())
         return 0;
     const float higher_mm = float(m_max_image_height_mm - m_min_image_height_mm);
-    return positionPx(double(m_scaling->mm2px_X(higher_mm) * 0.5F - m_scaling->mm2px_X(1.5F)));
+    return truncated(double(m_scaling->mm2px_X(higher_mm) * 0.5F - m_scaling->mm2px_X(1.5F)));
 }
 
 } // namespace vexo::hox::qt::ui

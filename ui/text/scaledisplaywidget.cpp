@@ -70,7 +70,7 @@ void ScaleDisplayWidget::fixExtent()
 
 void ScaleDisplayWidget::drawMark(QPainter *painter, const QString &text, float position_px) const
 {
-    const auto pixel = [](float px) { return positionPx(double(px)); };
+    const auto pixel = [](float px) { return truncated(double(px)); };
     const float half = float(painter->fontMetrics().horizontalAdvance(text)) / 2;
     const int position = pixel(position_px);
     if (m_is_horizontal) {

@@ -63,7 +63,7 @@ void VexoHorizontalLabelWidget::setPtFontSize(int pt)
 void VexoHorizontalLabelWidget::setMmIndent(double mm)
 {
     m_mm_indent = mm;
-    const int indent_px = positionX(*m_scaling, mm);
+    const int indent_px = pxX(*m_scaling, mm);
     m_left_label->setIndent(indent_px);
     m_right_label->setIndent(indent_px);
 }

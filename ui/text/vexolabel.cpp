@@ -53,7 +53,7 @@ double VexoLabel::mmIndent() const
 void VexoLabel::setMmIndent(double mm)
 {
     m_px_indent = m_scaling->mm2px_X(float(mm));
-    setIndent(positionPx(double(m_px_indent)));
+    setIndent(truncated(double(m_px_indent)));
 }
 
 void VexoLabel::setMmHeight(double mm)

@@ -65,7 +65,7 @@ void VexoLineSpacer::paintEvent(QPaintEvent *)
 
 int VexoLineSpacer::penWidth(double mm) const
 {
-    return qBound(1, m_is_vertical ? pxX(*m_scaling, mm) : pxY(*m_scaling, mm), WIDEST_PEN);
+    return qMax(1, m_is_vertical ? pxX(*m_scaling, mm) : pxY(*m_scaling, mm));
 }
 
 void VexoLineSpacer::setPoints()
