@@ -1,5 +1,6 @@
 #include "package/process.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -10,6 +11,7 @@ class TestConfiguration : public QObject
 private Q_SLOTS:
     void missingPackageIsNamedInOneLine_data();
     void missingPackageIsNamedInOneLine();
+    void installedLibrariesHaveTheGivenRunPath();
 };
 
 void TestConfiguration::missingPackageIsNamedInOneLine_data()
@@ -33,6 +35,25 @@ void TestConfiguration::missingPackageIsNamedInOneLine()
     QVERIFY(result.exit_code != 0);
     const QString end_of_line = QLatin1Char(' ') + message + QLatin1Char('\n');
     QVERIFY2(result.output.contains(end_of_line), qPrintable(result.output));
+}
+
+/// In which the toolkit lies on a panel.
+void TestConfiguration::installedLibrariesHaveTheGivenRunPath()
+{
+    const QTemporaryDir folder;
+    const Finished result = run(QStringLiteral(HOXQ_CMAKE),
+        { QStringLiteral("-S" HOXQ_SOURCE), QStringLiteral("-B"), folder.path(),
+            QStringLiteral("-G" HOXQ_GENERATOR),
+            QStringLiteral("-DCMAKE_CXX_COMPILER=" HOXQ_COMPILER),
+            QStringLiteral("-DHOXQ_TESTS=OFF"), QStringLiteral("-DHOXQ_GALLERY=OFF"),
+            QStringLiteral("-DHOXQ_DESIGNER=OFF"),
+            QStringLiteral("-DCMAKE_INSTALL_RPATH=/opt/toolkit/lib") });
+    QVERIFY2(result.exit_code == 0, qPrintable(result.output));
+    QFile script(folder.filePath(QStringLiteral("cmake_install.cmake")));
+    QVERIFY(script.open(QIODevice::ReadOnly));
+    const QByteArray text = script.readAll();
+    QVERIFY(text.contains("\"\\$ORIGIN:/opt/toolkit/lib\"")); // libhoxqui
+    QVERIFY(text.contains("\"/opt/toolkit/lib\"")); // libhoxqsystem
 }
 
 QTEST_APPLESS_MAIN(TestConfiguration)

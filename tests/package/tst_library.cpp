@@ -1,6 +1,8 @@
 #include "package/process.h"
 
 #include <QDir>
+#include <QDirIterator>
+#include <QFile>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -37,6 +39,26 @@ bool isForeign(const QString &symbol, QChar type)
     return marks.match(symbol).hasMatch() || (is_weak && !is_ours);
 }
 
+/// The member functions that the exported class of a header defines on one line, as Class::name.
+QStringList inlineFunctions(const QString &header)
+{
+    static const QRegularExpression head(
+        QStringLiteral("^class HOXQUI_EXPORT (\\w+)"), QRegularExpression::MultilineOption);
+    static const QRegularExpression function(
+        QStringLiteral("^    [\\w:<>&* ]+?[&* ](\\w+)\\([^()]*\\)(?: const)? \\{ .* \\}$"),
+        QRegularExpression::MultilineOption);
+    QFile file(header);
+    if (!file.open(QIODevice::ReadOnly))
+        return QStringList(header);
+    const QString text = QString::fromUtf8(file.readAll());
+    const QRegularExpressionMatch name = head.match(text);
+    QStringList functions;
+    auto found = function.globalMatch(text, qMax(0, name.capturedEnd()));
+    while (name.hasMatch() && found.hasNext())
+        functions += name.captured(1) + QLatin1String("::") + found.next().captured(1);
+    return functions;
+}
+
 } // namespace
 
 class TestLibrary : public QObject
@@ -46,12 +68,14 @@ class TestLibrary : public QObject
 private Q_SLOTS:
     void exportsItsPublicClassesAndNothingElse_data();
     void exportsItsPublicClassesAndNothingElse();
+    void inlineFunctionsAreExportedToo();
     void hasItsVersionAndFindsItsNeighbour_data();
     void hasItsVersionAndFindsItsNeighbour();
     void bringsItsLicenceAndNotices();
 
 private:
     QString path(const QString &file) const { return m_folder.filePath(file); }
+    QStringList exported(const QString &library) const;
 
     const QDir m_folder{ QStringLiteral(HOXQ_STAGE "/" HOXQ_LIBDIR) };
 };
@@ -76,12 +100,9 @@ void TestLibrary::exportsItsPublicClassesAndNothingElse_data()
 void TestLibrary::exportsItsPublicClassesAndNothingElse()
 {
     QFETCH(QStringList, interface);
-    const Finished nm = run(QStringLiteral(HOXQ_NM),
-        { QStringLiteral("-D"), QStringLiteral("--defined-only"), QStringLiteral("--format=posix"),
-            path(QString::fromLatin1(QTest::currentDataTag())) });
-    QVERIFY2(nm.exit_code == 0, qPrintable(nm.output));
     QStringList missing = interface;
-    const QStringList lines = nm.output.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QStringList lines = exported(QString::fromLatin1(QTest::currentDataTag()));
+    QVERIFY(!lines.isEmpty());
     for (const QString &line : lines) {
         const QString symbol = demangled(line.section(QLatin1Char(' '), 0, 0).toLatin1());
         const QChar type = line.section(QLatin1Char(' '), 1, 1).at(0);
@@ -89,6 +110,40 @@ void TestLibrary::exportsItsPublicClassesAndNothingElse()
         missing.removeAll(owner);
         QVERIFY2(interface.contains(owner) || isForeign(symbol, type), qPrintable(symbol));
     }
+    QCOMPARE(missing, QStringList());
+}
+
+QStringList TestLibrary::exported(const QString &library) const
+{
+    const Finished nm = run(QStringLiteral(HOXQ_NM),
+        { QStringLiteral("-D"), QStringLiteral("--defined-only"), QStringLiteral("--format=posix"),
+            path(library) });
+    return nm.output.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+/// An application that was built against headers which only declare them needs them.
+void TestLibrary::inlineFunctionsAreExportedToo()
+{
+    QStringList symbols;
+    const QStringList lines = exported(QStringLiteral("libhoxqui.so"));
+    for (const QString &line : lines)
+        symbols += demangled(line.section(QLatin1Char(' '), 0, 0).toLatin1())
+                       .remove(QStringLiteral("vexo::hox::qt::ui::"));
+    QVERIFY(symbols.contains(QStringLiteral("CachedVectorIcon::isBitmap(QString const&)")));
+    QStringList missing;
+    for (int color = 0; color < 14; ++color)
+        missing += QStringLiteral("VexoColors::C%1").arg(color);
+    const QDir headers(QStringLiteral(HOXQ_STAGE "/include/hoxqui/ui"));
+    QDirIterator files(
+        headers.path(), { QStringLiteral("*.h") }, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QStringList functions = inlineFunctions(files.next());
+        for (const QString &function : functions)
+            missing += function;
+    }
+    QVERIFY(missing.size() > 14 + 100);
+    for (const QString &symbol : qAsConst(symbols))
+        missing.removeAll(symbol.section(QLatin1Char('('), 0, 0));
     QCOMPARE(missing, QStringList());
 }
 

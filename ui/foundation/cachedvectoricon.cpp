@@ -178,7 +178,8 @@ void CachedVectorIcon::computeBitmap()
     addPixmap(file.pixmap(pxSize()), QIcon::Normal, QIcon::Off);
 }
 
-bool CachedVectorIcon::isBitmap(const QString &file) const
+// Not const: that is the symbol which applications link.
+bool CachedVectorIcon::isBitmap(const QString &file)
 {
     return !file.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive);
 }

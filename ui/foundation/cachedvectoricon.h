@@ -78,7 +78,7 @@ public:
     /// Renders the file at the held px as a bitmap file.
     void computeBitmap();
     /// Whether \a file is taken for a bitmap: true unless it ends with ".svg" in any case.
-    bool isBitmap(const QString &file) const;
+    bool isBitmap(const QString &file);
     /// Whether file or size were set since the last SVG rendering. A subclass can keep the px from
     /// being derived from the mm again.
     virtual bool mustRelayout();
