@@ -13,7 +13,6 @@ ActiveVectorButton::ActiveVectorButton(QWidget *parent)
     : ActiveButton(parent)
     , m_scaling(ScalingInfo::inst())
 {
-    setAttribute(Qt::WA_StyleSheet, true);
     setAttribute(Qt::WA_StyledBackground, true);
 }
 

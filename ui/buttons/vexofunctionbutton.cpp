@@ -109,7 +109,6 @@ VexoFunctionButton::VexoFunctionButton(QWidget *parent, const VexoFunctionButton
 {
     qRegisterMetaType<VexoFunctionButtonType>("VexoFunctionButtonType");
     makeRowsAccessible();
-    setAttribute(Qt::WA_StyleSheet);
     setAttribute(Qt::WA_StyledBackground);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     setFixedHeight(widgetPx(pxY(*m_scaling, height_mm)));

@@ -73,7 +73,6 @@ VexoPushButton::~VexoPushButton() = default;
 
 void VexoPushButton::setupUi()
 {
-    setAttribute(Qt::WA_StyleSheet, true);
     setAttribute(Qt::WA_StyledBackground, true);
     setFocusPolicy(Qt::NoFocus);
     m_text_alignment = Qt::AlignCenter;

@@ -59,7 +59,6 @@ VexoLineEdit::~VexoLineEdit()
 void VexoLineEdit::setupUi()
 {
     connect(m_cursor_timer, &QTimer::timeout, this, &VexoLineEdit::onCursorTimeout);
-    setAttribute(Qt::WA_StyleSheet);
     setAttribute(Qt::WA_StyledBackground);
     m_leading_label->installEventFilter(this);
     m_trailing_button->installEventFilter(this);

@@ -10,7 +10,6 @@ namespace vexo::hox::qt::ui {
 VexoVerticalScrollContent::VexoVerticalScrollContent(QWidget *parent)
     : QWidget(parent)
 {
-    setAttribute(Qt::WA_StyleSheet);
     setAttribute(Qt::WA_StyledBackground);
     auto *column = new QVBoxLayout;
     tighten(column);

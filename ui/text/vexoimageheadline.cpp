@@ -75,7 +75,6 @@ void VexoImageHeadline::setSvgImage(const QString &file, const QSizeF &mm)
 
 void VexoImageHeadline::setupUi()
 {
-    setAttribute(Qt::WA_StyleSheet);
     setAttribute(Qt::WA_StyledBackground);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setImageCanvasWidthMM(m_image_canvas_width_mm);

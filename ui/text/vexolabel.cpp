@@ -105,7 +105,6 @@ void VexoLabel::paintEvent(QPaintEvent *)
 
 void VexoLabel::setupUi()
 {
-    setAttribute(Qt::WA_StyleSheet);
     setAttribute(Qt::WA_StyledBackground);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     setTextFormat(Qt::PlainText); // else markup is measured and read out other than it is drawn

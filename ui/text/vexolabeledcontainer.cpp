@@ -139,7 +139,6 @@ void VexoLabeledContainer::setVisible(bool visible)
 
 void VexoLabeledContainer::setupUi()
 {
-    setAttribute(Qt::WA_StyleSheet);
     setAttribute(Qt::WA_StyledBackground);
     setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Preferred);
     setMmHeight(m_mm_height);

@@ -1,0 +1,2 @@
+hoxq_test(screen/tst_overlay.cpp)
+hoxq_test(screen/tst_restyle.cpp support/propertywalk.cpp support/propertywalk.h)
