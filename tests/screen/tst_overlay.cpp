@@ -2,12 +2,14 @@
 #include "support/panelscale.h"
 #include "support/testcase.h"
 #include "ui/buttons/vexofunctionbutton.h"
-#include "ui/foundation/vexocolors.h"
+#include "ui/foundation/vexostylesheet.h"
 #include "ui/scrolling/vexoverticalscrollarea.h"
 #include "ui/scrolling/vexoverticalscrollcontent.h"
 #include "ui/text/vexolabel.h"
 
+#include <QApplication>
 #include <QRandomGenerator>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -139,13 +141,11 @@ QString Crowd::change()
     if (kind == 0)
         return changeNotice();
     if (kind < 4 && m_area) {
+        // The toolkit moves pixels that are not yet painted anew, also those of its own widgets.
+        settle();
         QScrollBar *bar = m_area->verticalScrollBar();
         bar->setValue(bar->value() + number(41) - 20);
         return QStringLiteral("scroll");
-    }
-    if (kind == 4) {
-        m_content->update();
-        return QStringLiteral("update of the content");
     }
     return changeMember();
 }
@@ -164,10 +164,14 @@ void TestOverlay::nothingPaintsOverWhatLiesOnTop_data()
     QTest::addColumn<bool>("is_list");
     QTest::addColumn<bool>("with_rows");
     QTest::addColumn<bool>("with_labels");
-    QTest::newRow("rows of a list") << true << true << false;
-    QTest::newRow("rows and labels of a list") << true << true << true;
-    QTest::newRow("rows of a plain layout") << false << true << false;
-    QTest::newRow("labels of a plain layout") << false << false << true;
+    QTest::addColumn<QString>("sheet");
+    const QString none;
+    const QString panel = QStringLiteral(":/css/hoxq.qs");
+    QTest::newRow("rows of a list") << true << true << false << none;
+    QTest::newRow("rows and labels of a list") << true << true << true << none;
+    QTest::newRow("rows of a list, with a sheet") << true << true << false << panel;
+    QTest::newRow("rows of a plain layout") << false << true << false << none;
+    QTest::newRow("labels of a plain layout") << false << false << true << none;
 }
 
 // Takes another number of changes from the environment variable HOXQ_CHANGES.
@@ -176,8 +180,12 @@ void TestOverlay::nothingPaintsOverWhatLiesOnTop()
     QFETCH(bool, is_list);
     QFETCH(bool, with_rows);
     QFETCH(bool, with_labels);
+    QFETCH(QString, sheet);
+    if (!sheet.isEmpty())
+        VexoStylesheet(sheet, true);
+    const auto finish = qScopeGuard([] { qApp->setStyleSheet(QString()); });
     const int asked = qEnvironmentVariableIntValue("HOXQ_CHANGES");
-    const int changes = asked > 0 ? asked : 2000;
+    const int changes = asked > 0 ? asked : 400; // of each row
     const int changes_of_a_screen = 50;
     PanelScale scale(4, 5);
     for (int done = 0; done < changes; done += changes_of_a_screen) {
@@ -197,7 +205,7 @@ void TestOverlay::nothingPaintsOverWhatLiesOnTop()
             if (wrong.isEmpty())
                 continue;
             qWarning() << "seed" << seed << "wrong" << wrong << "after"
-                       << story.mid(story.size() - 8);
+                       << story.mid(qMax(0, story.size() - 8));
             QFAIL("the screen shows something else than a repaint");
         }
     }

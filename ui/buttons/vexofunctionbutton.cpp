@@ -309,16 +309,6 @@ void VexoFunctionButton::nextCheckState()
         toggleRightButton();
 }
 
-// Styles think that they draw a button, and that its ground is seen through.
-bool VexoFunctionButton::event(QEvent *event)
-{
-    const bool is_styled = event->type() == QEvent::Polish || event->type() == QEvent::StyleChange;
-    const bool is_handled = QToolButton::event(event);
-    if (is_styled)
-        skipWhatIsCovered();
-    return is_handled;
-}
-
 // The toolkit takes a chosen row, which is down, for one that is held, and would report that it has
 // been released.
 void VexoFunctionButton::changeEvent(QEvent *event)
@@ -466,20 +456,16 @@ void VexoFunctionButton::change(QColor *color, const QColor &to)
     update();
 }
 
-// On an opaque ground nothing below it need be painted.
-void VexoFunctionButton::skipWhatIsCovered()
+// Whatever its state is, nothing of what lies below the row is seen.
+bool VexoFunctionButton::coversAll() const
 {
-    setAttribute(Qt::WA_OpaquePaintEvent,
-        m_is_seen && m_background_color.alpha() == 255
-            && m_background_clicked_color.alpha() == 255);
+    return m_background_color.alpha() == 255 && m_background_clicked_color.alpha() == 255;
 }
 
-void VexoFunctionButton::setSeen(bool is_seen)
+// The ground that a stylesheet gives the row need not be painted then.
+void VexoFunctionButton::skipWhatIsCovered()
 {
-    if (m_is_seen == is_seen)
-        return;
-    m_is_seen = is_seen;
-    skipWhatIsCovered();
+    setAttribute(Qt::WA_NoSystemBackground, coversAll());
 }
 
 void VexoFunctionButton::applyLook(const QRegion &painted)

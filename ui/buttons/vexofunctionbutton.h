@@ -140,7 +140,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void checkStateSet() override;
     void nextCheckState() override;
-    bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 
@@ -148,7 +147,7 @@ private Q_SLOTS:
     void tickAgreementClicked();
 
 private:
-    friend class OpaqueRows; // calls setSeen()
+    friend class OpaqueRows; // asks coversAll()
 
     void tellChecked();
     void setupLabel();
@@ -162,8 +161,8 @@ private:
     void tap();
     void toggleRightButton();
     void change(QColor *color, const QColor &to);
+    bool coversAll() const;
     void skipWhatIsCovered();
-    void setSeen(bool is_seen);
     void applyLook(const QRegion &painted);
     void applyArrowLook(const QRegion &painted);
     void applyTextColor(const QColor &color, const QRegion &painted);
@@ -191,7 +190,6 @@ private:
     QColor m_background_clicked_color = VexoColors::C4;
     double m_mm_indent = 3.0;
     double m_text_font_size_in_pt = 9.0;
-    bool m_is_seen = true; // false while a list scrolls and shows other rows
 };
 
 } // namespace vexo::hox::qt::ui

@@ -1,6 +1,7 @@
 #include "ui/scrolling/opaquerows_p.h"
 
 #include "ui/buttons/vexofunctionbutton.h"
+#include "ui/text/vexolabel.h"
 
 #include <QPaintEvent>
 
@@ -9,20 +10,6 @@ namespace vexo::hox::qt::ui {
 namespace {
 
 const int rest_ms = 300; // longer than between two steps of a scroll
-
-QRegion opaqueRows(const QWidget &content)
-{
-    QRegion rows;
-    for (const QObject *child : content.children()) {
-        if (!child->isWidgetType())
-            continue;
-        const auto *row = static_cast<const QWidget *>(child);
-        if (row->isVisible() && row->testAttribute(Qt::WA_OpaquePaintEvent) && row->mask().isEmpty()
-            && !row->graphicsEffect())
-            rows += row->geometry();
-    }
-    return rows;
-}
 
 } // namespace
 
@@ -45,7 +32,7 @@ bool OpaqueRows::eventFilter(QObject * /*watched*/, QEvent *event)
         break;
     case QEvent::Paint:
         if (m_is_claimed)
-            reveal(static_cast<QPaintEvent *>(event)->region());
+            reveal(bare(static_cast<QPaintEvent *>(event)->region()));
         break;
     default:
         break;
@@ -60,31 +47,44 @@ void OpaqueRows::timerEvent(QTimerEvent * /*event*/)
     m_has_moved = false;
 }
 
-void OpaqueRows::begin()
-{
-    m_opaque = opaqueRows(*m_content);
-    m_rows.clear();
-    for (QObject *child : m_content->children()) {
-        if (auto *row = qobject_cast<VexoFunctionButton *>(child))
-            m_rows += row;
-    }
-    m_scrolling.start(rest_ms, this);
-}
-
 void OpaqueRows::follow()
 {
     if (m_content->isWindow())
         return;
-    if (!m_scrolling.isActive())
-        begin();
     m_has_moved = true;
-    const QRect area = m_content->parentWidget()->rect().translated(-m_content->pos());
-    for (const auto &guarded : qAsConst(m_rows)) {
-        if (VexoFunctionButton *row = guarded.data())
-            row->setSeen(
-                area.top() <= row->geometry().bottom() && row->geometry().top() <= area.bottom());
+    if (!m_scrolling.isActive())
+        m_scrolling.start(rest_ms, this);
+    const QRect seen = m_content->parentWidget()->rect().translated(-m_content->pos());
+    claim(bare(seen & m_content->rect()).isEmpty());
+}
+
+// Nothing of what lies below it is seen.
+bool OpaqueRows::isOpaque(const QWidget &widget)
+{
+    if (!widget.isVisible() || !widget.mask().isEmpty() || widget.graphicsEffect())
+        return false;
+    if (const auto *row = qobject_cast<const VexoFunctionButton *>(&widget))
+        return row->coversAll();
+    if (const auto *label = qobject_cast<const VexoLabel *>(&widget))
+        return label->backgroundColor().alpha() == 255;
+    return widget.testAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+QRegion OpaqueRows::bare(const QRegion &area) const
+{
+    QRegion bare = area;
+    const QRect around = area.boundingRect();
+    const auto is_beside = [&](const QRect &place) { // hundreds are, so it is asked in one line
+        return place.bottom() < around.top() || place.top() > around.bottom();
+    };
+    for (const QObject *child : m_content->children()) {
+        if (!child->isWidgetType())
+            continue;
+        const auto *widget = static_cast<const QWidget *>(child);
+        if (!is_beside(widget->geometry()) && isOpaque(*widget))
+            bare -= widget->geometry();
     }
-    claim((QRegion(area & m_content->rect()) - m_opaque).isEmpty());
+    return bare;
 }
 
 void OpaqueRows::claim(bool is_covered)
@@ -97,9 +97,11 @@ void OpaqueRows::claim(bool is_covered)
     m_is_claimed = is_covered;
 }
 
-// Only what no opaque row hides is painted: one of them is none any more.
+// The toolkit does not fill the ground of what counts as opaque.
 void OpaqueRows::reveal(const QRegion &bare)
 {
+    if (bare.isEmpty())
+        return;
     end();
     m_content->update(bare);
 }
@@ -108,11 +110,6 @@ void OpaqueRows::end()
 {
     m_scrolling.stop();
     claim(false);
-    for (const auto &guarded : qAsConst(m_rows)) {
-        if (VexoFunctionButton *row = guarded.data())
-            row->setSeen(true);
-    }
-    m_rows.clear();
 }
 
 } // namespace vexo::hox::qt::ui

@@ -2,19 +2,18 @@
 
 #include <QBasicTimer>
 #include <QObject>
-#include <QPointer>
 #include <QRegion>
-#include <QVector>
 #include <QWidget>
 
 namespace vexo::hox::qt::ui {
 
-class VexoFunctionButton;
-
 /// Makes scrolling cheap: the toolkit moves the pixels of an opaque widget and draws any other
-/// anew. So the content of a list counts as opaque while it scrolls and opaque rows hide all that
-/// is seen of it. Rows out of sight then do not count as opaque: the toolkit adds up the areas of
-/// all that are at each step, which for hundreds costs more than to draw a new one.
+/// anew. So the content of a list counts as opaque while it scrolls and rows hide all that is seen
+/// of it.
+///
+/// Nothing counts as opaque at rest, and rows never do: the toolkit would take an opaque row that a
+/// layout has moved, and the content around it, for widgets on which nothing lies, and paint them
+/// over a dialog or a notice.
 class OpaqueRows : public QObject
 {
 public:
@@ -27,16 +26,15 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
-    void begin();
     void follow();
     void claim(bool is_covered);
+    static bool isOpaque(const QWidget &widget);
+    QRegion bare(const QRegion &area) const;
     void reveal(const QRegion &bare);
     void end();
 
     QWidget *const m_content;
     QBasicTimer m_scrolling;
-    QRegion m_opaque; // what rows hide, as long as the timer runs
-    QVector<QPointer<VexoFunctionButton>> m_rows;
     bool m_has_moved = false; // since the timer's last tick
     bool m_is_claimed = false;
 };

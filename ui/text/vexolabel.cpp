@@ -34,7 +34,6 @@ void VexoLabel::setTextColor(const QColor &color)
 void VexoLabel::setBackgroundColor(const QColor &color)
 {
     m_background_color = color;
-    setAttribute(Qt::WA_OpaquePaintEvent, color.alpha() == 255);
     update();
 }
 

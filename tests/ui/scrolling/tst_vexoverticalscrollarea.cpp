@@ -1,3 +1,4 @@
+#include "support/onscreen.h"
 #include "support/paintcounter.h"
 #include "support/panelscale.h"
 #include "support/testcase.h"
@@ -106,12 +107,6 @@ struct RowList
 
     void scroll(int to) { area.verticalScrollBar()->setValue(to); }
     bool isContentOpaque() const { return content->testAttribute(Qt::WA_OpaquePaintEvent); }
-    int opaqueRows() const
-    {
-        return int(std::count_if(rows.begin(), rows.end(),
-            [](const QWidget *row) { return row->testAttribute(Qt::WA_OpaquePaintEvent); }));
-    }
-
     /// Whether what was moved on the screen looks as it does drawn anew.
     bool isSeenAsItIs()
     {
@@ -389,7 +384,6 @@ void TestVexoVerticalScrollArea::scrollMovesWhatIsSeen()
     QCOMPARE(paints.take(list.rows[30]), 1); // comes into sight
     QVERIFY(list.isSeenAsItIs());
     virtualclock::pass(at_rest_ms);
-    QCOMPARE(list.opaqueRows(), alpha == 255 ? 40 : 39);
     QVERIFY(!list.isContentOpaque());
 }
 
@@ -397,16 +391,14 @@ void TestVexoVerticalScrollArea::whatNoRowHidesAnyMoreIsPainted_data()
 {
     using Change = std::function<void(RowList &)>;
     QTest::addColumn<Change>("change");
-    QTest::addColumn<int>("paints"); // of the content; the first one finds out
     QTest::newRow("hidden, the next rows move up")
-        << Change([](RowList &list) { list.rows[5]->hide(); }) << 0;
+        << Change([](RowList &list) { list.rows[5]->hide(); });
     QTest::newRow("deleted, the next rows move up")
-        << Change([](RowList &list) { delete list.rows.takeAt(5); }) << 0;
-    QTest::newRow("translucent") << Change([](RowList &list) { list.makeTranslucent(5, 254); })
-                                 << 2;
-    QTest::newRow("masked") << Change([](RowList &list) {
-        list.rows[5]->setMask(QRect(0, 0, 9, 9));
-    }) << 2;
+        << Change([](RowList &list) { delete list.rows.takeAt(5); });
+    QTest::newRow("translucent") << Change([](RowList &list) { list.makeTranslucent(5, 254); });
+    QTest::newRow("masked") << Change(
+        [](RowList &list) { list.rows[5]->setMask(QRect(0, 0, 9, 9)); });
+    QTest::newRow("moved") << Change([](RowList &list) { list.rows[5]->move(90, 200); });
 }
 
 void TestVexoVerticalScrollArea::whatNoRowHidesAnyMoreIsPainted()
@@ -414,13 +406,10 @@ void TestVexoVerticalScrollArea::whatNoRowHidesAnyMoreIsPainted()
     using Change = std::function<void(RowList &)>;
     QFETCH(Change, change);
     RowList list;
-    PaintCounter paints;
-    paints.watch(list.content);
     list.startScroll();
-    paints.take(list.content);
     QVERIFY(list.isContentOpaque());
     change(list);
-    QTEST(paints.take(list.content), "paints");
+    settle();
     QVERIFY(!list.isContentOpaque());
     QVERIFY(list.isSeenAsItIs());
 }
