@@ -1,2 +1,3 @@
+hoxq_test(screen/tst_deletions.cpp)
 hoxq_test(screen/tst_overlay.cpp)
 hoxq_test(screen/tst_restyle.cpp support/propertywalk.cpp support/propertywalk.h)

@@ -54,8 +54,7 @@ void MeasuredPushButton::clearVisibleBuddies()
 
 void MeasuredPushButton::setVisible(bool visible)
 {
-    QToolButton::setVisible(visible);
-    m_visible_buddies->setVisible(visible);
+    m_visible_buddies->setVisible(this, visible, [=] { QToolButton::setVisible(visible); });
 }
 
 void MeasuredPushButton::mousePressEvent(QMouseEvent *event)

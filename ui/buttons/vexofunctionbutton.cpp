@@ -244,10 +244,7 @@ void VexoFunctionButton::clearVisibleBuddies()
 
 void VexoFunctionButton::setVisible(bool visible)
 {
-    const QPointer<VexoFunctionButton> self(this);
-    QToolButton::setVisible(visible);
-    if (self)
-        m_visible_buddies->setVisible(visible);
+    m_visible_buddies->setVisible(this, visible, [=] { QToolButton::setVisible(visible); });
 }
 
 void VexoFunctionButton::mousePressEvent(QMouseEvent *event)

@@ -328,10 +328,7 @@ void VexoPushButton::clearVisibleBuddies()
 
 void VexoPushButton::setVisible(bool visible)
 {
-    const QPointer<VexoPushButton> self(this);
-    QPushButton::setVisible(visible);
-    if (self)
-        m_visible_buddies->setVisible(visible);
+    m_visible_buddies->setVisible(this, visible, [=] { QPushButton::setVisible(visible); });
 }
 
 bool VexoPushButton::event(QEvent *event)

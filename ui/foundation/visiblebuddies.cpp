@@ -21,7 +21,7 @@ void VisibleBuddies::clear()
     m_buddies.clear();
 }
 
-void VisibleBuddies::setVisible(bool visible)
+void VisibleBuddies::follow(bool visible)
 {
     if (m_is_gone != nullptr)
         return;

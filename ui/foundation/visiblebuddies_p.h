@@ -19,12 +19,22 @@ public:
     /// Appends \a buddy; null is ignored, a repeated one is shown and hidden repeatedly.
     void add(QWidget *buddy);
     void clear();
-    /// Shows or hides the buddies in the order they were added. The list may change meanwhile, and
-    /// owner and buddies may be destroyed. A call from within ends at once, so that buddies of each
-    /// other make one round.
-    void setVisible(bool visible);
+    /// Calls \a show_owner, which shows or hides the \a owner of this list, and then shows or hides
+    /// the buddies in the order they were added. The list may change meanwhile, and owner and
+    /// buddies may be destroyed. A call from within leaves the buddies alone, so that buddies of
+    /// each other make one round.
+    template <typename ShowOwner>
+    void setVisible(const QWidget *owner, bool visible, ShowOwner show_owner)
+    {
+        const QPointer<const QWidget> guard(owner);
+        show_owner();
+        if (guard)
+            follow(visible);
+    }
 
 private:
+    void follow(bool visible);
+
     QVector<QPointer<QWidget>> m_buddies;
     bool *m_is_gone = nullptr; // set during a round; told when the owner is destroyed in it
 };

@@ -88,8 +88,7 @@ void VexoLabel::clearVisibleBuddies()
 
 void VexoLabel::setVisible(bool is_visible)
 {
-    QLabel::setVisible(is_visible);
-    m_visible_buddies->setVisible(is_visible);
+    m_visible_buddies->setVisible(this, is_visible, [=] { QLabel::setVisible(is_visible); });
 }
 
 void VexoLabel::paintEvent(QPaintEvent *)

@@ -133,8 +133,7 @@ void VexoLabeledContainer::clearVisibleBuddies()
 
 void VexoLabeledContainer::setVisible(bool visible)
 {
-    QWidget::setVisible(visible);
-    m_visible_buddies->setVisible(visible);
+    m_visible_buddies->setVisible(this, visible, [=] { QWidget::setVisible(visible); });
 }
 
 void VexoLabeledContainer::setupUi()

@@ -46,6 +46,7 @@ private Q_SLOTS:
 
 void TestVisibleBuddies::followsInTheOrderOfAdding()
 {
+    QWidget owner;
     QStringList calls;
     Buddy first(&calls, "a");
     Buddy last(&calls, "c");
@@ -58,18 +59,19 @@ void TestVisibleBuddies::followsInTheOrderOfAdding()
     }
     buddies.add(&last);
     buddies.add(&first);
-    buddies.setVisible(true);
+    buddies.setVisible(&owner, true, [] { });
     QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+ c+ a+"));
-    buddies.setVisible(false);
+    buddies.setVisible(&owner, false, [] { });
     QVERIFY(first.isHidden() && last.isHidden());
     calls.clear();
     buddies.clear();
-    buddies.setVisible(true);
+    buddies.setVisible(&owner, true, [] { });
     QCOMPARE(calls, QStringList());
 }
 
 void TestVisibleBuddies::listMayChangeDuringARound()
 {
+    QWidget owner;
     QStringList calls;
     Buddy first(&calls, "a");
     Buddy added(&calls, "x");
@@ -82,20 +84,21 @@ void TestVisibleBuddies::listMayChangeDuringARound()
         buddies.clear();
         buddies.add(&added);
     };
-    buddies.setVisible(true);
+    buddies.setVisible(&owner, true, [] { });
     QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+"));
-    buddies.setVisible(true);
+    buddies.setVisible(&owner, true, [] { });
     QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+ x+"));
 }
 
 void TestVisibleBuddies::ownerMayGoDuringARound()
 {
+    QWidget owner;
     QStringList calls;
     Buddy buddy(&calls, "a");
     auto buddies = std::make_unique<VisibleBuddies>();
     buddies->add(&buddy);
     buddy.then = [&](bool) { buddies.reset(); };
-    buddies->setVisible(true);
+    buddies->setVisible(&owner, true, [] { });
     QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+"));
 }
 
@@ -108,8 +111,8 @@ void TestVisibleBuddies::mutualBuddiesMakeOneRound()
     VisibleBuddies of_right;
     of_left.add(&right);
     of_right.add(&left);
-    left.then = [&](bool visible) { of_left.setVisible(visible); };
-    right.then = [&](bool visible) { of_right.setVisible(visible); };
+    left.then = [&](bool visible) { of_left.setVisible(&left, visible, [] { }); };
+    right.then = [&](bool visible) { of_right.setVisible(&right, visible, [] { }); };
     left.setVisible(true);
     QVERIFY(!left.isHidden() && !right.isHidden());
     QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("l+ r+ l+"));
