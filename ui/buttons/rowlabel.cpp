@@ -1,5 +1,7 @@
 #include "ui/buttons/rowlabel_p.h"
 
+#include "ui/foundation/plainlabel_p.h"
+
 #include <QEvent>
 #include <QImage>
 #include <QPainter>
@@ -72,6 +74,7 @@ bool RowLabel::Look::operator==(const Look &other) const
 RowLabel::RowLabel(QWidget *parent)
     : QLabel(parent)
 {
+    showPlain(this);
 }
 
 QSize RowLabel::sizeHint() const

@@ -3,6 +3,7 @@
 #include "ui/buttons/vexoiconbutton.h"
 #include "ui/foundation/accessible_p.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/tightlayout_p.h"
 
 #include <QBoxLayout>
@@ -28,8 +29,8 @@ VexoCenteredVectorButton::VexoCenteredVectorButton(QWidget *parent)
     : QWidget(parent)
     , m_scaling(ScalingInfo::inst())
     , m_icon_button(new VexoIconButton)
-    , m_text_label(new QLabel)
-    , m_subtext_label(new QLabel)
+    , m_text_label(plainLabel())
+    , m_subtext_label(plainLabel())
     , m_icon_row(new QWidget)
 {
     setupUi();

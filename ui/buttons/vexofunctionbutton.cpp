@@ -9,6 +9,7 @@
 #include "ui/buttons/vexoradiobutton.h"
 #include "ui/foundation/cachedvectoricon.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/press_p.h"
 #include "ui/foundation/quietly_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
@@ -383,7 +384,7 @@ QWidget *VexoFunctionButton::createArrow()
     m_arrow_inactive = arrow("RGB220");
     m_last_down = false;
     m_inactive_shown = false;
-    auto *label = new ArrowLabel(this);
+    auto *label = showPlain(new ArrowLabel(this));
     label->setPixmap(m_arrow_normal);
     return label;
 }

@@ -109,7 +109,7 @@ public:
     /// setButtonType(), which sets 2.0 after a check box or radio button and 3.0 after the others.
     void setMmRightSpacer(float mm);
 
-    /// The text, which belongs to the row.
+    /// The text, which belongs to the row: plain, unless its setTextFormat() is told otherwise.
     QLabel *getLabelInstance() const;
     /// What holds the checked state: check box, radio button or tick box, with an arrow the row
     /// itself. Valid until the next setButtonType().

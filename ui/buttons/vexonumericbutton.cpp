@@ -2,6 +2,7 @@
 
 #include "ui/buttons/vexoiconbutton.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/tightlayout_p.h"
 
 #include <QBoxLayout>
@@ -107,7 +108,8 @@ void VexoNumericButton::setupUi()
     connect(m_increase_button, &QAbstractButton::clicked, this,
         &VexoNumericButton::onIncreaseButtonClicked);
 
-    m_number_label = new QLabel(QString::number(m_value));
+    m_number_label = plainLabel();
+    m_number_label->setText(QString::number(m_value));
     m_number_label->setObjectName(QStringLiteral("numberLabel"));
     m_number_label->setFont(panelFont(13.0, QFont::Medium));
     setTextColor(m_text_color);

@@ -4,6 +4,7 @@
 #include "ui/buttons/vexoiconbutton.h"
 #include "ui/foundation/imagefile_p.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/press_p.h"
 #include "ui/input/fieldframe_p.h"
 #include "ui/input/lineeditaccessible_p.h"
@@ -37,7 +38,7 @@ VexoLineEdit::VexoLineEdit(QWidget *parent)
     , m_scaling(ScalingInfo::inst())
     , m_tone_delegator(VexoFeedbackDelegator::tone_delegator)
     , m_cursor_timer(new QTimer(this))
-    , m_leading_label(new QLabel)
+    , m_leading_label(plainLabel())
     , m_trailing_button(new VexoIconButton)
     , m_frame(std::make_unique<FieldFrame>())
     , m_shake(std::make_unique<ShakeMotion>())

@@ -3,6 +3,7 @@
 #include "ui/foundation/accessible_p.h"
 #include "ui/foundation/cachedvectoricon.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/tightlayout_p.h"
 #include "ui/sliders/vexoslider.h"
 #include "ui/text/scaledisplaywidget.h"
@@ -58,8 +59,8 @@ VexoSliderDecoration::VexoSliderDecoration(
     QWidget *parent, SliderDecorationStyle style, VexoSlider *slider)
     : QWidget(parent)
     , m_scaling(ScalingInfo::inst())
-    , m_min_icon_label(new QLabel(this))
-    , m_max_icon_label(new QLabel(this))
+    , m_min_icon_label(plainLabel(this))
+    , m_max_icon_label(plainLabel(this))
     , m_style(style)
 {
     m_min_icon_label->setObjectName(QStringLiteral("vexoSliderDecorationMinIconLabel"));
@@ -184,7 +185,8 @@ void VexoSliderDecoration::setSliderUnit(const QString &unit)
     if (m_slider)
         followDescription(m_slider, m_unit, unit);
     m_unit = unit;
-    m_unit_label = new QLabel(unit);
+    m_unit_label = plainLabel();
+    m_unit_label->setText(unit);
     m_unit_label->setObjectName(QStringLiteral("vexoSliderDecorationUnitLabel"));
     m_unit_label->setFont(panelFont(9.0, QFont::Medium));
     m_unit_label->setStyleSheet(QStringLiteral("color: rgb(160, 160, 160);"));

@@ -1,6 +1,7 @@
 #include "ui/text/vexohorizontallabelwidget.h"
 
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/tightlayout_p.h"
 
 #include <QHBoxLayout>
@@ -19,8 +20,8 @@ QString rgb(const QColor &color)
 
 VexoHorizontalLabelWidget::VexoHorizontalLabelWidget(QWidget *parent)
     : QWidget(parent)
-    , m_left_label(new QLabel)
-    , m_right_label(new QLabel)
+    , m_left_label(plainLabel())
+    , m_right_label(plainLabel())
     , m_scaling(ScalingInfo::inst())
 {
     setupUi();

@@ -2,6 +2,7 @@
 
 #include "ui/foundation/cachedvectoricon.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/tightlayout_p.h"
 
 #include <QHBoxLayout>
@@ -12,8 +13,8 @@ namespace vexo::hox::qt::ui {
 VexoImageHeadline::VexoImageHeadline(QWidget *parent)
     : QWidget(parent)
     , m_scaling(ScalingInfo::inst())
-    , m_text_label(new QLabel)
-    , m_icon_label(new QLabel)
+    , m_text_label(plainLabel())
+    , m_icon_label(plainLabel())
 {
     setupUi();
 }

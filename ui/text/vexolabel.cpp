@@ -1,6 +1,7 @@
 #include "ui/text/vexolabel.h"
 
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/textblock_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
 
@@ -14,13 +15,14 @@ VexoLabel::VexoLabel(QWidget *parent)
 }
 
 VexoLabel::VexoLabel(const QString &text, QWidget *parent)
-    : QLabel(text, parent)
+    : QLabel(parent)
     , m_scaling(ScalingInfo::inst())
     , m_visible_buddies(new VisibleBuddies)
     , m_px_indent(m_scaling->mm2px_X(3.0F))
     , m_text(std::make_unique<TextBlock>(QTextOption::WordWrap, Qt::LayoutDirectionAuto))
 {
     setupUi();
+    setText(text);
 }
 
 VexoLabel::~VexoLabel() = default;
@@ -105,7 +107,7 @@ void VexoLabel::setupUi()
 {
     setAttribute(Qt::WA_StyledBackground);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    setTextFormat(Qt::PlainText); // else markup is measured and read out other than it is drawn
+    showPlain(this); // also measured and read out as it is drawn
     setBackgroundColor(m_background_color);
     setFontWeight(QFont::Medium);
     setPtFontSize(m_pt_font_size);

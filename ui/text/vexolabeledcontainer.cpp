@@ -2,6 +2,7 @@
 
 #include "ui/foundation/accessible_p.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/tightlayout_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
 #include "ui/input/vexolineedit.h"
@@ -158,7 +159,7 @@ void VexoLabeledContainer::setupUi()
 
 void VexoLabeledContainer::setupCaption()
 {
-    m_label = new QLabel(this);
+    m_label = plainLabel(this);
     m_font.setWeight(QFont::Medium);
     setPtFontSize(m_pt_font_size);
     m_label->setObjectName(QStringLiteral("vexoLabeledContainerLabel"));

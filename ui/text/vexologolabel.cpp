@@ -1,6 +1,7 @@
 #include "ui/text/vexologolabel.h"
 
 #include "ui/foundation/imagefile_p.h"
+#include "ui/foundation/plainlabel_p.h"
 #include "ui/text/logo_p.h"
 
 #include <QPainter>
@@ -16,6 +17,7 @@ VexoLogoLabel::VexoLogoLabel(QWidget *parent, float width_mm, unsigned int image
     , m_image_width(int(image_width))
     , m_image_height(int(image_height))
 {
+    showPlain(this);
     makeImage();
 }
 

@@ -1,6 +1,7 @@
 #include "ui/text/vexotextenumeration.h"
 
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/tightlayout_p.h"
 
 #include <QHBoxLayout>
@@ -39,8 +40,8 @@ void setLook(QLabel *label, double pt, int weight)
 
 VexoTextEnumeration::VexoTextEnumeration(QWidget *parent)
     : QWidget(parent)
-    , m_text_label(new QLabel)
-    , m_number_label(new QLabel)
+    , m_text_label(plainLabel())
+    , m_number_label(plainLabel())
 {
     setupUi();
 }
