@@ -24,9 +24,9 @@ QString singleLine(QString text)
 
 } // namespace
 
-void TextRun::set(const QString &text, const QFont &font)
+void TextRun::set(const QString &text, const QFont &font, const Formats &formats)
 {
-    if (text == m_text && font == m_font)
+    if (text == m_text && font == m_font && formats == m_layout.formats())
         return;
     m_text = text;
     m_font = font;
@@ -35,6 +35,7 @@ void TextRun::set(const QString &text, const QFont &font)
     m_layout.setTextOption(option);
     m_layout.setFont(font);
     m_layout.setText(singleLine(text));
+    m_layout.setFormats(formats);
     m_layout.setCacheEnabled(true);
     m_layout.beginLayout();
     QTextLine line = m_layout.createLine();

@@ -4,6 +4,7 @@
 #include <QRectF>
 #include <QString>
 #include <QTextLayout>
+#include <QVector>
 
 class QPainter;
 
@@ -14,8 +15,10 @@ namespace vexo::hox::qt::ui {
 class TextRun
 {
 public:
-    /// Lays out, unless text and font are those it has.
-    void set(const QString &text, const QFont &font);
+    using Formats = QVector<QTextLayout::FormatRange>;
+
+    /// Lays out, unless all is what it has. Parts of the text may have \a formats of their own.
+    void set(const QString &text, const QFont &font, const Formats &formats = Formats());
     /// What the text moves on by, px, as QFontMetrics tells it.
     int advance() const { return m_advance; }
     /// With the painter's pen; \a alignment tells Qt::AlignHCenter from left.

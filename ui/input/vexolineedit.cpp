@@ -6,10 +6,12 @@
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/press_p.h"
+#include "ui/input/composedtext_p.h"
 #include "ui/input/fieldframe_p.h"
 #include "ui/input/lineeditaccessible_p.h"
 #include "ui/input/placeholder_p.h"
 #include "ui/input/secretdots_p.h"
+#include "ui/input/secrettext_p.h"
 #include "ui/input/shakemotion_p.h"
 #include "ui/input/textrun_p.h"
 
@@ -43,12 +45,17 @@ VexoLineEdit::VexoLineEdit(QWidget *parent)
     , m_frame(std::make_unique<FieldFrame>())
     , m_shake(std::make_unique<ShakeMotion>())
     , m_dots(std::make_unique<SecretDots>())
+    , m_composed(std::make_unique<ComposedText>())
     , m_text_run(std::make_unique<TextRun>())
     , m_placeholder_run(std::make_unique<TextRun>())
 {
     makeLineEditsAccessible();
     setupUi();
     connect(&m_shake_timer, &QTimer::timeout, this, &VexoLineEdit::onShakeAnimationStep);
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (isSecret())
+            forgetHistory(this);
+    });
 }
 
 VexoLineEdit::~VexoLineEdit()
@@ -263,6 +270,8 @@ void VexoLineEdit::setPtFontSize(double pt)
 
 void VexoLineEdit::setDrawPasswordSecured(bool secured)
 {
+    if (isSecret())
+        forgetHistory(this);
     m_draw_password_secured = secured;
     setEchoMode(secured ? Password : Normal);
     update();
@@ -281,6 +290,7 @@ void VexoLineEdit::setDrawSecuredCentered(bool centered)
 
 void VexoLineEdit::setCursorState(bool on)
 {
+    m_has_cursor = on;
     m_cursor_visible = on;
     if (on)
         m_cursor_timer->start();
@@ -356,8 +366,46 @@ bool VexoLineEdit::eventFilter(QObject *watched, QEvent *event)
     return QLineEdit::eventFilter(watched, event);
 }
 
+QVariant VexoLineEdit::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    return inputMethodQuery(query, QVariant());
+}
+
+// The toolkit calls this one by its name, so it has to be hidden as well.
+QVariant VexoLineEdit::inputMethodQuery(Qt::InputMethodQuery query, QVariant argument) const
+{
+    const QVariant answer = QLineEdit::inputMethodQuery(query, argument);
+    return isSecret() ? masked(*this, query, answer) : answer;
+}
+
+void VexoLineEdit::inputMethodEvent(QInputMethodEvent *event)
+{
+    const QPointer<VexoLineEdit> self(this);
+    QLineEdit::inputMethodEvent(event);
+    if (!self || isReadOnly())
+        return;
+    m_composed->take(*event, cursorPosition());
+    update();
+}
+
+void VexoLineEdit::showEvent(QShowEvent *event)
+{
+    QLineEdit::showEvent(event);
+    if (m_has_cursor && !m_cursor_timer->isActive())
+        m_cursor_timer->start();
+}
+
+// A cursor that nobody sees need not wake the processor.
+void VexoLineEdit::hideEvent(QHideEvent *event)
+{
+    QLineEdit::hideEvent(event);
+    m_cursor_timer->stop();
+}
+
 void VexoLineEdit::onCursorTimeout()
 {
+    if (!isVisible())
+        m_cursor_timer->stop(); // until it is shown
     m_cursor_visible = !m_cursor_visible;
     if (showsDots())
         return; // without a cursor
@@ -390,6 +438,12 @@ void VexoLineEdit::ring()
 {
     if (m_tone_delegator)
         QMetaObject::invokeMethod(m_tone_delegator, "tone", Qt::QueuedConnection);
+}
+
+// Echo modes hide the text, too.
+bool VexoLineEdit::isSecret() const
+{
+    return m_draw_password_secured || echoMode() != Normal;
 }
 
 void VexoLineEdit::setHeight()
@@ -458,11 +512,10 @@ QRect VexoLineEdit::cursorArea() const
         .adjusted(-seam, -seam, seam, seam);
 }
 
-// Echo modes hide the text, too, which may have been shown before.
+// A text may have become secret while it shakes.
 bool VexoLineEdit::showsDots() const
 {
-    const bool is_secret = m_draw_password_secured || echoMode() != Normal;
-    return is_secret || (m_shake->isRunning() && !m_shake_shows_text);
+    return isSecret() || (m_shake->isRunning() && !m_shake_shows_text);
 }
 
 QRect VexoLineEdit::shakeArea() const
@@ -496,7 +549,7 @@ Qt::Alignment VexoLineEdit::textAlignment() const
 
 void VexoLineEdit::layOut(const QString &text)
 {
-    m_text_run->set(text, font());
+    m_text_run->set(text, font(), m_composed->formats());
     if (text.size() != m_placeholder_typed) {
         m_placeholder_typed = text.size();
         m_placeholder_rest
@@ -523,9 +576,9 @@ void VexoLineEdit::paintEvent(QPaintEvent *)
 
 void VexoLineEdit::drawPlainText(const QColor &ink)
 {
-    const QString text = this->text();
-    if (!text.isEmpty())
-        m_shake_text = text;
+    if (!this->text().isEmpty())
+        m_shake_text = this->text();
+    const QString text = m_composed->within(this->text());
     layOut(text);
     m_show_placeholder = text.size() < m_placeholder_text.size();
     drawUserText(ink, m_placeholder_run->advance(), 0);

@@ -21,6 +21,7 @@ class QWidgetAction;
 
 namespace vexo::hox::qt::ui {
 
+class ComposedText;
 class FieldFrame;
 class ScalingInfo;
 class SecretDots;
@@ -107,8 +108,8 @@ class HOXQUI_EXPORT VexoLineEdit // clazy:exclude=copyable-polymorphic
     /// Text height, pt. Default 9.0. Negative is ignored.
     Q_PROPERTY(double m_pt_font_size READ ptFontSize WRITE setPtFontSize)
     /// Draws a dot per character, and neither cursor nor placeholder. Default false. The echo mode
-    /// follows, so that nothing else tells the text either. An echo mode that is not Normal hides
-    /// the text all the same; NoEcho draws no dots.
+    /// follows, so that nothing else tells the text either; what was typed cannot be undone. An echo
+    /// mode that is not Normal hides the text all the same; NoEcho draws no dots.
     Q_PROPERTY(
         bool m_draw_password_secured READ isDrawedPasswordSecured WRITE setDrawPasswordSecured)
     /// Centres text, cursor and placeholder. Default false.
@@ -182,6 +183,10 @@ public:
     void shake(unsigned int duration_ms, unsigned int oscillations, unsigned int amplitude_px,
         bool show_text);
 
+    /// Of a secret text input methods learn no more than its length.
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+    Q_INVOKABLE QVariant inputMethodQuery(Qt::InputMethodQuery query, QVariant argument) const;
+
 Q_SIGNALS:
     /// The field was touched: the finger was lifted, wherever, and its press was not taken back.
     void textEditWanted(QString current_text);
@@ -194,6 +199,9 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private Q_SLOTS:
     void onCursorTimeout();
@@ -203,6 +211,7 @@ private:
     void setupUi();
     void reapplyProperties();
     void ring();
+    bool isSecret() const;
     void setHeight();
     void calculateCursorPosition();
     void placeSideWidgets();
@@ -241,6 +250,7 @@ private:
     int m_cursor_bottom = 0; // px
     QPointF m_px_margin;
     QPointF m_px_pen_line;
+    bool m_has_cursor = false;
     bool m_cursor_visible = false;
     bool m_show_placeholder = false;
     QString m_placeholder_text;
@@ -270,6 +280,7 @@ private:
     QString m_shake_text; // painted last, unless empty
     bool m_shake_shows_text = false;
     const std::unique_ptr<SecretDots> m_dots;
+    const std::unique_ptr<ComposedText> m_composed;
     const std::unique_ptr<TextRun> m_text_run; // the text, or the one that shakes
     const std::unique_ptr<TextRun> m_placeholder_run;
     QString m_placeholder_rest; // what is left of the placeholder
