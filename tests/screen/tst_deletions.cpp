@@ -2,10 +2,13 @@
 #include "support/testcase.h"
 #include "ui/buttons/measuredpushbutton.h"
 #include "ui/buttons/vexofunctionbutton.h"
+#include "ui/buttons/vexoiconbutton.h"
 #include "ui/buttons/vexopushbutton.h"
+#include "ui/input/vexolineedit.h"
 #include "ui/text/vexolabel.h"
 #include "ui/text/vexolabeledcontainer.h"
 
+#include <QAction>
 #include <QPointer>
 
 #include <functional>
@@ -57,6 +60,9 @@ class TestDeletions : public TestCase
 private Q_SLOTS:
     void ownerOfBuddiesMayGoWhileItIsHidden_data();
     void ownerOfBuddiesMayGoWhileItIsHidden();
+    void textOfARowMayGo();
+    void actionAtASideMayGo_data();
+    void actionAtASideMayGo();
 };
 
 void TestDeletions::ownerOfBuddiesMayGoWhileItIsHidden_data()
@@ -83,6 +89,67 @@ void TestDeletions::ownerOfBuddiesMayGoWhileItIsHidden()
     owner->setVisible(false);
     QVERIFY(!owner);
     QVERIFY(!buddy.isHidden());
+}
+
+void TestDeletions::textOfARowMayGo()
+{
+    QWidget window;
+    VexoFunctionButton row(&window, VexoFunctionButton::ActionType);
+    window.show();
+    settle();
+    delete row.getLabelInstance();
+    QCOMPARE(row.getLabelInstance(), nullptr);
+    row.setText(QStringLiteral("gone"));
+    row.setMmIndent(2);
+    row.setTextFontsizeInPt(8);
+    row.setFontWeight(QFont::Bold);
+    row.setTextColor(Qt::red);
+    row.setEnabled(false);
+    settle();
+    QCOMPARE(wrongPixels(window), QRect());
+    QCOMPARE(row.text(), QString());
+}
+
+void TestDeletions::actionAtASideMayGo_data()
+{
+    QTest::addColumn<bool>("is_leading");
+    QTest::addColumn<int>("index"); // of what is deleted; 2: the widget that both show
+    for (const bool is_leading : { true, false }) {
+        const char *side = is_leading ? "leading" : "trailing";
+        QTest::addRow("first %s action", side) << is_leading << 0;
+        QTest::addRow("second %s action", side) << is_leading << 1;
+        QTest::addRow("%s widget", side) << is_leading << 2;
+    }
+}
+
+void TestDeletions::actionAtASideMayGo()
+{
+    QFETCH(bool, is_leading);
+    QFETCH(int, index);
+    QWidget window;
+    VexoLineEdit field(&window);
+    for (int i = 0; i < 2; ++i) {
+        if (is_leading)
+            field.enableLeadingLabelAction();
+        else
+            field.enableTrailingButtonAction();
+    }
+    window.show();
+    settle();
+    if (index < 2)
+        delete field.actions().at(index);
+    else if (is_leading)
+        delete field.findChild<QLabel *>();
+    else
+        delete field.findChild<VexoIconButton *>();
+    QVERIFY(field.sizeHint().isValid());
+    field.resize(200, field.height());
+    field.setMmLeadingIconSize(QSizeF(3, 3));
+    field.setTrailingIcon(QIcon());
+    settle();
+    QCOMPARE(wrongPixels(window), QRect());
+    qDeleteAll(field.actions());
+    QVERIFY(field.sizeHint().isValid());
 }
 
 QTEST_MAIN(TestDeletions)

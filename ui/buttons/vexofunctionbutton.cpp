@@ -53,8 +53,15 @@ protected:
     bool event(QEvent *event) override
     {
         const bool is_handled = QLabel::event(event);
-        if (event->type() == QEvent::Polish)
+        switch (event->type()) {
+        case QEvent::Polish:
+        case QEvent::StyleChange:
+        case QEvent::ContentsRectChange: // a stylesheet may pad it
             setFixedSize(sizeHint());
+            break;
+        default:
+            break;
+        }
         return is_handled;
     }
 
@@ -137,12 +144,14 @@ void VexoFunctionButton::setButtonType(VexoFunctionButtonType type)
 
 QString VexoFunctionButton::text() const
 {
-    return m_label->text();
+    const RowLabel *const label = m_label;
+    return label ? label->text() : QString();
 }
 
 void VexoFunctionButton::setText(const QString &text)
 {
-    m_label->setText(text);
+    if (RowLabel *label = m_label)
+        label->setText(text);
     QAccessibleEvent event(this, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&event);
     update();
@@ -176,21 +185,26 @@ void VexoFunctionButton::setBackgroundClickedColor(const QColor &color)
 void VexoFunctionButton::setMmIndent(double mm)
 {
     m_mm_indent = mm;
-    m_label->setIndent(pxX(*m_scaling, mm));
+    if (RowLabel *label = m_label)
+        label->setIndent(pxX(*m_scaling, mm));
     update();
 }
 
 void VexoFunctionButton::setTextFontsizeInPt(double pt, int weight)
 {
     m_text_font_size_in_pt = pt;
-    m_label->setFont(panelFont(pt, weight));
+    if (RowLabel *label = m_label)
+        label->setFont(panelFont(pt, weight));
 }
 
 void VexoFunctionButton::setFontWeight(int weight)
 {
-    QFont font = m_label->font();
+    RowLabel *const label = m_label;
+    if (!label)
+        return;
+    QFont font = label->font();
     font.setWeight(weight);
-    m_label->setFont(font);
+    label->setFont(font);
 }
 
 void VexoFunctionButton::setMmRightSpacer(float mm)
@@ -276,8 +290,9 @@ void VexoFunctionButton::paintEvent(QPaintEvent *event)
 {
     applyLook(event->region());
     const QColor color = ground();
-    if (event->rect().intersects(m_label->geometry()))
-        m_label->prepare(color);
+    RowLabel *const label = m_label;
+    if (label && event->rect().intersects(label->geometry()))
+        label->prepare(color);
     QPainter painter(this);
     if (color.alpha() < 255) { // else nothing of it would be seen
         QStyleOption option;
@@ -494,8 +509,9 @@ void VexoFunctionButton::applyArrowLook(const QRegion &painted)
 
 void VexoFunctionButton::applyTextColor(const QColor &color, const QRegion &painted)
 {
-    if (m_label->ink() != color)
-        changeChild(m_label, painted, [&] { m_label->setInk(color); });
+    RowLabel *const label = m_label;
+    if (label && label->ink() != color)
+        changeChild(label, painted, [&] { label->setInk(color); });
 }
 
 void VexoFunctionButton::showArrow(const QPixmap &arrow, const QRegion &painted)

@@ -110,6 +110,7 @@ public:
     void setMmRightSpacer(float mm);
 
     /// The text, which belongs to the row: plain, unless its setTextFormat() is told otherwise.
+    /// Null once it was deleted.
     QLabel *getLabelInstance() const;
     /// What holds the checked state: check box, radio button or tick box, with an arrow the row
     /// itself. Valid until the next setButtonType().
@@ -171,7 +172,7 @@ private:
     const ScalingInfo *const m_scaling;
     const QPointer<VexoFeedbackDelegator> m_tone_delegator;
     RowLayout *const m_layout;
-    RowLabel *const m_label;
+    const QPointer<RowLabel> m_label;
     QPointer<QWidget> m_right_widget;
     QSpacerItem *m_right_spacer = nullptr;
     const std::unique_ptr<VisibleBuddies> m_visible_buddies;

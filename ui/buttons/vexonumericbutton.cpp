@@ -52,12 +52,23 @@ void VexoNumericButton::setValue(int value)
     m_increase_button->setEnabled(m_value < m_maximum);
     m_number_label->setText(QString::number(m_value));
     m_number_label->repaint();
+    bringToScreen();
+}
 
+// A press that comes meanwhile does not wait once more: a queue of them would nest on the stack.
+void VexoNumericButton::bringToScreen()
+{
+    if (m_is_waiting)
+        return;
+    m_is_waiting = true;
+    const QPointer<VexoNumericButton> self(this);
     const int shown_after_ms = 5;
     QElapsedTimer time;
     time.start();
     while (time.elapsed() < shown_after_ms)
         QCoreApplication::processEvents(QEventLoop::AllEvents, shown_after_ms);
+    if (self)
+        m_is_waiting = false;
 }
 
 void VexoNumericButton::setMinimum(int minimum)

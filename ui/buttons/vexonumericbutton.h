@@ -57,6 +57,7 @@ private Q_SLOTS:
     void onIncreaseButtonClicked();
 
 private:
+    void bringToScreen();
     void setupUi();
     VexoIconButton *createRoundButton(const QString &image);
 
@@ -68,6 +69,7 @@ private:
     int m_minimum = 0;
     int m_maximum = 1;
     int m_step_size = 1;
+    bool m_is_waiting = false; // for the number to reach the screen
 };
 
 } // namespace vexo::hox::qt::ui

@@ -13,6 +13,7 @@
 #include "ui/input/secretdots_p.h"
 #include "ui/input/secrettext_p.h"
 #include "ui/input/shakemotion_p.h"
+#include "ui/input/sidewidget_p.h"
 #include "ui/input/textrun_p.h"
 
 #include <QLabel>
@@ -40,8 +41,8 @@ VexoLineEdit::VexoLineEdit(QWidget *parent)
     , m_scaling(ScalingInfo::inst())
     , m_tone_delegator(VexoFeedbackDelegator::tone_delegator)
     , m_cursor_timer(new QTimer(this))
-    , m_leading_label(plainLabel())
-    , m_trailing_button(new VexoIconButton)
+    , m_leading_label(showPlain(new SideWidget<QLabel>(this)))
+    , m_trailing_button(new SideWidget<VexoIconButton>(this))
     , m_frame(std::make_unique<FieldFrame>())
     , m_shake(std::make_unique<ShakeMotion>())
     , m_dots(std::make_unique<SecretDots>())

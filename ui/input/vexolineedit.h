@@ -169,7 +169,8 @@ public:
 
     /// Shows a blinking cursor, or hides it. Default hidden. Shows with the next repaint.
     void setCursorState(bool on);
-    /// Makes a label at the leading edge that shows the leading icon.
+    /// Makes a label at the leading edge that shows the leading icon. A further call makes a
+    /// further action with the same label; to delete one of them takes the label away.
     void enableLeadingLabelAction();
     /// Makes the button "trailingButton" at the trailing edge, typically a delete key; each of its
     /// clicks emits deleteButtonClick(), once per call of this operation.

@@ -359,6 +359,7 @@ void TestVexoFunctionButton::textIsMeasuredLikeAnyLabel()
     LoudRow row(Row::ActionType);
     row.setText(text);
     QLabel *label = row.getLabelInstance();
+    label->setTextFormat(Qt::AutoText); // as any label's, with markup
     QLabel any(text);
     any.setWordWrap(true);
     any.setIndent(label->indent());
@@ -390,6 +391,7 @@ void TestVexoFunctionButton::textIsPlacedLikeAnyLabel()
     LoudRow row(Row::ActionType);
     row.setText(text);
     QLabel *label = row.getLabelInstance();
+    label->setTextFormat(Qt::AutoText); // as any label's, with markup
     QWidget other;
     QLabel any(text);
     any.setWordWrap(true);

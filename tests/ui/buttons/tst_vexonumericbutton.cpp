@@ -9,6 +9,7 @@
 #include <VexoNumericButton>
 
 #include <QLabel>
+#include <QMouseEvent>
 #include <QTest>
 #include <QTimer>
 
@@ -57,6 +58,7 @@ class TestVexoNumericButton : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void queuedPressesDoNotNest();
     void stepsWithinItsLimits_data();
     void stepsWithinItsLimits();
     void limitsActWithTheNextValue();
@@ -177,6 +179,37 @@ void TestVexoNumericButton::partsArePlacedInMillimetres()
             QCOMPARE(button->icon().pixmap(999).toImage(), icon.toPixmap().toImage());
         }
     }
+}
+
+// Each comes while the one before lets events happen.
+void TestVexoNumericButton::queuedPressesDoNotNest()
+{
+    QWidget window;
+    VexoNumericButton stepper(&window);
+    stepper.setMaximum(1000);
+    stepper.resize(500, 100);
+    window.resize(500, 100);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    auto *plus = stepper.findChild<QAbstractButton *>(QStringLiteral("increaseButton"));
+    const int presses = 100;
+    quintptr deepest = std::numeric_limits<quintptr>::max();
+    const auto start = reinterpret_cast<quintptr>(__builtin_frame_address(0));
+    connect(plus, &QAbstractButton::pressed,
+        [&] { deepest = qMin(deepest, reinterpret_cast<quintptr>(__builtin_frame_address(0))); });
+    Numbers told;
+    connect(&stepper, &VexoNumericButton::valueChanged, [&](int value) { told += value; });
+    for (int i = 0; i < presses; ++i) {
+        for (const auto type : { QEvent::MouseButtonPress, QEvent::MouseButtonRelease })
+            QCoreApplication::postEvent(plus,
+                new QMouseEvent(type, plus->rect().center(), Qt::LeftButton,
+                    type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                    Qt::NoModifier));
+    }
+    QTRY_COMPARE(stepper.value(), presses);
+    QTRY_COMPARE(told.size(), presses);
+    const int most = 100000; // bytes; one press takes some thousands
+    QVERIFY2(start - deepest < most, QByteArray::number(qulonglong(start - deepest)));
 }
 
 QTEST_MAIN(TestVexoNumericButton)
