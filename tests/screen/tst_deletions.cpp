@@ -5,6 +5,7 @@
 #include "ui/buttons/vexoiconbutton.h"
 #include "ui/buttons/vexopushbutton.h"
 #include "ui/input/vexolineedit.h"
+#include "ui/scrolling/vexoverticalbuttonscrollarea.h"
 #include "ui/text/vexolabel.h"
 #include "ui/text/vexolabeledcontainer.h"
 
@@ -63,6 +64,7 @@ private Q_SLOTS:
     void textOfARowMayGo();
     void actionAtASideMayGo_data();
     void actionAtASideMayGo();
+    void jumpBarMayGoInItsLetter();
 };
 
 void TestDeletions::ownerOfBuddiesMayGoWhileItIsHidden_data()
@@ -150,6 +152,22 @@ void TestDeletions::actionAtASideMayGo()
     QCOMPARE(wrongPixels(window), QRect());
     qDeleteAll(field.actions());
     QVERIFY(field.sizeHint().isValid());
+}
+
+// A tap that the real scroller of the bar sees.
+void TestDeletions::jumpBarMayGoInItsLetter()
+{
+    QWidget window;
+    window.resize(100, 400);
+    const QPointer<VexoVerticalButtonScrollArea> bar = new VexoVerticalButtonScrollArea(&window);
+    bar->resize(60, 400);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    settle();
+    bar->setButtonConnection(&window, [bar] { bar->deleteLater(); });
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(30, 150));
+    QTRY_VERIFY(!bar);
+    settle();
 }
 
 QTEST_MAIN(TestDeletions)

@@ -2,6 +2,7 @@
 #include "support/panelscale.h"
 #include "support/propertywalk.h"
 #include "support/testcase.h"
+#include "ui/buttons/vexofunctionbutton.h"
 #include "ui/foundation/vexostylesheet.h"
 #include "ui/text/vexolabeledcontainer.h"
 
@@ -181,6 +182,7 @@ private Q_SLOTS:
     void sheetMayChangeAfterAScreenWasClosed_data();
     void sheetMayChangeAfterAScreenWasClosed();
     void paletteReachesPartsOfAWidget();
+    void arrowOfARowTakesPaddingFromASheet();
     void screenShowsWhatARepaintWouldPaint();
 };
 
@@ -235,6 +237,23 @@ void TestRestyle::paletteReachesPartsOfAWidget()
     const auto *caption
         = container.findChild<QLabel *>(QStringLiteral("vexoLabeledContainerLabel"));
     QCOMPARE(caption->palette().color(QPalette::WindowText), QColor(Qt::red));
+}
+
+void TestRestyle::arrowOfARowTakesPaddingFromASheet()
+{
+    const ApplicationLook look;
+    QWidget screen;
+    VexoFunctionButton row(&screen, VexoFunctionButton::ActionType);
+    const auto *arrow = row.findChild<QWidget *>(QStringLiteral("vexoFunctionButtonWidgetRight"));
+    screen.show();
+    settle();
+    const QSize bare = arrow->size();
+    qApp->setStyleSheet(QStringLiteral("QLabel { padding: 4px; }"));
+    settle();
+    QCOMPARE(arrow->size(), bare + QSize(8, 8));
+    qApp->setStyleSheet(QString());
+    settle();
+    QCOMPARE(arrow->size(), bare);
 }
 
 // Takes another number of changes from the environment variable HOXQ_CHANGES.

@@ -53,14 +53,10 @@ protected:
     bool event(QEvent *event) override
     {
         const bool is_handled = QLabel::event(event);
-        switch (event->type()) {
-        case QEvent::Polish:
-        case QEvent::StyleChange:
-        case QEvent::ContentsRectChange: // a stylesheet may pad it
+        if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange) {
+            setMinimumSize(0, 0);
+            setIndent(indent()); // makes the label measure itself anew: a sheet may pad it
             setFixedSize(sizeHint());
-            break;
-        default:
-            break;
         }
         return is_handled;
     }

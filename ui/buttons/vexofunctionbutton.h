@@ -37,7 +37,7 @@ class VisibleBuddies;
 /// technology sees it as one object with the text, the role and the checked state of what it shows.
 /// A press rings the feedback delegator that was installed when the row was constructed. It may be
 /// deleted, and its type changed, in pressed() and clicked(), also in those of its right-hand
-/// widget; but not in toggled(), after which the toolkit goes on with it.
+/// widget; but not in toggled() and stateChanged(), after which the toolkit goes on with it.
 class HOXQUI_EXPORT VexoFunctionButton // clazy:exclude=copyable-polymorphic
     : public QToolButton,
       private vexo::hox::qt::system::VexoLogging

@@ -471,6 +471,8 @@ void VexoPushButton::drawGround(QPainter *painter, const QRectF &inside)
         painter->fillRect(inside, fillOfNow());
         return;
     }
+    if (inside.isEmpty())
+        return; // all of it is margin
     if (painter->deviceTransform().type() > QTransform::TxTranslate || !isKeepable(size())) {
         drawOutline(painter, inside, fillOfNow());
         return;
@@ -480,7 +482,8 @@ void VexoPushButton::drawGround(QPainter *painter, const QRectF &inside)
     const Print print = m_grounds->get(look, [&] { return printGround(look); });
     const QRect even = wholeInside(evenGround(inside));
     const QRect whole(print.position, print.pixmap.size() / look.ratio);
-    painter->fillRect(even, look.fill);
+    if (even.isValid())
+        painter->fillRect(even, look.fill);
     for (const QRect &part : QRegion(whole) - even)
         painter->drawPixmap(QRectF(part), print.pixmap,
             QRectF(
@@ -515,7 +518,8 @@ QRectF VexoPushButton::evenGround(const QRectF &inside) const
     if (!m_draw_button_border)
         return inside;
     const double line = m_pen.widthF() + 1;
-    return inside.adjusted(m_px_radius.width(), line, -m_px_radius.width(), -line);
+    const QRectF even = inside.adjusted(m_px_radius.width(), line, -m_px_radius.width(), -line);
+    return even.isValid() ? even : QRectF(); // one that is inside out would be filled
 }
 
 void VexoPushButton::drawTexts(QPainter *painter, const QRectF &inside)

@@ -325,7 +325,7 @@ void VexoLineEdit::shake(
     m_shake->start(duration_ms, oscillations, amplitude_px);
     m_shake_timer.start(m_shake->delay());
     m_shake_shows_text = show_text;
-    m_shake_area = QRect();
+    m_shake_is_alone = false;
 }
 
 void VexoLineEdit::mousePressEvent(QMouseEvent *event)
@@ -427,12 +427,11 @@ void VexoLineEdit::onShakeAnimationStep()
         return;
     }
     m_shake_timer.start(m_shake->delay());
-    const QRect area = shakeArea();
-    if (m_shake_area.isEmpty())
-        update(); // the first step also takes cursor and placeholder away
+    if (m_shake_is_alone)
+        update(m_shake_area | shakeArea());
     else
-        update(m_shake_area | area);
-    m_shake_area = area;
+        update(); // the first step also takes cursor and placeholder away
+    m_shake_is_alone = true;
 }
 
 void VexoLineEdit::ring()
@@ -627,6 +626,7 @@ void VexoLineEdit::drawSecuredTextInternal(const QColor &ink, int dx, int count)
 
 void VexoLineEdit::drawShake(const QColor &ink)
 {
+    m_shake_area = shakeArea();
     if (showsDots()) {
         drawSecuredTextInternal(ink, m_shake->offset(), m_shake_dot_count);
         return;

@@ -287,7 +287,8 @@ private:
     QString m_placeholder_rest; // what is left of the placeholder
     int m_placeholder_typed = -1; // beside a text of this length; -1: unknown
     int m_cursor_x = 0; // as painted last, px
-    QRect m_shake_area; // drawn by the step before; empty: all has to be repainted
+    QRect m_shake_area; // as painted last, whatever has changed since
+    bool m_shake_is_alone = false; // cursor and placeholder are gone
 };
 
 } // namespace vexo::hox::qt::ui

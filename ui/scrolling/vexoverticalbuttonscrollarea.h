@@ -17,6 +17,9 @@ class VexoVerticalScrollArea;
 /// between an up and a down button that page it. What a letter does is up to the application, see
 /// setButtonConnection().
 ///
+/// A handler may delete the letter that was touched; to delete the bar use deleteLater() there,
+/// since the toolkit is still at the gesture.
+///
 /// Stylesheets find the buttons by the object names "letterButton", "upButton" and "downButton".
 class HOXQUI_EXPORT VexoVerticalButtonScrollArea : public QWidget
 {

@@ -67,6 +67,7 @@ class TestVexoPushButton : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void fillsNoMoreThanItsPill();
     void imageIsPlacedInMillimetres_data();
     void imageIsPlacedInMillimetres();
     void looksFollowTheState_data();
@@ -354,6 +355,22 @@ void TestVexoPushButton::changeRepaintsOnceOrNot()
     QCOMPARE(propertiesWithoutOneRepaint(&button),
         (QByteArrayList{ "m_mm_horiz_center_distance_from_border", "m_pt_font_size",
             "m_text_mm_margin_x", "m_text_alignment", "m_right_side_text" }));
+}
+
+void TestVexoPushButton::fillsNoMoreThanItsPill()
+{
+    const PanelScale scale(10, 10); // margin 30 px, radius 30 px
+    for (const int width_px : { 1, 30, 59, 60, 61, 80, 119, 120, 121, 200 }) {
+        VexoPushButton button;
+        button.setBackgroundColor(Qt::blue);
+        button.setPenColor(Qt::blue);
+        button.resize(width_px, button.height());
+        const QRect filled = boxOf(picture(&button), Qt::blue);
+        const QRect pill(30, 30, width_px - 60, 60);
+        QVERIFY2(pill.adjusted(-1, -1, 1, 1).contains(filled) || filled.isEmpty(),
+            QByteArray::number(width_px));
+        QCOMPARE(filled.isEmpty(), width_px <= 60);
+    }
 }
 
 int main(int argc, char *argv[])

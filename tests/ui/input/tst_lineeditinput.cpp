@@ -10,10 +10,13 @@
 #include <QTextCharFormat>
 #include <QTimer>
 
+#include <functional>
+
 using namespace vexo::hox::qt::ui;
 
 namespace {
 
+using Change = std::function<void(VexoLineEdit &)>;
 using Mode = QLineEdit::EchoMode;
 
 QString told(VexoLineEdit &field, Qt::InputMethodQuery query)
@@ -53,6 +56,8 @@ int pixelsOf(QWidget &widget, const QColor &color)
 
 } // namespace
 
+Q_DECLARE_METATYPE(Change)
+
 /// What goes into a field beside setText(), and what it tells of it.
 class TestLineEditInput : public TestCase
 {
@@ -65,6 +70,8 @@ private Q_SLOTS:
     void secretDoesNotComeBack();
     void composedTextIsDrawn();
     void hiddenCursorWakesNobody();
+    void changeDuringAShakeLeavesNoGhost_data();
+    void changeDuringAShakeLeavesNoGhost();
 
 private:
     const PanelScale m_scale{ 10, 12 };
@@ -176,6 +183,50 @@ void TestLineEditInput::hiddenCursorWakesNobody()
     window.hide();
     window.show();
     QVERIFY(!timer->isActive());
+}
+
+void TestLineEditInput::changeDuringAShakeLeavesNoGhost_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::newRow("narrower") << Change([](VexoLineEdit &f) { f.resize(200, f.height()); });
+    QTest::newRow("wider") << Change([](VexoLineEdit &f) { f.resize(340, f.height()); });
+    QTest::newRow("font") << Change([](VexoLineEdit &f) { f.setPtFontSize(5); });
+    QTest::newRow("other font") << Change([](VexoLineEdit &f) { f.setFont(QFont()); });
+    QTest::newRow("radius") << Change([](VexoLineEdit &f) { f.setMmRadius(2); });
+    QTest::newRow("margin") << Change([](VexoLineEdit &f) { f.setMmMargin(QSizeF(4, 1)); });
+    QTest::newRow("offset") << Change([](VexoLineEdit &f) { f.setMmLeftOffset(4); });
+    QTest::newRow("covered in part") << Change([](VexoLineEdit &f) { f.update(0, 0, 60, 99); });
+}
+
+void TestLineEditInput::changeDuringAShakeLeavesNoGhost()
+{
+    QFETCH(Change, change);
+    for (const int variant : { 0, 1, 2, 3, 4, 5, 6, 7 }) {
+        const bool is_secret = variant & 1;
+        const bool is_centered = variant & 2;
+        const int when = variant & 4 ? 0 : 2;
+        QWidget window;
+        window.resize(360, 120);
+        VexoLineEdit field(&window);
+        field.setGeometry(10, 10, 300, field.height());
+        field.setDrawPasswordSecured(is_secret);
+        field.setDrawCentered(is_centered);
+        field.setText(QStringLiteral("1234"));
+        field.setCursorState(true);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        settle();
+        field.shake(500, 5, 10, !is_secret);
+        for (int step = 0; step < 5; ++step) {
+            if (step == when)
+                change(field);
+            if (step != 3)
+                settle();
+            QVERIFY(QMetaObject::invokeMethod(&field, "onShakeAnimationStep"));
+            settle();
+            QCOMPARE(wrongPixels(window), QRect());
+        }
+    }
 }
 
 QTEST_MAIN(TestLineEditInput)
