@@ -96,8 +96,8 @@ void TestScripts::badArgumentsGetOneLine_data()
 {
     QTest::addColumn<QString>("line");
     for (const char *line : { "benchmark --bogus", "benchmark one", "docs --bogus",
-             "docs --check --pictures", "fuzz", "fuzz --bogus", "fuzz 0", "lint --bogus",
-             "style --bogus", "test --bogus", "test x -y" })
+             "docs --check --pictures", "fuzz", "fuzz --bogus", "fuzz svg 0", "fuzz bogus 1",
+             "lint --bogus", "style --bogus", "test --bogus", "test x -y" })
         QTest::newRow(line) << QString(line);
 }
 

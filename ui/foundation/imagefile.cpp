@@ -27,19 +27,19 @@ QCache<QString, QSize> &naturalSizes()
 }
 
 // A name without a suffix stands for the first file that has one of the toolkit's.
-QString found(const QString &path)
+InputFile found(const QString &path)
 {
-    const QFileInfo info(path);
-    const bool is_name = !path.isEmpty() && !path.contains(QChar());
-    if (!is_name || !info.completeSuffix().isEmpty() || info.exists())
-        return path;
+    const InputFile file(path, ImageFile::MAX_BYTES);
+    if (file.exists() || path.isEmpty() || !QFileInfo(path).completeSuffix().isEmpty())
+        return file;
     const QList<QByteArray> suffixes = QImageReader::supportedImageFormats();
     for (const QByteArray &suffix : suffixes) {
-        const QString candidate = path + QLatin1Char('.') + QLatin1String(suffix);
-        if (QFileInfo::exists(candidate))
+        const QString name = path + QLatin1Char('.') + QLatin1String(suffix);
+        const InputFile candidate(name, ImageFile::MAX_BYTES);
+        if (candidate.exists())
             return candidate;
     }
-    return path;
+    return file;
 }
 
 QString kindKey(const QString &content_key, ImageFile::Kind kind)
@@ -50,7 +50,8 @@ QString kindKey(const QString &content_key, ImageFile::Kind kind)
 
 QString sizeKey(const QString &key, const QSize &px)
 {
-    return QStringLiteral("%1x%2 %3").arg(key).arg(px.width()).arg(px.height());
+    return key + QString::number(px.width(), 36) + QLatin1Char('x')
+        + QString::number(px.height(), 36);
 }
 
 QImage rendered(QSvgRenderer *renderer, const QSize &px)
@@ -116,7 +117,7 @@ private:
 } // namespace
 
 ImageFile::ImageFile(const QString &path, Kind kind)
-    : m_file(found(path), MAX_BYTES)
+    : m_file(found(path))
     , m_kind(kind)
     , m_key(kindKey(m_file.key(), kind))
 {

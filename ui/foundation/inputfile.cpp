@@ -26,14 +26,10 @@ QByteArray hash(const QByteArray &bytes)
 // With the search path in place of its prefix. The toolkit warns of a name that holds a 0.
 QString located(const QString &path)
 {
-    return path.contains(QChar()) ? QString() : QFileInfo(path).filePath();
-}
-
-// The bytes of the bundle itself, mostly in the program's read-only memory.
-QByteArray stored(const QResource &resource)
-{
-    return QByteArray::fromRawData(
-        reinterpret_cast<const char *>(resource.data()), int(resource.size()));
+    if (path.contains(QChar()))
+        return QString();
+    const int longest_other = 1; // a resource has none, a drive one letter
+    return path.indexOf(QLatin1Char(':')) > longest_other ? QFileInfo(path).filePath() : path;
 }
 
 // What stat() saw may have been replaced by a pipe meanwhile. Some files of the kernel pretend to
@@ -70,6 +66,8 @@ void InputFile::examineResource()
     const QResource resource(m_path);
     m_exists = resource.isValid();
     m_is_readable = resource.data() != nullptr; // a folder has none
+    m_stored = QByteArray::fromRawData(
+        reinterpret_cast<const char *>(resource.data()), int(resource.size()));
 }
 
 void InputFile::examineFile()
@@ -104,7 +102,7 @@ QString InputFile::key()
     if (!m_is_readable)
         return QString();
     if (isResource())
-        return QString::fromLatin1(hash(stored(QResource(m_path))));
+        return QString::fromLatin1(hash(m_stored));
     const time_t settling_s = 2; // time stamps are coarse: it could change once more unnoticed
     if (m_stamp[3] + settling_s < time(nullptr))
         return stampKey();
@@ -114,10 +112,8 @@ QString InputFile::key()
 
 QString InputFile::stampKey() const
 {
-    QString key;
-    for (const qint64 number : m_stamp)
-        key += QString::number(number, 36) + QLatin1Char(' ');
-    return key;
+    const auto *bytes = reinterpret_cast<const char *>(m_stamp);
+    return QString::fromLatin1(QByteArray::fromRawData(bytes, sizeof m_stamp).toBase64());
 }
 
 } // namespace vexo::hox::qt::ui

@@ -8,7 +8,7 @@ namespace vexo::hox::qt::ui {
 /// The one door for files that an application names: images, stylesheets, fonts. Search paths
 /// (QDir::setSearchPaths()) and resources are looked up as the toolkit does. Only a regular file is
 /// ever opened: a pipe would block and a device never end, and opening one can have effects of its
-/// own. Works in each thread.
+/// own. Works in each thread. Lives shorter than the bundle of a resource.
 class InputFile
 {
 public:
@@ -33,6 +33,7 @@ private:
     bool m_exists = false;
     bool m_is_readable = false;
     qint64 m_stamp[7] = {}; // of a file: what changes with its content
+    QByteArray m_stored; // of a resource, maybe compressed: the bytes of the bundle itself
     QByteArray m_bytes; // what the key was made from, for the next read()
 };
 

@@ -1,5 +1,6 @@
 #include "ui/scrolling/vexoverticalbuttonscrollarea.h"
 
+#include "ui/foundation/imagefile_p.h"
 #include "ui/foundation/press_p.h"
 #include "ui/foundation/tightlayout_p.h"
 #include "ui/scrolling/vexoverticalscrollarea.h"
@@ -164,8 +165,9 @@ void VexoVerticalButtonScrollArea::setupUi()
     outer->addWidget(m_up_button);
     outer->addWidget(m_scroll_area);
     outer->addWidget(m_down_button);
-    setUpIcon(QIcon(QStringLiteral(":widgetimages/back.svg")));
-    setDownIcon(QIcon(QStringLiteral(":widgetimages/forward.svg")));
+    const auto kind = ImageFile::Kind::Vector;
+    setUpIcon(ImageFile(QStringLiteral(":widgetimages/back.svg"), kind).icon());
+    setDownIcon(ImageFile(QStringLiteral(":widgetimages/forward.svg"), kind).icon());
     m_up_button->setObjectName(QStringLiteral("upButton"));
     m_up_button->setAccessibleName(tr("Up"));
     m_down_button->setObjectName(QStringLiteral("downButton"));
