@@ -1,15 +1,56 @@
 #include "support/propertywalk.h"
 #include "support/testcase.h"
 #include "ui/buttons/vexofunctionbutton.h"
+#include "ui/buttons/vexohorizontaltexticonbutton.h"
+#include "ui/input/vexolineedit.h"
 #include "ui/sliders/vexosliderdecoration.h"
 #include "ui/text/vexolabel.h"
 
+#include <QApplication>
 #include <QImage>
 #include <QLabel>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <functional>
+
 using namespace vexo::hox::qt::ui;
+
+namespace {
+
+using Picture = std::function<QImage(const QString &text)>;
+
+QImage grabbed(QWidget *widget)
+{
+    widget->setLayoutDirection(Qt::LeftToRight);
+    widget->resize(300, widget->height());
+    return widget->grab().toImage();
+}
+
+QImage field(const QString &text)
+{
+    VexoLineEdit field;
+    field.setText(text);
+    return grabbed(&field);
+}
+
+QImage leftText(const QString &text)
+{
+    VexoHorizontalTextIconButton row;
+    row.setLeftSideText(text);
+    return grabbed(&row);
+}
+
+QImage rightText(const QString &text)
+{
+    VexoHorizontalTextIconButton row;
+    row.setRightSideText(text);
+    return grabbed(&row);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Picture)
 
 class TestTexts : public TestCase
 {
@@ -20,6 +61,10 @@ private Q_SLOTS:
     void markupOpensNoFile_data();
     void markupOpensNoFile();
     void applicationMayAskForMarkup();
+    void tooLongTextKeepsItsBeginning_data();
+    void tooLongTextKeepsItsBeginning();
+    void directionIsThatOfTheText_data();
+    void directionIsThatOfTheText();
 
 private:
     QTemporaryDir m_folder;
@@ -67,6 +112,54 @@ void TestTexts::applicationMayAskForMarkup()
     row.getLabelInstance()->setTextFormat(Qt::RichText);
     row.setText(m_markup);
     QVERIFY(row.getLabelInstance()->sizeHint().height() >= 800);
+}
+
+void TestTexts::tooLongTextKeepsItsBeginning_data()
+{
+    QTest::addColumn<Picture>("picture");
+    QTest::addColumn<bool>("is_right_to_left");
+    for (const bool is_right_to_left : { false, true }) {
+        const char *runs = is_right_to_left ? "from the right" : "from the left";
+        QTest::addRow("line edit, %s", runs) << Picture(field) << is_right_to_left;
+        QTest::addRow("left text of a row, %s", runs) << Picture(leftText) << is_right_to_left;
+        QTest::addRow("right text of a row, %s", runs) << Picture(rightText) << is_right_to_left;
+    }
+}
+
+void TestTexts::tooLongTextKeepsItsBeginning()
+{
+    QFETCH(Picture, picture);
+    QFETCH(bool, is_right_to_left);
+    const QChar thin = is_right_to_left ? QChar(0x5d5) : QLatin1Char('i');
+    const QChar wide = is_right_to_left ? QChar(0x5e9) : QLatin1Char('m');
+    const QString text(200, thin);
+    QString other_beginning = text;
+    other_beginning[0] = wide;
+    QString other_end = text;
+    other_end[199] = wide;
+    QVERIFY(picture(text) != picture(other_beginning));
+    QVERIFY(picture(text) == picture(other_end));
+}
+
+void TestTexts::directionIsThatOfTheText_data()
+{
+    QTest::addColumn<Picture>("picture");
+    QTest::newRow("line edit") << Picture(field);
+    QTest::newRow("left text of a row") << Picture(leftText);
+    QTest::newRow("right text of a row") << Picture(rightText);
+}
+
+// Whatever the direction of the application is, also where that changes later.
+void TestTexts::directionIsThatOfTheText()
+{
+    QFETCH(Picture, picture);
+    const QString text = QStringLiteral("(1) a.");
+    const QImage expected = picture(text);
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    const QImage later = picture(text);
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    QVERIFY(later == expected);
+    QVERIFY(picture(QChar(0x200f) + text) != expected);
 }
 
 QTEST_MAIN(TestTexts)

@@ -4,6 +4,7 @@
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/textblock_p.h"
 
+#include <QGuiApplication>
 #include <QPainterPath>
 #include <QPixmapCache>
 #include <QStylePainter>
@@ -237,6 +238,7 @@ void VexoKeyboardButton::drawLabel(QPainter *painter, const QRect &cap, bool is_
     const QRectF inside = QRectF(cap).adjusted(corner_px, edge_px, -corner_px, -edge_px);
     painter->setPen(is_dark ? m_text_clicked_color : m_text_color);
     painter->setFont(m_button_font);
+    m_label->setDirection(QGuiApplication::layoutDirection());
     m_label->draw(painter, cap, text(), Qt::AlignCenter, { m_cap_ground, inside });
 }
 

@@ -1,5 +1,6 @@
 #include "ui/foundation/textblock_p.h"
 
+#include "ui/foundation/glyphextent_p.h"
 #include "ui/foundation/pixels_p.h"
 
 #include <QFontMetricsF>
@@ -21,6 +22,30 @@ QString drawnCharacters(QString text)
     return text.replace(QLatin1Char('\n'), QChar::LineSeparator);
 }
 
+const Qt::Alignment not_left = Qt::AlignRight | Qt::AlignHCenter | Qt::AlignJustify;
+
+Qt::Alignment atRight(Qt::Alignment alignment)
+{
+    return (alignment & ~Qt::AlignLeft) | Qt::AlignRight | Qt::AlignAbsolute;
+}
+
+// One below the other, as in a static text. Returns the width that they cover together, px.
+double layOutLines(QTextLayout *layout, double width)
+{
+    const double leading = QFontMetricsF(layout->font()).leading();
+    QRectF covered;
+    double y = 0;
+    layout->beginLayout();
+    for (QTextLine line = layout->createLine(); line.isValid(); line = layout->createLine()) {
+        line.setLineWidth(width);
+        line.setPosition(QPointF(0, y));
+        y += line.height() + leading;
+        covered |= line.naturalTextRect();
+    }
+    layout->endLayout();
+    return covered.width();
+}
+
 } // namespace
 
 bool TextBlock::Look::operator==(const Look &other) const
@@ -29,11 +54,18 @@ bool TextBlock::Look::operator==(const Look &other) const
         && ratio == other.ratio;
 }
 
-TextBlock::TextBlock(QTextOption::WrapMode wrap_mode, Qt::LayoutDirection direction)
+TextBlock::TextBlock(QTextOption::WrapMode wrap_mode)
     : m_wrap_mode(wrap_mode)
-    , m_direction(direction)
 {
     m_text.setTextFormat(Qt::PlainText);
+}
+
+void TextBlock::setDirection(Qt::LayoutDirection direction)
+{
+    if (m_direction == direction)
+        return;
+    m_direction = direction;
+    m_source.clear(); // lays out anew
 }
 
 void TextBlock::draw(QPainter *painter, const QRectF &area, const QString &text,
@@ -44,7 +76,7 @@ void TextBlock::draw(QPainter *painter, const QRectF &area, const QString &text,
     if (!isLaidOut(painter->font(), area.width(), text, alignment))
         layOut(painter->font(), area.width(), text, alignment);
     if (!m_is_static || m_height > area.height()) {
-        painter->drawText(area, text, option(alignment));
+        painter->drawText(area, text, option(m_begins_right ? atRight(alignment) : alignment));
         return;
     }
     QPointF position = area.topLeft();
@@ -83,31 +115,17 @@ void TextBlock::layOut(
     m_text.prepare(QTransform(), font);
     // A static text counts the leading of its last line, drawText() does not.
     m_height = m_text.size().height() - qMax(0.0, QFontMetricsF(font).leading());
-    const QRectF lines = coveredByLines();
+    QTextLayout layout(m_text.text(), font);
+    layout.setTextOption(m_text.textOption());
+    const double widest = layOutLines(&layout, width);
     // drawText() cuts the ends of a line that is too long, and has ways of its own to justify and
     // to place the blanks at the ends of lines that it finds to run from right to left.
-    const bool is_turned = m_direction == Qt::LayoutDirectionAuto && text.isRightToLeft();
-    m_is_static = lines.width() <= width && !(alignment & Qt::AlignJustify) && !is_turned;
-    // Letters may reach a little beyond their lines, accents also above and below.
-    const int beside = font.pixelSize() / 3;
-    const int above = 2;
-    m_extent = lines.toAlignedRect().adjusted(-beside, -above, beside, above);
+    const bool is_turned = m_direction == Qt::RightToLeft
+        || (m_direction == Qt::LayoutDirectionAuto && text.isRightToLeft());
+    m_is_static = widest <= width && !(alignment & Qt::AlignJustify) && !is_turned;
+    m_begins_right = widest > width && is_turned && !(alignment & not_left);
+    m_extent = glyphExtent(layout).toAlignedRect();
     m_prints.forget();
-}
-
-QRectF TextBlock::coveredByLines() const
-{
-    QRectF covered;
-    QTextLayout layout(m_text.text(), m_font);
-    layout.setTextOption(m_text.textOption());
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(m_text.textWidth());
-        covered |= line.naturalTextRect();
-    }
-    layout.endLayout();
-    covered.setHeight(m_text.size().height());
-    return covered;
 }
 
 QTextOption TextBlock::option(Qt::Alignment alignment) const

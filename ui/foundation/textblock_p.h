@@ -4,7 +4,6 @@
 
 #include <QColor>
 #include <QFont>
-#include <QGuiApplication>
 #include <QRectF>
 #include <QStaticText>
 
@@ -24,9 +23,10 @@ public:
         QRectF area;
     };
 
-    /// With Qt::LayoutDirectionAuto a text runs as its first letters do.
-    explicit TextBlock(QTextOption::WrapMode wrap_mode = QTextOption::WordWrap,
-        Qt::LayoutDirection direction = QGuiApplication::layoutDirection());
+    explicit TextBlock(QTextOption::WrapMode wrap_mode = QTextOption::WordWrap);
+
+    /// Default Qt::LayoutDirectionAuto: a text runs as its first letters do.
+    void setDirection(Qt::LayoutDirection direction);
 
     /// Draws \a text into \a area in the painter's font and pen. Lays out anew only when text,
     /// font, alignment or the width of the area have changed since the last call; but a text that
@@ -52,18 +52,18 @@ private:
     bool isLaidOut(
         const QFont &font, double width, const QString &text, Qt::Alignment alignment) const;
     void layOut(const QFont &font, double width, const QString &text, Qt::Alignment alignment);
-    QRectF coveredByLines() const;
     QTextOption option(Qt::Alignment alignment) const;
     bool canPrint(const QPainter &painter, const QRect &place, const Ground &ground) const;
     Print print(const Look &look) const;
 
     const QTextOption::WrapMode m_wrap_mode;
-    const Qt::LayoutDirection m_direction;
+    Qt::LayoutDirection m_direction = Qt::LayoutDirectionAuto;
     QString m_source;
     QFont m_font;
     Qt::Alignment m_alignment;
     QStaticText m_text;
     bool m_is_static = false; // drawn from m_text
+    bool m_begins_right = false; // and is too long, so its left end is cut
     double m_height = 0; // px
     QRect m_extent; // px, what the letters cover
     PrintPair<Look> m_prints;

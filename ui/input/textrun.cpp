@@ -1,6 +1,7 @@
 #include "ui/input/textrun_p.h"
 
-#include <QGlyphRun>
+#include "ui/foundation/glyphextent_p.h"
+
 #include <QTextOption>
 
 #include <algorithm>
@@ -30,8 +31,9 @@ void TextRun::set(const QString &text, const QFont &font, const Formats &formats
         return;
     m_text = text;
     m_font = font;
-    QTextOption option(Qt::AlignLeft);
+    QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
     option.setWrapMode(QTextOption::NoWrap);
+    option.setTextDirection(Qt::LayoutDirectionAuto); // that of the text, not of the application
     m_layout.setTextOption(option);
     m_layout.setFont(font);
     m_layout.setText(singleLine(text));
@@ -55,13 +57,7 @@ QRectF TextRun::inkRect(const QRectF &rect, Qt::Alignment alignment) const
 {
     if (m_layout.lineCount() == 0)
         return QRectF();
-    const QTextLine line = m_layout.lineAt(0);
-    QRectF ink(0, 0, line.horizontalAdvance(), line.height());
-    const QList<QGlyphRun> runs = m_layout.glyphRuns();
-    for (const QGlyphRun &run : runs)
-        ink |= run.boundingRect();
-    const double slant = line.height() / 4; // not in the rectangles of slanted letters
-    return ink.translated(topLeft(rect, alignment)).adjusted(-slant, -2, slant, 2);
+    return glyphExtent(m_layout).translated(topLeft(rect, alignment));
 }
 
 QPointF TextRun::topLeft(const QRectF &rect, Qt::Alignment alignment) const

@@ -21,6 +21,8 @@ public:
     void set(const QString &text, const QFont &font, const Formats &formats = Formats());
     /// What the text moves on by, px, as QFontMetrics tells it.
     int advance() const { return m_advance; }
+    /// Whether it runs from right to left, as its first letters do.
+    bool isTurned() const { return m_text.isRightToLeft(); }
     /// With the painter's pen; \a alignment tells Qt::AlignHCenter from left.
     void draw(QPainter *painter, const QRectF &rect, Qt::Alignment alignment) const;
     /// What draw() touches, marks far above and below the line included.

@@ -483,6 +483,7 @@ QRectF VexoLineEdit::textRect(int advance, int placeholder_advance, int dx) cons
 {
     const int indent = pxX(*m_scaling, m_cursor_mm_indent);
     const int offset = pxX(*m_scaling, m_left_offset_mm);
+    const double inset = finitePx(m_scaling->mm2px_X(float(m_mm_radius))) + m_px_margin.x();
     const QLabel *const label = m_leading_action ? m_leading_label.data() : nullptr;
     double x = dx;
     if (m_draw_centered) {
@@ -495,8 +496,10 @@ QRectF VexoLineEdit::textRect(int advance, int placeholder_advance, int dx) cons
     } else if (label) {
         x += label->x() + pxX(*m_scaling, m_mm_leading_icon_size.width()) + offset;
     } else {
-        x += finitePx(m_scaling->mm2px_X(float(m_mm_radius))) + m_px_margin.x() + offset;
+        x += inset + offset;
     }
+    if (!m_draw_centered && m_text_run->isTurned()) // one that is too long keeps its beginning
+        x = qMin(x, dx + width() - inset - advance);
     return QRectF(x, m_px_margin.y(), advance, height() - 2 * m_px_margin.y());
 }
 

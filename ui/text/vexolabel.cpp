@@ -19,7 +19,7 @@ VexoLabel::VexoLabel(const QString &text, QWidget *parent)
     , m_scaling(ScalingInfo::inst())
     , m_visible_buddies(new VisibleBuddies)
     , m_px_indent(m_scaling->mm2px_X(3.0F))
-    , m_text(std::make_unique<TextBlock>(QTextOption::WordWrap, Qt::LayoutDirectionAuto))
+    , m_text(std::make_unique<TextBlock>(QTextOption::WordWrap))
 {
     setupUi();
     setText(text);

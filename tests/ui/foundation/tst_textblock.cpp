@@ -16,6 +16,9 @@ class TestTextBlock : public TestCase
 private Q_SLOTS:
     void looksAsDrawTextDoes_data();
     void looksAsDrawTextDoes();
+    void cutsNoLetter_data();
+    void cutsNoLetter();
+    void runsAsItsTextOrAsItIsTold();
 };
 
 namespace {
@@ -69,13 +72,66 @@ void TestTextBlock::looksAsDrawTextDoes()
         QTextOption turning(alignment);
         turning.setTextDirection(Qt::LayoutDirectionAuto);
         for (const QTextOption &option : { plain, unwrapped, turning }) {
-            TextBlock block(option.wrapMode(), option.textDirection());
+            TextBlock block(option.wrapMode());
+            block.setDirection(option.textDirection());
             for (int px : { 13, 13, 24 }) { // the second time everything is laid out
                 const QImage expected = drawn(text, px, option);
                 QCOMPARE(drawn(text, px, option, &block), expected);
                 QCOMPARE(drawn(text, px, option, &block, { Qt::white, whole_image }), expected);
             }
         }
+    }
+}
+
+void TestTextBlock::cutsNoLetter_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<double>("pt"); // 0: in px
+    QTest::addColumn<int>("px");
+    for (const int px : { 20, 45, 60, 90 })
+        QTest::addRow("stacked accents of %d px", px)
+            << QStringLiteral("\u1EA8\u1EBE\u1EB0") << 0.0 << px;
+    QTest::newRow("overhang, in px") << "jf" << 0.0 << 60;
+    QTest::newRow("overhang, in pt") << "jf" << 45.0 << 0;
+    QTest::newRow("marks below") << QStringLiteral("\u1E71\u1E3D\u0328\u0323") << 30.0 << 0;
+}
+
+// Of what is kept together with its ground.
+void TestTextBlock::cutsNoLetter()
+{
+    QFETCH(QString, text);
+    QFETCH(double, pt);
+    QFETCH(int, px);
+    QFont font(FontLoader::loadFont(":/fonts/UniversNextW1G-Bold.otf"));
+    if (pt > 0)
+        font.setPointSizeF(pt);
+    else
+        font.setPixelSize(px);
+    for (const bool is_italic : { false, true }) {
+        font.setItalic(is_italic);
+        QImage images[2] = { QImage(500, 400, QImage::Format_RGB32), QImage() };
+        images[0].fill(Qt::white);
+        images[1] = images[0];
+        const TextBlock::Ground grounds[] = { {}, { Qt::white, QRectF(images[0].rect()) } };
+        for (int i = 0; i < 2; ++i) {
+            QPainter painter(&images[i]);
+            painter.setFont(font);
+            TextBlock().draw(&painter, images[i].rect(), text, Qt::AlignCenter, grounds[i]);
+        }
+        QVERIFY(images[0] == images[1]);
+    }
+}
+
+void TestTextBlock::runsAsItsTextOrAsItIsTold()
+{
+    const QString brackets = QStringLiteral("(1) a");
+    TextBlock block(QTextOption::NoWrap);
+    QTextOption option(Qt::AlignLeft);
+    option.setWrapMode(QTextOption::NoWrap);
+    for (const auto direction : { Qt::LayoutDirectionAuto, Qt::RightToLeft, Qt::LeftToRight }) {
+        option.setTextDirection(direction);
+        block.setDirection(direction);
+        QVERIFY(drawn(brackets, 20, option, &block) == drawn(brackets, 20, option));
     }
 }
 

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QRectF>
+
+class QTextLayout;
+
+namespace vexo::hox::qt::ui {
+
+/// What the letters of \a layout cover: accents reach above and below their lines, letters beside.
+QRectF glyphExtent(const QTextLayout &layout);
+
+} // namespace vexo::hox::qt::ui
