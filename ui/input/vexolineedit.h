@@ -108,8 +108,8 @@ class HOXQUI_EXPORT VexoLineEdit // clazy:exclude=copyable-polymorphic
     /// Text height, pt. Default 9.0. Negative is ignored.
     Q_PROPERTY(double m_pt_font_size READ ptFontSize WRITE setPtFontSize)
     /// Draws a dot per character, and neither cursor nor placeholder. Default false. The echo mode
-    /// follows, so that nothing else tells the text either; what was typed cannot be undone. An echo
-    /// mode that is not Normal hides the text all the same; NoEcho draws no dots.
+    /// follows, so that nothing else tells the text either; what was typed cannot be undone. An
+    /// echo mode that is not Normal hides the text all the same; NoEcho draws no dots.
     Q_PROPERTY(
         bool m_draw_password_secured READ isDrawedPasswordSecured WRITE setDrawPasswordSecured)
     /// Centres text, cursor and placeholder. Default false.

@@ -59,13 +59,13 @@ void TestVisibleBuddies::followsInTheOrderOfAdding()
     }
     buddies.add(&last);
     buddies.add(&first);
-    buddies.setVisible(&owner, true, [] { });
+    buddies.setVisible(&owner, true, [] {});
     QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+ c+ a+"));
-    buddies.setVisible(&owner, false, [] { });
+    buddies.setVisible(&owner, false, [] {});
     QVERIFY(first.isHidden() && last.isHidden());
     calls.clear();
     buddies.clear();
-    buddies.setVisible(&owner, true, [] { });
+    buddies.setVisible(&owner, true, [] {});
     QCOMPARE(calls, QStringList());
 }
 
@@ -84,9 +84,9 @@ void TestVisibleBuddies::listMayChangeDuringARound()
         buddies.clear();
         buddies.add(&added);
     };
-    buddies.setVisible(&owner, true, [] { });
+    buddies.setVisible(&owner, true, [] {});
     QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+"));
-    buddies.setVisible(&owner, true, [] { });
+    buddies.setVisible(&owner, true, [] {});
     QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+ x+"));
 }
 
@@ -98,7 +98,7 @@ void TestVisibleBuddies::ownerMayGoDuringARound()
     auto buddies = std::make_unique<VisibleBuddies>();
     buddies->add(&buddy);
     buddy.then = [&](bool) { buddies.reset(); };
-    buddies->setVisible(&owner, true, [] { });
+    buddies->setVisible(&owner, true, [] {});
     QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+"));
 }
 
@@ -111,8 +111,8 @@ void TestVisibleBuddies::mutualBuddiesMakeOneRound()
     VisibleBuddies of_right;
     of_left.add(&right);
     of_right.add(&left);
-    left.then = [&](bool visible) { of_left.setVisible(&left, visible, [] { }); };
-    right.then = [&](bool visible) { of_right.setVisible(&right, visible, [] { }); };
+    left.then = [&](bool visible) { of_left.setVisible(&left, visible, [] {}); };
+    right.then = [&](bool visible) { of_right.setVisible(&right, visible, [] {}); };
     left.setVisible(true);
     QVERIFY(!left.isHidden() && !right.isHidden());
     QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("l+ r+ l+"));
