@@ -69,7 +69,7 @@ class HOXQUI_EXPORT VexoFunctionButton // clazy:exclude=copyable-polymorphic
 
 public:
     /// What is at the right, and what a tap does.
-    enum VexoFunctionButtonType {
+    enum VexoFunctionButtonType : int {
         CheckboxType, ///< a VexoCheckBox, which it toggles
         ActionType, ///< an arrow; clicks
         RadiobuttonType, ///< a VexoRadioButton, which it chooses
