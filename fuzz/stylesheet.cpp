@@ -16,6 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     QApplication &app = application();
     app.setStyleSheet(QString());
     QWidget screen;
+    screen.setFixedSize(640, 480);
     auto *layout = new QVBoxLayout(&screen);
     for (int i = 0; i < 5; ++i) {
         layout->addWidget(new QPushButton(QStringLiteral("button")));
