@@ -26,6 +26,39 @@ int bytesPerPixel(QImage::Format format)
         : (QImage::toPixelFormat(format).bitsPerPixel() + 7) / 8;
 }
 
+quint32 number(const QByteArray &bytes, int pos, int size)
+{
+    quint32 value = 0;
+    while (--size >= 0)
+        value = value << 8 | (pos + size < bytes.size() ? uchar(bytes.at(pos + size)) : 0);
+    return value;
+}
+
+// A GIF is decoded onto a canvas whose size stands in its head; the size that is told is its
+// picture's.
+QSize canvas(const QByteArray &gif)
+{
+    return QSize(int(number(gif, 6, 2)), int(number(gif, 8, 2)));
+}
+
+// An icon file tells sizes of its own for the pictures within, in bytes and in pixels.
+bool isHarmlessIcon(const QByteArray &icon)
+{
+    const int head = 6;
+    const int entry = 16;
+    const int count = int(number(icon, 4, 2));
+    for (int i = 0; i < count; ++i) {
+        if (number(icon, head + i * entry + 8, 4) > quint32(icon.size()))
+            return false;
+    }
+    const QByteArray png = "\x89PNG\r\n\x1a\n";
+    for (int pos = icon.indexOf(png); pos >= 0; pos = icon.indexOf(png, pos + 1)) {
+        if (decodedBytes(QByteArray::fromRawData(icon.constData() + pos, icon.size() - pos)) < 0)
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 qint64 decodedBytes(const QByteArray &bitmap)
@@ -40,8 +73,11 @@ qint64 decodedBytes(const QByteArray &bitmap)
     // The size of a vector is found out by drawing it.
     if (format.startsWith("svg") || (format == "jpeg" && !hasFewPasses(bitmap)))
         return -1;
-    const QSize px = reader.size();
-    if (!ImageFile::isHoldable(px))
+    QSize px = reader.size();
+    if (format == "gif")
+        px = px.expandedTo(canvas(bitmap));
+    const bool is_icon = format == "ico" || format == "cur";
+    if (!ImageFile::isHoldable(px) || (is_icon && !isHarmlessIcon(bitmap)))
         return -1;
     return qint64(px.width()) * px.height() * bytesPerPixel(reader.imageFormat());
 }

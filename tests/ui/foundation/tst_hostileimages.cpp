@@ -241,6 +241,13 @@ void TestHostileImages::addMany()
     addWritten("100000 letters.svg", svg("<text>" + many(100000, "a ") + "</text>"));
     addWritten("escapes.svg", svg("<g style='" + many(300000, "\\41 ") + "'/>"));
     addWritten("endless.jpeg", endlessJpeg());
+    addWritten("small on a large canvas.gif",
+        QByteArray::fromHex("474946383961 3075 3075 000000 2c 00000000 0200 0200 00 02 00 3b"));
+    addWritten("large in a small icon.ico",
+        QByteArray::fromHex("000001000100 02020000 0100 2000 00000100 16000000")
+            + png(15000, 15000));
+    addWritten("1.6 GB in a small icon.ico",
+        QByteArray::fromHex("000001000100 02020000 0100 2000 4e78da63 16000000") + png(2, 2));
 }
 
 /// What no file can be read from, as itself and as the picture in a vector.
