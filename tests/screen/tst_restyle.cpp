@@ -3,12 +3,15 @@
 #include "support/propertywalk.h"
 #include "support/testcase.h"
 #include "ui/buttons/vexofunctionbutton.h"
+#include "ui/buttons/vexoiconbutton.h"
+#include "ui/buttons/vexopushbutton.h"
 #include "ui/foundation/vexostylesheet.h"
 #include "ui/text/vexolabeledcontainer.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
+#include <QPainter>
 #include <QRandomGenerator>
 #include <QVBoxLayout>
 
@@ -172,6 +175,17 @@ QString Screen::changeMember()
     }
 }
 
+/// A button of an application that paints itself.
+template <typename Button>
+class Painted : public Button
+{
+public:
+    using Button::Button;
+
+protected:
+    void paintEvent(QPaintEvent *) override { QPainter(this).fillRect(0, 0, 9, 9, Qt::red); }
+};
+
 } // namespace
 
 class TestRestyle : public TestCase
@@ -183,6 +197,7 @@ private Q_SLOTS:
     void sheetMayChangeAfterAScreenWasClosed();
     void paletteReachesPartsOfAWidget();
     void arrowOfARowTakesPaddingFromASheet();
+    void sheetGivesGroundToWhatPaintsItself();
     void screenShowsWhatARepaintWouldPaint();
 };
 
@@ -254,6 +269,23 @@ void TestRestyle::arrowOfARowTakesPaddingFromASheet()
     qApp->setStyleSheet(QString());
     settle();
     QCOMPARE(arrow->size(), bare);
+}
+
+void TestRestyle::sheetGivesGroundToWhatPaintsItself()
+{
+    const ApplicationLook look;
+    qApp->setStyleSheet(
+        QStringLiteral("QAbstractButton { background: #80c0ff; border-radius: 2px; }"));
+    QWidget screen;
+    Painted<VexoIconButton> icon_button(&screen);
+    Painted<VexoPushButton> push_button(&screen);
+    screen.show();
+    for (QWidget *button : QWidgetList{ &icon_button, &push_button }) {
+        button->setFixedSize(60, 60);
+        const QImage image = button->grab().toImage();
+        QCOMPARE(image.pixelColor(20, 20), QColor(0x80, 0xc0, 0xff));
+        QCOMPARE(image.pixelColor(0, 0), QColor(Qt::red));
+    }
 }
 
 // Takes another number of changes from the environment variable HOXQ_CHANGES.

@@ -286,9 +286,7 @@ Print RowLabel::print(const QColor &ground)
 
 void RowLabel::paintAnew(QPaintEvent *event)
 {
-    QPainter painter(this);
-    m_styled_background.draw(&painter, this);
-    painter.end();
+    m_styled_background.draw(this);
     QLabel::paintEvent(event);
 }
 

@@ -43,7 +43,7 @@ void StyledBackground::notice(QWidget *widget, const QEvent &event)
     }
 }
 
-void StyledBackground::draw(QPainter *painter, const QWidget *widget)
+void StyledBackground::draw(QWidget *widget)
 {
     if (widget->testAttribute(Qt::WA_StyledBackground))
         return; // drawn already
@@ -57,8 +57,10 @@ void StyledBackground::draw(QPainter *painter, const QWidget *widget)
         if (isStyled(option, widget))
             m_styled_looks |= look;
     }
-    if (m_styled_looks & look)
-        widget->style()->drawPrimitive(QStyle::PE_Widget, &option, painter, widget);
+    if (!(m_styled_looks & look))
+        return;
+    QPainter painter(widget);
+    widget->style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, widget);
 }
 
 // Most sheets have no rule for the background, yet asking them costs at each paint.

@@ -9,17 +9,17 @@ class QWidget;
 
 namespace vexo::hox::qt::ui {
 
-/// The background and border that a stylesheet gives a widget. The toolkit draws them before each
-/// paint with a painter of its own, which costs more than the rest of a small button; this draws
-/// them with the widget's painter, and not at all where the sheet has no rule for them.
+/// The background and border that a stylesheet gives a widget. The toolkit asks the sheet for them
+/// before each paint, which costs more than the rest of a small button; this asks once per look,
+/// and draws nothing where the sheet has no rule for them.
 class StyledBackground
 {
 public:
     /// Reports each \a event of \a widget, before its class handles it; the polish of a frame or
     /// label once more afterwards, since it hands the background back to the toolkit.
     void notice(QWidget *widget, const QEvent &event);
-    /// Draws with \a painter, which the paint of \a widget has just begun.
-    void draw(QPainter *painter, const QWidget *widget);
+    /// Called for each paint event of \a widget, before paintEvent(): a subclass may have its own.
+    void draw(QWidget *widget);
 
 private:
     bool isStyled(const QStyleOption &option, const QWidget *widget) const;

@@ -45,6 +45,8 @@ void VexoIconButton::initialize(const QString &state)
 bool VexoIconButton::event(QEvent *event)
 {
     m_styled_background->notice(this, *event);
+    if (event->type() == QEvent::Paint)
+        m_styled_background->draw(this);
     return ActiveVectorButton::event(event);
 }
 
@@ -71,7 +73,6 @@ void VexoIconButton::mouseMoveEvent(QMouseEvent *event)
 void VexoIconButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    m_styled_background->draw(&painter, this);
     QIcon shown;
     if ((isChecked() || isDown()) && m_can_background_color_change) {
         shown = takePressedLook(&painter);

@@ -150,7 +150,8 @@ void VexoKeyboardButton::paintEvent(QPaintEvent *)
     if (!shown.isNull())
         painter.drawItemPixmap(
             cap, Qt::AlignCenter, shown.pixmap(iconSize(), QIcon::Normal, QIcon::Off));
-    drawLabel(&painter, cap, is_dark);
+    // The ground that is kept with the letters would hide an icon below them.
+    drawLabel(&painter, cap, is_dark, shown.isNull() ? m_cap_ground : QColor());
 }
 
 QRect VexoKeyboardButton::capRect() const
@@ -231,7 +232,8 @@ void VexoKeyboardButton::drawEdges(QPainter *painter, const QRect &cap) const
     painter->drawLine(truncated(double(left)), below, truncated(double(right)), below);
 }
 
-void VexoKeyboardButton::drawLabel(QPainter *painter, const QRect &cap, bool is_dark)
+void VexoKeyboardButton::drawLabel(
+    QPainter *painter, const QRect &cap, bool is_dark, const QColor &ground)
 {
     const int edge_px = 2;
     const double corner_px = double(m_corner_radius_x);
@@ -239,7 +241,7 @@ void VexoKeyboardButton::drawLabel(QPainter *painter, const QRect &cap, bool is_
     painter->setPen(is_dark ? m_text_clicked_color : m_text_color);
     painter->setFont(m_button_font);
     m_label->setDirection(QGuiApplication::layoutDirection());
-    m_label->draw(painter, cap, text(), Qt::AlignCenter, { m_cap_ground, inside });
+    m_label->draw(painter, cap, text(), Qt::AlignCenter, { ground, inside });
 }
 
 } // namespace vexo::hox::qt::ui

@@ -127,7 +127,7 @@ private:
     QPixmap renderCap(const QColor &ground) const;
     void drawCap(QPainter *painter, const QColor &ground) const;
     void drawEdges(QPainter *painter, const QRect &cap) const;
-    void drawLabel(QPainter *painter, const QRect &cap, bool is_dark);
+    void drawLabel(QPainter *painter, const QRect &cap, bool is_dark, const QColor &ground);
 
     const ScalingInfo *const m_scaling;
     QFont m_button_font;

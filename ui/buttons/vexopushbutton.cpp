@@ -334,6 +334,8 @@ void VexoPushButton::setVisible(bool visible)
 bool VexoPushButton::event(QEvent *event)
 {
     m_styled_background->notice(this, *event);
+    if (event->type() == QEvent::Paint)
+        m_styled_background->draw(this);
     return QPushButton::event(event);
 }
 
@@ -371,7 +373,6 @@ void VexoPushButton::paintEvent(QPaintEvent *)
     const QPixmap image = shownImage(); // may throw, so before a painter is active
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    m_styled_background->draw(&painter, this);
     QRectF inside(0, 0, width(), height());
     if (m_draw_button_border)
         inside.adjust(

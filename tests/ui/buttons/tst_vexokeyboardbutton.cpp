@@ -5,6 +5,7 @@
 
 #include <VexoKeyboardButton>
 
+#include <QApplication>
 #include <QMetaProperty>
 #include <QTest>
 
@@ -55,6 +56,8 @@ private Q_SLOTS:
     void cornersAreRoundInMillimetres();
     void iconIsRenderedAtTheCommonSize_data();
     void iconIsRenderedAtTheCommonSize();
+    void labelLeavesItsIconSeen();
+    void directionIsThatOfTheApplication();
     void heightIsFixed();
     void changeRepaintsOnceAndShows();
 
@@ -177,6 +180,46 @@ void TestVexoKeyboardButton::iconIsRenderedAtTheCommonSize()
     QCOMPARE(key.iconSize(), px.isValid() ? px : before); // until it is rendered anew
     key.rerenderAll(false);
     QCOMPARE(key.iconSize(), QSize(20, 40));
+}
+
+void TestVexoKeyboardButton::labelLeavesItsIconSeen()
+{
+    const auto ink = [this](const QString &text) {
+        VexoKeyboardButton key;
+        dress(&key);
+        key.setTextColor(Qt::black);
+        key.addIcon(DEFAULT, m_files.svg(Qt::blue));
+        key.setText(text);
+        int count = 0;
+        const QImage image = picture(&key);
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                count += image.pixelColor(x, y) == QColor(Qt::blue);
+        }
+        return count;
+    };
+    const int bare = ink(QString());
+    QVERIFY(bare > 0);
+    QVERIFY(ink(QStringLiteral("i")) > bare / 2);
+}
+
+// Of now, not of when the key was made.
+void TestVexoKeyboardButton::directionIsThatOfTheApplication()
+{
+    const auto made = [](VexoKeyboardButton *key) {
+        dress(key);
+        key->setText(QStringLiteral("(a) b."));
+        return picture(key);
+    };
+    VexoKeyboardButton before;
+    const QImage left_to_right = made(&before);
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    VexoKeyboardButton after;
+    const QImage right_to_left = made(&after);
+    const QImage later = made(&before);
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    QVERIFY(right_to_left != left_to_right);
+    QVERIFY(later == right_to_left);
 }
 
 void TestVexoKeyboardButton::heightIsFixed()
