@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # What every target is compiled with. Warnings are errors for our own code; the options are given
 # to a target with hoxq_compile(target), so that generated code of others stays outside.
 set(CMAKE_CXX_STANDARD 17)

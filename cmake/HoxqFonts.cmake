@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The font files of the bundle. Any face of the same role can stand in: give its path with
 # -DHOXQ_FONT_LIGHT=… and so on.
 function(hoxq_font variable default package)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Forwarding headers: applications write #include <ScalingInfo>.
 #   hoxq_forward(out folder Class...)  appends the files to the list out
 function(hoxq_forward out folder)

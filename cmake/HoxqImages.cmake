@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The toolkit reads the indicator, knob and inverted logo images as bitmaps.
 # They are drawn as SVG like all others and rendered here, pixel for unit, with
 # a program of the build machine (also when cross compiling).

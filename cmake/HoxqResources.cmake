@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The three resource bundles. Sets font_resources and makes the object library hoxqui_resources;
 # both are to be listed first in the library, in this order.
 include(HoxqImages)

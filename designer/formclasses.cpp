@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "designer/formclasses.h"
 
 #include "designer/dress.h"

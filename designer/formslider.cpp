@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "designer/formslider.h"
 
 #include <QMetaProperty>

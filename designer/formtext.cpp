@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "designer/formtext.h"
 
 #include "designer/formclasses.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Writes the comments of the classes and properties in HEADERS to OUTPUT, one line each:
 # { "VexoLabel", "text_color", "Text. Default C3." }, and that of the class itself beside "".
 set(declaration "((///[^\n]*\n)+)(class [A-Z]+_EXPORT|Q_PROPERTY\\(\n?[A-Za-z:]+) ([A-Za-z_]+)")

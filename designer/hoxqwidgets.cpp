@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "designer/hoxqwidgets.h"
 
 #include "designer/formclasses.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "designer/portrait.h"
 
 #include "designer/formclass.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "docs/snippets/placing.cpp"
 
 #define main runFirstPanel

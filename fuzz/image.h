@@ -1,4 +1,5 @@
 #pragma once
+// SPDX-License-Identifier: MIT
 
 #include "fuzz/target.h"
 #include "ui/foundation/imagefile_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Checks the properties with the files named as arguments, without a fuzzer.
 
 #include <cstdint>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Properties of StringUtil that hold for each input. One that does not hold ends the process.
 
 #include "util/stringutil.h"

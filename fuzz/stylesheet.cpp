@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Properties of a stylesheet file: it is read and applied to a screen in time, and what cannot be
 // applied leaves the sheets before and after it as they are.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/mainwindow.h"
 
 #include "gallery/measures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/options.h"
 
 #include "gallery/pagelist.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/pagelist.h"
 
 #include "gallery/pages/busyanimationpage.h"

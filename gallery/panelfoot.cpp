@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/panelfoot.h"
 
 #include "gallery/measures.h"

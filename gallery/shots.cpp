@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/shots.h"
 
 #include "gallery/mainwindow.h"

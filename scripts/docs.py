@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Writes the pages of docs/classes from the headers, the list of images, and the code in the pages
 that are written by hand, or with --check compares; see scripts/docs."""
 

@@ -1,4 +1,5 @@
 # shellcheck shell=bash
+# SPDX-License-Identifier: MIT
 # Sourced by the scripts beside it: starts in the root of the tree, shows the help when asked for
 # it, says what goes on, builds.
 set -euo pipefail
@@ -79,7 +80,7 @@ build_error() {
 
 # The comment at the head of the script is its help.
 case ${1:-} in -h | --help)
-    sed -n '2,/^[^#]/s/^# \{0,1\}//p' "$NAME"
+    sed -n '/SPDX-/d;2,/^[^#]/s/^# \{0,1\}//p' "$NAME"
     exit
     ;;
 esac

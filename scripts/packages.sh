@@ -1,4 +1,5 @@
 # shellcheck shell=bash
+# SPDX-License-Identifier: MIT
 # Sourced by the scripts beside it: which Debian packages each purpose needs, and need_packages,
 # which installs those that are missing.
 

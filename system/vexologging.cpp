@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "system/vexologging.h"
 
 #include <QLoggingCategory>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Inline functions of the public headers, written out as symbols: an application that was built
 // against headers which only declare them links, too. The compiler is told to keep them (see
 // CMakeLists.txt); calls through the headers stay inline.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "benchmarks/operations/operations.h"
 #include "benchmarks/operations/panel.h"
 

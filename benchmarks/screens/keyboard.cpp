@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "benchmarks/support/screen.h"
 
 #include <QGridLayout>

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Cross build for 64-bit Arm with Debian's g++-aarch64-linux-gnu. HOXQ_ARM64_SYSROOT in the
 # environment names the panel's root file system with Qt's development files; the tests run under
 # qemu-aarch64 (package qemu-user).

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What docs/placing.md shows; docs/pictures.cpp renders it.
 #include <CachedVectorIcon>
 #include <ScalingInfo>

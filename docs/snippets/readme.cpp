@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <Panel>
 #include <ScalingInfo>
 #include <VexoPushButton>

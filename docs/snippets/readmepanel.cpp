@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <Panel>
 
 using namespace vexo::hox::qt::ui;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/pages/busyanimationpage.h"
 
 #include "gallery/measures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/pages/headlinespage.h"
 
 #include "gallery/measures.h"

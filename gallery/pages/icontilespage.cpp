@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/pages/icontilespage.h"
 
 #include "gallery/measures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/pages/listspage.h"
 
 #include "gallery/measures.h"

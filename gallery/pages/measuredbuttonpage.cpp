@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/pages/measuredbuttonpage.h"
 
 #include "gallery/measures.h"

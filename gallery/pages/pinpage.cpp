@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/pages/pinpage.h"
 
 #include "gallery/measures.h"

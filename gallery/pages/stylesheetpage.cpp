@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/pages/stylesheetpage.h"
 
 #include "gallery/measures.h"

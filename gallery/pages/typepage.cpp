@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/pages/typepage.h"
 
 #include "gallery/measures.h"

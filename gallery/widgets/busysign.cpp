@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/widgets/busysign.h"
 
 #include "gallery/measures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/widgets/fieldentry.h"
 
 #include "gallery/widgets/keyboard.h"

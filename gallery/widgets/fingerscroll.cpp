@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/widgets/fingerscroll.h"
 
 #include "gallery/measures.h"

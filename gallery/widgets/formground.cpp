@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/widgets/formground.h"
 
 #include "gallery/measures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/widgets/framedground.h"
 
 #include <VexoColors>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/widgets/keyboard.h"
 
 #include "gallery/measures.h"

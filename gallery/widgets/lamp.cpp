@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/widgets/lamp.h"
 
 #include "gallery/measures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/widgets/plainbutton.h"
 
 #include <QStyleFactory>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/widgets/plainslider.h"
 
 #include "gallery/widgets/plainbutton.h"

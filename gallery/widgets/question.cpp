@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/widgets/question.h"
 
 #include "gallery/measures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/widgets/rowlist.h"
 
 #include "gallery/widgets/ground.h"

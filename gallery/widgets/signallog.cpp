@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/widgets/signallog.h"
 
 #include "gallery/measures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/widgets/tilelayout.h"
 
 TileLayout::TileLayout(int column_width, const QSize &gap)

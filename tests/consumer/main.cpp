@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <CachedVectorIcon>
 #include <FontLoader>
 #include <MeasuredPushButton>

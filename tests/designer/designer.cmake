@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 foreach(module IN ITEMS Designer DesignerComponents UiPlugin UiTools)
   find_package(Qt5${module} 5.15 REQUIRED)
 endforeach()

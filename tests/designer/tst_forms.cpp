@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/propertywalk.h"
 #include "support/testcase.h"
 #include "ui_everywidget.h"

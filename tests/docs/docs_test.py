@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """What scripts/docs.py makes of a header: python3 -B tests/docs/docs_test.py"""
 
 import sys

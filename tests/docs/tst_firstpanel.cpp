@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #define main runFirstPanel
 #include "examples/first-panel/main.cpp"
 #undef main

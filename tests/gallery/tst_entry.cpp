@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/expose.h"
 #include "gallery/keys.h"
 #include "gallery/pages/loginpage.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/keys.h"
 #include "support/testcase.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/expose.h"
 #include "gallery/pages/formpage.h"
 #include "gallery/pages/listspage.h"

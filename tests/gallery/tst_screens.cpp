@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallery/expose.h"
 #include "gallery/pages/busyanimationpage.h"
 #include "gallery/pages/headlinespage.h"

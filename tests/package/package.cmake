@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Tests of what an application gets: the tree as it is installed, in a folder of the build tree.
 set(stage ${CMAKE_CURRENT_BINARY_DIR}/stage)
 add_test(NAME install COMMAND ${CMAKE_COMMAND} -DBUILD=${PROJECT_BINARY_DIR} -DSTAGE=${stage}

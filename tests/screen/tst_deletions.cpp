@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/onscreen.h"
 #include "support/testcase.h"
 #include "ui/buttons/measuredpushbutton.h"

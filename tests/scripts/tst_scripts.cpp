@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "package/process.h"
 
 #include <QDir>

@@ -1,4 +1,5 @@
 #pragma once
+// SPDX-License-Identifier: MIT
 
 #include <QColor>
 #include <QDateTime>

@@ -1,4 +1,5 @@
 #pragma once
+// SPDX-License-Identifier: MIT
 
 #include "support/emissions.h"
 #include "support/touchsubjects.h"

@@ -1,4 +1,5 @@
 #pragma once
+// SPDX-License-Identifier: MIT
 
 /// The clock of a test: from start() on it moves only as it is told, and by a little at each look.
 /// So what the toolkit times, as its scroller does, is the same on each machine, and waiting takes

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/buttons/activevectorbutton.h"
 
 #include "ui/foundation/cachedvectoricon.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/buttons/easyaccessbutton.h"
 
 #include <QtGlobal>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/buttons/rowaccessible_p.h"
 
 #include "ui/buttons/vexofunctionbutton.h"

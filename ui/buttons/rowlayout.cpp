@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/buttons/rowlayout_p.h"
 
 #include "ui/buttons/rowlabel_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/buttons/vexocenteredvectorbutton.h"
 
 #include "ui/buttons/vexoiconbutton.h"

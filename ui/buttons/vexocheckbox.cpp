@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/buttons/vexocheckbox.h"
 
 #include "ui/buttons/tone_p.h"

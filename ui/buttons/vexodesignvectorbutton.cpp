@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/buttons/vexodesignvectorbutton.h"
 
 #include "ui/foundation/panelfont_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/buttons/vexofeedbackdelegator.h"
 
 namespace vexo::hox::qt::ui {

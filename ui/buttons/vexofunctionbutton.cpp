@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/buttons/vexofunctionbutton.h"
 
 #include "ui/buttons/rowaccessible_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/buttons/vexohorizontaltexticonbutton.h"
 
 #include "ui/foundation/accessible_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/buttons/vexoiconbutton.h"
 
 #include "ui/buttons/styledbackground_p.h"

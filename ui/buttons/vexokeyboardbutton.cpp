@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/buttons/vexokeyboardbutton.h"
 
 #include "ui/foundation/cachedvectoricon.h"

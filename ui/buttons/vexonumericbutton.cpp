@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/buttons/vexonumericbutton.h"
 
 #include "ui/buttons/vexoiconbutton.h"

@@ -1,4 +1,5 @@
 #pragma once
+// SPDX-License-Identifier: MIT
 
 #include "system/vexologging.h"
 #include "ui/buttons/buttonstate.h"

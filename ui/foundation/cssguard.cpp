@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/foundation/cssguard_p.h"
 
 namespace vexo::hox::qt::ui {

@@ -1,4 +1,5 @@
 #pragma once
+// SPDX-License-Identifier: MIT
 
 #include "ui/foundation/inputfile_p.h"
 

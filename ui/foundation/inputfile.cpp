@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/foundation/inputfile_p.h"
 
 #include <QCryptographicHash>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/foundation/mmsheet_p.h"
 
 #include "ui/foundation/pixels_p.h"

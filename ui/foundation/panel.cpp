@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/foundation/panel.h"
 
 #include "ui/foundation/fontloader.h"

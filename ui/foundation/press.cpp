@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/foundation/press_p.h"
 
 #include "ui/foundation/touchwatch_p.h"

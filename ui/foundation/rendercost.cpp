@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/foundation/rendercost_p.h"
 
 #include <QPaintEngine>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/foundation/scalinginfo.h"
 
 #include "ui/foundation/pixels_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/foundation/svgguard_p.h"
 
 #include "ui/foundation/bitmapguard_p.h"

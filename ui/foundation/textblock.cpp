@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/foundation/textblock_p.h"
 
 #include "ui/foundation/glyphextent_p.h"

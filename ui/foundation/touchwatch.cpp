@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/foundation/touchwatch_p.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/foundation/vexocolors.h"
 
 namespace vexo::hox::qt::ui {

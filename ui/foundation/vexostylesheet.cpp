@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/foundation/vexostylesheet.h"
 
 #include "ui/foundation/cssguard_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/foundation/visiblebuddies_p.h"
 
 #include <QScopeGuard>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/input/composedtext_p.h"
 
 #include <QInputMethodEvent>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/input/lineeditaccessible_p.h"
 
 #include "ui/foundation/accessible_p.h"

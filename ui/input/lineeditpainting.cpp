@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where things lie and how they are drawn; the rest of the class is in vexolineedit.cpp.
 #include "ui/input/vexolineedit.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/input/secretdots_p.h"
 
 #include "ui/foundation/pixels_p.h"

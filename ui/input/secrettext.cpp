@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/input/secrettext_p.h"
 
 #include <QLineEdit>

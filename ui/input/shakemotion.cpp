@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/input/shakemotion_p.h"
 
 #include <QtMath>

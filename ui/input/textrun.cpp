@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/input/textrun_p.h"
 
 #include "ui/foundation/glyphextent_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/input/vexolineedit.h"
 
 #include "ui/buttons/vexofeedbackdelegator.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/scrolling/opaquerows_p.h"
 
 #include "ui/buttons/vexofunctionbutton.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/scrolling/vexoverticalscrollcontent.h"
 
 #include "ui/foundation/tightlayout_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/sliders/slideraccessible_p.h"
 
 #include "ui/foundation/accessible_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/sliders/vexosliderdecoration.h"
 
 #include "ui/foundation/accessible_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/text/logo_p.h"
 
 #include "ui/foundation/imagefile_p.h"

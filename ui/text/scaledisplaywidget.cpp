@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/text/scaledisplaywidget.h"
 
 #include "ui/foundation/panelfont_p.h"

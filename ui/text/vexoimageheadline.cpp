@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/text/vexoimageheadline.h"
 
 #include "ui/foundation/cachedvectoricon.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/text/vexolabel.h"
 
 #include "ui/foundation/panelfont_p.h"

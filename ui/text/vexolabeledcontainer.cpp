@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/text/vexolabeledcontainer.h"
 
 #include "ui/foundation/accessible_p.h"

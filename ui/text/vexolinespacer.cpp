@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/text/vexolinespacer.h"
 
 #include "ui/foundation/pixels_p.h"

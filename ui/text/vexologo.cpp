@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/text/vexologo.h"
 
 #include "ui/foundation/imagefile_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/text/vexotextenumeration.h"
 
 #include "ui/foundation/panelfont_p.h"

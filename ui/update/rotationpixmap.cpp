@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/update/rotationpixmap.h"
 
 #include "ui/foundation/imagefile_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/video/videoarea.h"
 
 #include "util/stringutil.h"

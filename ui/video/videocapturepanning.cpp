@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/video/videocapturepanning.h"
 
 #include "ui/foundation/press_p.h"

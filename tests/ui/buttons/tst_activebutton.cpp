@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/colorbutton.h"
 #include "support/testcase.h"
 #include "support/virtualclock.h"

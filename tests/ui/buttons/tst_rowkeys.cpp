@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/testcase.h"
 #include "support/touch.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/iconfiles.h"
 #include "support/panelscale.h"
 #include "support/testcase.h"

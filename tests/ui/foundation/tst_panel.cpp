@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/foundation/scalecheck_p.h"
 
 #include "support/panelscale.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/effort.h"
 #include "support/testcase.h"
 

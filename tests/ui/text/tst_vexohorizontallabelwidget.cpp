@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/panelscale.h"
 #include "support/testcase.h"
 
