@@ -10,8 +10,6 @@
 #include <QAccessible>
 #include <QLabel>
 #include <QLayout>
-#include <QScrollArea>
-#include <QScroller>
 #include <QTest>
 
 using namespace vexo::hox::qt::ui;
@@ -74,8 +72,6 @@ private Q_SLOTS:
     void typeMayChangeInAnyState_data();
     void typeMayChangeInAnyState();
     void mayChangeAndBeDeletedInSignals();
-    void endedPressDoesNotClick();
-    void scrollerTakesAPressBack();
     void textIsWrappedInItsRow();
     void textIsMeasuredLikeAnyLabel_data();
     void textIsMeasuredLikeAnyLabel();
@@ -276,52 +272,6 @@ void TestVexoFunctionButton::mayChangeAndBeDeletedInSignals()
             QCOMPARE(row.property("m_button_type").toInt(), type == 4 && !of_part ? 4 : next);
             QCOMPARE(row.isDown(), row.isChecked());
         }
-    }
-}
-
-void TestVexoFunctionButton::endedPressDoesNotClick()
-{
-    QWidget window;
-    LoudRow row(Row::ActionType, &window);
-    window.show();
-    QByteArray log;
-    record(&row, &log);
-    for (const bool hides : { false, true }) {
-        finger(&row, QEvent::MouseButtonPress, INSIDE);
-        finger(&row, QEvent::MouseMove, INSIDE * 3);
-        row.setVisible(!hides);
-        row.setEnabled(hides);
-        QVERIFY(!row.isDown());
-        row.setEnabled(true);
-        touch(&row); // the move is forgotten
-        QVERIFY(log.endsWith("clicked 0; "));
-    }
-}
-
-// In one leap, so that the row sees none of the moves.
-void TestVexoFunctionButton::scrollerTakesAPressBack()
-{
-    for (const Type type : { Row::ActionType, Row::CheckboxType, Row::FullsizeRadiobuttonType }) {
-        QScrollArea area;
-        auto *list = new QWidget;
-        list->setFixedSize(400, 2000);
-        LoudRow row(type, list);
-        area.setWidget(list);
-        area.show();
-        QScroller::grabGesture(area.viewport(), QScroller::LeftMouseButtonGesture);
-        QScroller *scroller = QScroller::scroller(area.viewport());
-        QScrollerProperties properties = scroller->scrollerProperties();
-        properties.setScrollMetric(QScrollerProperties::MousePressEventDelay, 0.001);
-        scroller->setScrollerProperties(properties);
-        QByteArray log;
-        record(&row, &log);
-        finger(&row, QEvent::MouseButtonPress, INSIDE);
-        QTRY_COMPARE(log, QByteArray("pressed; "));
-        finger(&row, QEvent::MouseMove, INSIDE - QPoint(0, 100));
-        QCOMPARE(scroller->state(), QScroller::Dragging);
-        finger(&row, QEvent::MouseButtonRelease, INSIDE - QPoint(0, 100));
-        QCOMPARE(log, QByteArray("pressed; "));
-        QVERIFY(!row.isDown() && !row.getButtonInstance()->isChecked());
     }
 }
 
