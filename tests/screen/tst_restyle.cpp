@@ -280,10 +280,13 @@ void TestRestyle::sheetGivesGroundToWhatPaintsItself()
     QWidget screen;
     Painted<VexoIconButton> icon_button(&screen);
     Painted<VexoPushButton> push_button(&screen);
+    push_button.move(100, 0);
+    screen.resize(200, 100);
     screen.show();
     for (QWidget *button : QWidgetList{ &icon_button, &push_button }) {
         button->setFixedSize(60, 60);
-        const QImage image = button->grab().toImage();
+        // Of the window: the toolkit fills what is grabbed alone with the colour of its palette.
+        const QImage image = screen.grab(button->geometry()).toImage();
         QCOMPARE(image.pixelColor(20, 20), QColor(0x80, 0xc0, 0xff));
         QCOMPARE(image.pixelColor(0, 0), QColor(Qt::red));
     }
