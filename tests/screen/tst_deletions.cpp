@@ -7,11 +7,14 @@
 #include "ui/buttons/vexopushbutton.h"
 #include "ui/input/vexolineedit.h"
 #include "ui/scrolling/vexoverticalbuttonscrollarea.h"
+#include "ui/scrolling/vexoverticalscrollarea.h"
+#include "ui/text/vexohorizontallabelwidget.h"
 #include "ui/text/vexolabel.h"
 #include "ui/text/vexolabeledcontainer.h"
 
 #include <QAction>
 #include <QPointer>
+#include <QPushButton>
 
 #include <functional>
 
@@ -63,9 +66,12 @@ private Q_SLOTS:
     void ownerOfBuddiesMayGoWhileItIsHidden_data();
     void ownerOfBuddiesMayGoWhileItIsHidden();
     void textOfARowMayGo();
+    void textOfALabelWidgetMayGo();
     void actionAtASideMayGo_data();
     void actionAtASideMayGo();
     void jumpBarMayGoInItsLetter();
+    void columnOfAJumpBarMayGo_data();
+    void columnOfAJumpBarMayGo();
 };
 
 void TestDeletions::ownerOfBuddiesMayGoWhileItIsHidden_data()
@@ -111,6 +117,34 @@ void TestDeletions::textOfARowMayGo()
     settle();
     QCOMPARE(wrongPixels(window), QRect());
     QCOMPARE(row.text(), QString());
+}
+
+void TestDeletions::textOfALabelWidgetMayGo()
+{
+    QWidget window;
+    window.resize(200, 100);
+    VexoHorizontalLabelWidget row(&window);
+    row.setLeftLabelMmWidth(5);
+    row.setRightLabelMmWidth(5);
+    window.show();
+    settle();
+    delete row.leftLabel();
+    QCOMPARE(row.leftLabel(), nullptr);
+    row.setLeftLabelText(QStringLiteral("gone"));
+    row.setRightLabelText(QStringLiteral("there"));
+    row.setTextColor(Qt::red);
+    row.setPtFontSize(8);
+    row.setMmIndent(2);
+    row.setLeftLabelMmWidth(7);
+    row.setMmHeight(5);
+    settle();
+    QCOMPARE(wrongPixels(window), QRect());
+    QCOMPARE(row.rightLabel()->text(), QStringLiteral("there"));
+    QCOMPARE(row.rightLabel()->height(), row.height());
+    delete row.rightLabel();
+    row.setRightLabelText(QStringLiteral("gone"));
+    row.setRightLabelMmWidth(7);
+    row.setBackgroundColor(Qt::blue);
 }
 
 void TestDeletions::actionAtASideMayGo_data()
@@ -169,6 +203,35 @@ void TestDeletions::jumpBarMayGoInItsLetter()
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(30, 150));
     QTRY_VERIFY(!bar);
     settle();
+}
+
+void TestDeletions::columnOfAJumpBarMayGo_data()
+{
+    QTest::addColumn<bool>("is_area");
+    QTest::newRow("the scroll area") << true;
+    QTest::newRow("its content") << false;
+}
+
+void TestDeletions::columnOfAJumpBarMayGo()
+{
+    QFETCH(bool, is_area);
+    QWidget window;
+    window.resize(100, 400);
+    VexoVerticalButtonScrollArea bar(&window);
+    bar.resize(60, 400);
+    window.show();
+    settle();
+    if (is_area)
+        delete bar.verticalScrollArea();
+    else
+        delete bar.verticalScrollArea()->takeWidget();
+    QCOMPARE(bar.verticalScrollArea() == nullptr, is_area);
+    bar.setType(VexoVerticalButtonScrollArea::Numbers);
+    bar.setButtonConnection(&bar, [] {});
+    bar.findChild<QPushButton *>(QStringLiteral("downButton"))->click();
+    QCOMPARE(bar.findChildren<QPushButton *>(QStringLiteral("letterButton")).size(), 0);
+    settle();
+    QCOMPARE(wrongPixels(window), QRect());
 }
 
 QTEST_MAIN(TestDeletions)

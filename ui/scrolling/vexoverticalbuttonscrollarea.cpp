@@ -66,10 +66,13 @@ void VexoVerticalButtonScrollArea::setType(VexoVerticalButtonScrollAreaType type
 
 void VexoVerticalButtonScrollArea::addButton(const QString &text)
 {
+    QLayout *column = this->column();
+    if (!column)
+        return;
     auto *button = new JumpButton(tr(text.toUtf8().constData()));
     button->setFixedSize(button_px, button_px);
     button->setObjectName(QStringLiteral("letterButton"));
-    m_scroll_area->widget()->layout()->addWidget(button);
+    column->addWidget(button);
 }
 
 void VexoVerticalButtonScrollArea::addAlphabeticButtons(bool with_hash)
@@ -105,8 +108,8 @@ void VexoVerticalButtonScrollArea::addScrollAreaContent()
 
 void VexoVerticalButtonScrollArea::removeScrollAreaContent()
 {
-    QLayout *column = m_scroll_area->widget()->layout();
-    while (column->count() > 0) {
+    QLayout *column = this->column();
+    while (column && column->count() > 0) {
         const std::unique_ptr<QLayoutItem> item(column->takeAt(0));
         delete item->widget();
     }
@@ -115,11 +118,16 @@ void VexoVerticalButtonScrollArea::removeScrollAreaContent()
 void VexoVerticalButtonScrollArea::setButtonConnection(
     QObject *receiver, std::function<void()> handler) // NOLINT(performance-unnecessary-value-param)
 {
-    if (!receiver || !handler)
+    if (!receiver || !handler || !m_scroll_area)
         return;
     const QList<QPushButton *> buttons = m_scroll_area->findChildren<QPushButton *>();
     for (QPushButton *button : buttons)
         connect(button, &QPushButton::clicked, receiver, handler);
+}
+
+VexoVerticalScrollArea *VexoVerticalButtonScrollArea::verticalScrollArea() const
+{
+    return m_scroll_area;
 }
 
 void VexoVerticalButtonScrollArea::setUpIcon(const QIcon &icon)
@@ -152,8 +160,16 @@ void VexoVerticalButtonScrollArea::onDownButtonClicked()
 
 void VexoVerticalButtonScrollArea::page(int px)
 {
+    if (!m_scroll_area)
+        return;
     QScrollBar *bar = m_scroll_area->verticalScrollBar();
     bar->setValue(bar->value() + px);
+}
+
+// Null when an application, which is handed the scroll area, deleted it or what it shows.
+QLayout *VexoVerticalButtonScrollArea::column() const
+{
+    return m_scroll_area && m_scroll_area->widget() ? m_scroll_area->widget()->layout() : nullptr;
 }
 
 void VexoVerticalButtonScrollArea::setupUi()

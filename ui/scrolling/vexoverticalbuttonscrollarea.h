@@ -4,6 +4,7 @@
 #include "ui/hoxqui_export.h"
 
 #include <QIcon>
+#include <QPointer>
 #include <QWidget>
 
 #include <functional>
@@ -76,8 +77,9 @@ public:
     void setDownIcon(const QIcon &icon);
     /// Shows or hides the up and the down button.
     void setNavigationButtonVisibility(bool visible);
-    /// The column, which belongs to the bar.
-    VexoVerticalScrollArea *verticalScrollArea() const { return m_scroll_area; }
+    /// The column, which belongs to the bar; null once it was deleted. Then, and while another
+    /// content without a layout is set on it, buttons are neither added nor removed.
+    VexoVerticalScrollArea *verticalScrollArea() const;
 
 private Q_SLOTS:
     void onUpButtonClicked();
@@ -86,8 +88,9 @@ private Q_SLOTS:
 private:
     void setupUi();
     void page(int px);
+    QLayout *column() const;
 
-    VexoVerticalScrollArea *const m_scroll_area;
+    const QPointer<VexoVerticalScrollArea> m_scroll_area;
     QPushButton *const m_up_button;
     QPushButton *const m_down_button;
     QIcon m_up_icon;

@@ -6,7 +6,6 @@
 #include "ui/foundation/tightlayout_p.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 
 namespace vexo::hox::qt::ui {
 
@@ -31,13 +30,15 @@ VexoHorizontalLabelWidget::VexoHorizontalLabelWidget(QWidget *parent)
 void VexoHorizontalLabelWidget::setLeftLabelText(const QString &text)
 {
     m_left_text = text;
-    m_left_label->setText(text);
+    if (m_left_label)
+        m_left_label->setText(text);
 }
 
 void VexoHorizontalLabelWidget::setRightLabelText(const QString &text)
 {
     m_right_text = text;
-    m_right_label->setText(text);
+    if (m_right_label)
+        m_right_label->setText(text);
 }
 
 void VexoHorizontalLabelWidget::setTextColor(const QColor &color)
@@ -55,7 +56,8 @@ void VexoHorizontalLabelWidget::setBackgroundColor(const QColor &color)
 void VexoHorizontalLabelWidget::setPtFontSize(int pt)
 {
     m_pt_font_size = pt;
-    for (QLabel *label : { m_left_label, m_right_label }) {
+    const QVector<QLabel *> labels = this->labels();
+    for (QLabel *label : labels) {
         QFont font = label->font();
         setPtSize(font, pt);
         label->setFont(font);
@@ -66,28 +68,32 @@ void VexoHorizontalLabelWidget::setMmIndent(double mm)
 {
     m_mm_indent = mm;
     const int indent_px = pxX(*m_scaling, mm);
-    m_left_label->setIndent(indent_px);
-    m_right_label->setIndent(indent_px);
+    const QVector<QLabel *> labels = this->labels();
+    for (QLabel *label : labels)
+        label->setIndent(indent_px);
 }
 
 void VexoHorizontalLabelWidget::setLeftLabelMmWidth(double mm)
 {
     m_left_label_mm_width = mm;
-    m_left_label->setFixedWidth(widgetPx(pxX(*m_scaling, mm)));
+    if (m_left_label)
+        m_left_label->setFixedWidth(widgetPx(pxX(*m_scaling, mm)));
 }
 
 void VexoHorizontalLabelWidget::setRightLabelMmWidth(double mm)
 {
     m_right_label_mm_width = mm;
-    m_right_label->setFixedWidth(widgetPx(pxX(*m_scaling, mm)));
+    if (m_right_label)
+        m_right_label->setFixedWidth(widgetPx(pxX(*m_scaling, mm)));
 }
 
 void VexoHorizontalLabelWidget::setMmHeight(double mm)
 {
     m_mm_height = mm;
     const int height_px = widgetPx(pxY(*m_scaling, mm));
-    m_left_label->setFixedHeight(height_px);
-    m_right_label->setFixedHeight(height_px);
+    const QVector<QLabel *> labels = this->labels();
+    for (QLabel *label : labels)
+        label->setFixedHeight(height_px);
     setFixedHeight(height_px);
 }
 
@@ -96,7 +102,8 @@ void VexoHorizontalLabelWidget::setStyleSheetFromColors() const
 {
     const QString sheet = QStringLiteral("QLabel {color: %1;background: %2;}")
                               .arg(rgb(m_text_color), rgb(m_background_color));
-    for (QLabel *label : { m_left_label, m_right_label }) {
+    const QVector<QLabel *> labels = this->labels();
+    for (QLabel *label : labels) {
         if (label->styleSheet() != sheet)
             label->setStyleSheet(sheet);
     }
@@ -120,6 +127,14 @@ void VexoHorizontalLabelWidget::setupUi()
     m_right_label->setWordWrap(true);
     m_left_label->setObjectName(QStringLiteral("leftLabel"));
     m_right_label->setObjectName(QStringLiteral("rightLabel"));
+}
+
+// Those that are left: an application is handed them, and may delete one.
+QVector<QLabel *> VexoHorizontalLabelWidget::labels() const
+{
+    QVector<QLabel *> labels{ m_left_label, m_right_label };
+    labels.removeAll(nullptr);
+    return labels;
 }
 
 } // namespace vexo::hox::qt::ui

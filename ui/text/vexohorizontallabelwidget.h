@@ -3,10 +3,9 @@
 
 #include "ui/foundation/vexocolors.h"
 
-#include <QString>
-#include <QWidget>
-
-class QLabel;
+#include <QLabel>
+#include <QPointer>
+#include <QVector>
 
 namespace vexo::hox::qt::ui {
 
@@ -51,18 +50,19 @@ public:
     void setRightLabelMmWidth(double mm);
     void setMmHeight(double mm);
 
-    /// Named "leftLabel", owned by the row.
+    /// Named "leftLabel", owned by the row; null once it was deleted, which the setters tolerate.
     QLabel *leftLabel() const { return m_left_label; }
-    /// Named "rightLabel", owned by the row.
+    /// Named "rightLabel", otherwise as the left one.
     QLabel *rightLabel() const { return m_right_label; }
     /// Gives both labels a stylesheet of the two colours. The setters of the colours do it.
     void setStyleSheetFromColors() const;
 
 private:
     void setupUi();
+    QVector<QLabel *> labels() const;
 
-    QLabel *const m_left_label;
-    QLabel *const m_right_label;
+    const QPointer<QLabel> m_left_label;
+    const QPointer<QLabel> m_right_label;
     const ScalingInfo *const m_scaling;
     QString m_left_text;
     QString m_right_text;
