@@ -77,33 +77,43 @@ bool OpaqueRows::isOpaque(const QWidget &widget)
 
 QRegion OpaqueRows::bare(const QRegion &area) const
 {
-    const QRegion bare = besideRows(area);
-    return bare.isEmpty() ? bare : besideChildren(bare);
+    return area.isEmpty() || isHiddenByRows(area.boundingRect()) ? QRegion() : besideChildren(area);
 }
 
 // Of hundreds of rows, which lie below each other, a few must be looked at.
-QRegion OpaqueRows::besideRows(const QRegion &area) const
+bool OpaqueRows::isHiddenByRows(const QRect &area) const
 {
-    const QRect around = area.boundingRect();
     const QLayout *rows = m_content->layout();
     const int count = rows ? rows->count() : 0;
+    int hidden_to = area.top();
+    for (int i = firstRow(area.top()); i < count; ++i) {
+        const QWidget *row = rows->itemAt(i)->widget();
+        if (!row || row->isHidden() || row->parentWidget() != m_content)
+            continue;
+        const QRect place = row->geometry();
+        const bool is_wide = place.left() <= area.left() && place.right() >= area.right();
+        if (!is_wide || place.top() > hidden_to || !isOpaque(*row))
+            return false;
+        hidden_to = qMax(hidden_to, place.bottom() + 1);
+        if (hidden_to > area.bottom())
+            return true;
+    }
+    return false;
+}
+
+// Of those that reach below \a top.
+int OpaqueRows::firstRow(int top) const
+{
+    const QLayout *rows = m_content->layout();
     int first = 0;
-    for (int beyond = count; first < beyond;) {
+    for (int beyond = rows ? rows->count() : 0; first < beyond;) {
         const int middle = (first + beyond) / 2;
-        if (rows->itemAt(middle)->geometry().bottom() < around.top())
+        if (rows->itemAt(middle)->geometry().bottom() < top)
             first = middle + 1;
         else
             beyond = middle;
     }
-    QRegion bare = area;
-    for (int i = first; i < count && !bare.isEmpty(); ++i) {
-        const QWidget *row = rows->itemAt(i)->widget();
-        if (row && row->y() > around.bottom())
-            break;
-        if (row && row->parentWidget() == m_content && isOpaque(*row))
-            bare -= row->geometry();
-    }
-    return bare;
+    return first;
 }
 
 QRegion OpaqueRows::besideChildren(const QRegion &area) const
