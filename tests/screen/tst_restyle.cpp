@@ -258,6 +258,7 @@ private Q_SLOTS:
     void changeIsHeardOnceWithTheNewSheet_data();
     void changeIsHeardOnceWithTheNewSheet();
     void changeLeavesClassesTheirFonts();
+    void changeLeavesClassesTheirColours();
     void changeLeavesAWidgetItsStyle();
 };
 
@@ -465,6 +466,15 @@ void TestRestyle::changeLeavesClassesTheirFonts()
     QCOMPARE(QApplication::font("QMenu").pixelSize(), 33);
 }
 
+void TestRestyle::changeLeavesClassesTheirColours()
+{
+    const ApplicationLook look;
+    qApp->setStyleSheet(sheets().at(2));
+    QApplication::setPalette(QPalette(Qt::red), "QMenu");
+    setSheet(sheets().at(4));
+    QCOMPARE(QApplication::palette("QMenu").color(QPalette::Button), QColor(Qt::red));
+}
+
 void TestRestyle::changeLeavesAWidgetItsStyle()
 {
     const ApplicationLook look;
@@ -473,11 +483,13 @@ void TestRestyle::changeLeavesAWidgetItsStyle()
     QWidget screen;
     QLabel label(QStringLiteral("text"), &screen);
     label.setStyle(style.get());
+    for (int i = 0; i < 20; ++i)
+        new QLabel(&screen); // most of a screen has the application's
     screen.show();
     settle();
     setSheet(QStringLiteral("QLabel { padding: 9px; }"));
     settle();
-    QVERIFY(label.sizeHint().height() > 18 + label.fontMetrics().height() - 1);
+    QCOMPARE(label.sizeHint().height(), 2 * 9 + label.fontMetrics().height());
 }
 
 QTEST_MAIN(TestRestyle)
