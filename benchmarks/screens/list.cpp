@@ -7,11 +7,13 @@
 
 #ifdef HOXQ_BENCHMARK_LIBRARY
 #include <VexoFunctionButton>
+#include <VexoRuler>
 #include <VexoVerticalScrollArea>
 #include <VexoVerticalScrollContent>
 #elif defined(HOXQ_BENCHMARK_ITEMS)
 #include <QListWidget>
 #else
+#include <QFrame>
 #include <QPushButton>
 #include <QScrollArea>
 #endif
@@ -41,12 +43,15 @@ QAbstractScrollArea *makeList()
         auto *row = new VexoFunctionButton(nullptr, VexoFunctionButton::ActionType);
         row->setText(title(i));
         content->layout()->addWidget(row);
+        content->layout()->addWidget(new VexoRuler);
     }
     list->setWidget(content);
     return list;
 }
 
 #else
+
+const int separator_px = 2; // a dark line above a light one
 
 QString arrow()
 {
@@ -76,7 +81,7 @@ QAbstractScrollArea *makeList()
     for (int i = 0; i < row_count; ++i) {
         auto *item = new QListWidgetItem(icon, title(i), list);
         item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter); // turned round: left
-        item->setSizeHint(QSize(0, 98));
+        item->setSizeHint(QSize(0, 98 + separator_px));
     }
     return list;
 }
@@ -96,6 +101,9 @@ QAbstractScrollArea *makeList()
         auto *row = new QPushButton(title(i));
         row->setFixedHeight(98);
         column->addWidget(row);
+        auto *separator = new QFrame;
+        separator->setFixedHeight(separator_px);
+        column->addWidget(separator);
     }
     list->setWidget(content);
     return list;
@@ -149,8 +157,10 @@ QString stockStyleSheet()
         "QPushButton { border: none; color: #3c3c3c; padding: 0 30px; text-align: left;"
         " font: 500 31px; background: #f5f5f5; image: url(%1); image-position: right; }"
         "QPushButton:pressed { color: white; background: #505050; }"
-        "QListView { background: #f5f5f5; font: 500 31px; }"
-        "QListView::item { color: #3c3c3c; background: #f5f5f5; padding: 0 30px; }"
+        ".QFrame { background: white; border-top: 1px solid #c8c8c8; }"
+        "QListView { background: #f5f5f5; border: none; font: 500 31px; }"
+        "QListView::item { color: #3c3c3c; background: #f5f5f5; padding: 0 30px;"
+        " border-top: 1px solid white; border-bottom: 1px solid #c8c8c8; }"
         "QListView::item:selected { color: white; background: #505050; }")
         .arg(arrow());
 }

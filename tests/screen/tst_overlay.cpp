@@ -7,6 +7,7 @@
 #include "ui/scrolling/vexoverticalscrollarea.h"
 #include "ui/scrolling/vexoverticalscrollcontent.h"
 #include "ui/text/vexolabel.h"
+#include "ui/text/vexoruler.h"
 
 #include <QApplication>
 #include <QRandomGenerator>
@@ -69,7 +70,9 @@ QWidget *Crowd::makeMember()
 {
     const QString text = QStringLiteral("%1 of the many").arg(m_count++);
     QWidget *member = nullptr;
-    if (m_with_rows && (!m_with_labels || number(2) == 0)) {
+    if (m_with_rows && number(5) == 0) {
+        member = new VexoRuler(m_content);
+    } else if (m_with_rows && (!m_with_labels || number(2) == 0)) {
         auto *row = new VexoFunctionButton(m_content, VexoFunctionButton::ActionType);
         row->setText(text);
         member = row;
@@ -114,9 +117,12 @@ QString Crowd::changeMember()
         const QString text = QStringLiteral("text %1").arg(number(99));
         if (auto *row = qobject_cast<VexoFunctionButton *>(member))
             row->setText(text);
+        else if (auto *label = qobject_cast<VexoLabel *>(member))
+            label->setText(text);
         else
-            static_cast<VexoLabel *>(member)->setText(text);
-        return QStringLiteral("set text");
+            static_cast<VexoRuler *>(member)->setRulerStyle(
+                number(2) ? VexoRuler::Transparent : VexoRuler::MainMiddle);
+        return QStringLiteral("set text or lines");
     }
     }
 }

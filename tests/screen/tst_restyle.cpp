@@ -11,11 +11,16 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFile>
 #include <QLabel>
 #include <QPainter>
 #include <QRandomGenerator>
+#include <QScopeGuard>
+#include <QStyle>
+#include <QStyleFactory>
 #include <QVBoxLayout>
 
+#include <functional>
 #include <memory>
 
 using namespace vexo::hox::qt::ui;
@@ -36,6 +41,54 @@ QStringList sheets()
     };
     return texts;
 }
+
+QString textOf(const QString &file)
+{
+    QFile sheet(file);
+    return sheet.open(QIODevice::ReadOnly) ? QString::fromUtf8(sheet.readAll()) : QString();
+}
+
+/// As an application that uses the library does.
+void setSheet(const QString &text)
+{
+    VexoStylesheet sheet(QStringList(), false);
+    sheet.addText(text);
+    sheet.set();
+}
+
+/// A widget among others, one of which has a sheet of its own.
+void fill(QWidget *window, const WalkedClass &walked)
+{
+    window->resize(300, 400);
+    auto *page = new QWidget(window); // which leaves the size of the window alone
+    page->setGeometry(window->rect());
+    auto *column = new QVBoxLayout(page);
+    QWidget *widget = walked.make(page);
+    widget->setWindowFlags(Qt::Widget);
+    column->addWidget(widget);
+    for (int i = 0; i < 9; ++i)
+        column->addWidget(new QLabel(QStringLiteral("text")));
+    column->itemAt(1)->widget()->setStyleSheet(QStringLiteral("* { border: 3px solid green; }"));
+}
+
+/// Remembers what it hears of its look, and the application's sheet at that time.
+class Watched : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    QVector<QPair<QEvent::Type, QString>> heard;
+    QPalette told; // at the last event that tells of colours
+
+protected:
+    bool event(QEvent *event) override
+    {
+        heard.append({ event->type(), qApp->styleSheet() });
+        if (event->type() == QEvent::PaletteChange || event->type() == QEvent::Polish)
+            told = palette();
+        return QLabel::event(event);
+    }
+};
 
 /// Puts back what a test does to the application.
 class ApplicationLook
@@ -200,6 +253,13 @@ private Q_SLOTS:
     void arrowOfARowTakesPaddingFromASheet();
     void sheetGivesGroundToWhatPaintsItself();
     void screenShowsWhatARepaintWouldPaint();
+    void changeLooksAsTheToolkitsOwn_data();
+    void changeLooksAsTheToolkitsOwn();
+    void changeIsHeardOnceWithTheNewSheet_data();
+    void changeIsHeardOnceWithTheNewSheet();
+    void changeLeavesClassesTheirFonts();
+    void changeLeavesClassesTheirColours();
+    void changeLeavesAWidgetItsStyle();
 };
 
 void TestRestyle::sheetMayChangeAfterAScreenWasClosed_data()
@@ -319,6 +379,117 @@ void TestRestyle::screenShowsWhatARepaintWouldPaint()
             QFAIL("the screen shows something else than a repaint");
         }
     }
+}
+
+void TestRestyle::changeLooksAsTheToolkitsOwn_data()
+{
+    QTest::addColumn<int>("index");
+    const auto &classes = walkedClasses();
+    for (size_t i = 0; i < classes.size(); ++i)
+        QTest::newRow(classes[i].name) << int(i);
+}
+
+void TestRestyle::changeLooksAsTheToolkitsOwn()
+{
+    QFETCH(int, index);
+    const ApplicationLook look;
+    PanelScale scale(4, 5);
+    const QStringList texts = sheets().mid(1) + QStringList{ textOf(DAY), textOf(NIGHT) };
+    for (const QString &before : texts) {
+        for (const QString &after : texts) {
+            const auto picture = [&](const std::function<void()> &change) {
+                qApp->setStyleSheet(before);
+                QWidget window;
+                fill(&window, walkedClasses()[size_t(index)]);
+                window.show();
+                settle();
+                change();
+                settle();
+                return shownOnScreen(window);
+            };
+            const QImage toolkits = picture([&] { qApp->setStyleSheet(after); });
+            const QImage ours = picture([&] { setSheet(after); });
+            QVERIFY2(ours == toolkits, qPrintable(before + QStringLiteral(" to ") + after));
+        }
+    }
+}
+
+void TestRestyle::changeIsHeardOnceWithTheNewSheet_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    QTest::newRow("another") << sheets().at(1) << sheets().at(2);
+    QTest::newRow("one without colours")
+        << sheets().at(1) << QStringLiteral("Other { color: red }");
+    QTest::newRow("the same") << sheets().at(4) << sheets().at(4);
+}
+
+void TestRestyle::changeIsHeardOnceWithTheNewSheet()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, after);
+    const ApplicationLook look;
+    qApp->setStyleSheet(before);
+    Watched window;
+    auto *middle = new Watched(&window);
+    auto *inner = new Watched(middle);
+    VexoFunctionButton row(middle);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    settle();
+    const QList<Watched *> all = { &window, middle, inner };
+    for (Watched *widget : all)
+        widget->heard.clear();
+    setSheet(after);
+    for (Watched *widget : all) {
+        QCOMPARE(widget->heard.count({ QEvent::StyleChange, after }), 1);
+        QVERIFY(widget->told == widget->palette());
+    }
+    settle();
+    QCOMPARE(window.heard.count({ QEvent::UpdateRequest, after }), 1);
+    for (Watched *widget : all) {
+        QVERIFY(widget->heard.contains({ QEvent::Paint, after }));
+        for (const auto &[type, sheet] : qAsConst(widget->heard))
+            QCOMPARE(sheet, after);
+    }
+}
+
+void TestRestyle::changeLeavesClassesTheirFonts()
+{
+    const ApplicationLook look;
+    qApp->setStyleSheet(sheets().at(1));
+    const auto put_back = qScopeGuard([] { QApplication::setFont(QFont(), "QMenu"); });
+    QFont font;
+    font.setPixelSize(33);
+    QApplication::setFont(font, "QMenu");
+    setSheet(sheets().at(2));
+    QCOMPARE(QApplication::font("QMenu").pixelSize(), 33);
+}
+
+void TestRestyle::changeLeavesClassesTheirColours()
+{
+    const ApplicationLook look;
+    qApp->setStyleSheet(sheets().at(2));
+    QApplication::setPalette(QPalette(Qt::red), "QMenu");
+    setSheet(sheets().at(4));
+    QCOMPARE(QApplication::palette("QMenu").color(QPalette::Button), QColor(Qt::red));
+}
+
+void TestRestyle::changeLeavesAWidgetItsStyle()
+{
+    const ApplicationLook look;
+    const std::unique_ptr<QStyle> style(QStyleFactory::create(QStringLiteral("windows")));
+    qApp->setStyleSheet(sheets().at(1));
+    QWidget screen;
+    QLabel label(QStringLiteral("text"), &screen);
+    label.setStyle(style.get());
+    for (int i = 0; i < 20; ++i)
+        new QLabel(&screen); // most of a screen has the application's
+    screen.show();
+    settle();
+    setSheet(QStringLiteral("QLabel { padding: 9px; }"));
+    settle();
+    QCOMPARE(label.sizeHint().height(), 2 * 9 + label.fontMetrics().height());
 }
 
 QTEST_MAIN(TestRestyle)

@@ -147,7 +147,7 @@ void RowLabel::prepare(const QColor &ground)
     const bool is_text = !text().isEmpty() && !(textInteractionFlags() & Qt::TextSelectableByMouse)
         && !autoFillBackground();
     if (is_text && ground.alpha() == 255 && devicePixelRatioF() == 1 && !size().isEmpty())
-        m_shown = m_prints.get(lookOfNow(ground), [&] { return print(ground); });
+        m_shown = m_prints.get(lookOfNow(ground), this, [&] { return print(ground); });
 }
 
 bool RowLabel::event(QEvent *event)

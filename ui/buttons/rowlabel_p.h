@@ -13,8 +13,8 @@ class QImage;
 namespace vexo::hox::qt::ui {
 
 /// The text of a row: a label like any other, but drawn once for each of two looks and then copied
-/// from the pixmap cache together with the row's ground. To lay out and blend the letters is most
-/// of what a row costs.
+/// together with the row's ground, as long as the row is seen. To lay out and blend the letters is
+/// most of what a row costs.
 class RowLabel : public QLabel
 {
 public:

@@ -9,10 +9,12 @@
 #include "ui/buttons/vexoiconbutton.h"
 #include "ui/buttons/vexoradiobutton.h"
 #include "ui/foundation/cachedvectoricon.h"
+#include "ui/foundation/imagefile_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/press_p.h"
 #include "ui/foundation/quietly_p.h"
+#include "ui/foundation/shownpart_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
 
 #include <QAccessible>
@@ -36,11 +38,10 @@ double rightSpacerMm(VexoFunctionButton::VexoFunctionButtonType type)
     return is_narrow ? 2.0 : 3.0;
 }
 
-QPixmap arrow(const char *color)
+QString arrowFile(const char *color)
 {
-    const QString path = QStringLiteral(":widgetimages/VexoIconGeneralArrowListRight_44px_%1.svg");
-    return CachedVectorIcon(path.arg(QLatin1String(color)), VexoFunctionButton::ICON_SIZE)
-        .toPixmap();
+    return QStringLiteral(":widgetimages/VexoIconGeneralArrowListRight_44px_%1.svg")
+        .arg(QLatin1String(color));
 }
 
 // Shows the arrow as it is: a plain label would dim it once more while disabled.
@@ -54,7 +55,8 @@ protected:
     bool event(QEvent *event) override
     {
         const bool is_handled = QLabel::event(event);
-        if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange) {
+        if (event->type() == QEvent::Polish
+            || (event->type() == QEvent::StyleChange && testAttribute(Qt::WA_WState_Polished))) {
             setMinimumSize(0, 0);
             setIndent(indent()); // makes the label measure itself anew: a sheet may pad it
             setFixedSize(sizeHint());
@@ -65,24 +67,13 @@ protected:
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
-        drawFrame(&painter);
+        if (frameShape() != NoFrame) // else a sheet is asked for nothing
+            drawFrame(&painter);
         const QPixmap arrow = pixmap(Qt::ReturnByValue);
         if (!arrow.isNull())
             style()->drawItemPixmap(&painter, contentsRect(), int(alignment()), arrow);
     }
 };
-
-// What the widgets around \a row leave of it: a list shows its first and last row in part.
-QRect shownPart(const QWidget &row)
-{
-    QRect shown = row.rect();
-    QPoint position;
-    for (const QWidget *widget = &row; !widget->isWindow(); widget = widget->parentWidget()) {
-        position += widget->pos();
-        shown &= widget->parentWidget()->rect().translated(-position);
-    }
-    return shown;
-}
 
 // For changes in a paint of \a painted: a child of the row of which no more is shown is painted
 // right afterwards anyway.
@@ -391,9 +382,9 @@ QWidget *VexoFunctionButton::createRightWidget()
 
 QWidget *VexoFunctionButton::createArrow()
 {
-    m_arrow_normal = arrow("C3");
-    m_arrow_pressed = arrow("C0");
-    m_arrow_inactive = arrow("RGB220");
+    m_arrow_normal = CachedVectorIcon(arrowFile("C3"), ICON_SIZE).toPixmap();
+    m_arrow_pressed = QPixmap();
+    m_arrow_inactive = QPixmap();
     m_last_down = false;
     m_inactive_shown = false;
     auto *label = showPlain(new ArrowLabel(this));
@@ -497,13 +488,24 @@ void VexoFunctionButton::applyArrowLook(const QRegion &painted)
             return;
         m_inactive_shown = true;
         applyTextColor(m_text_inactive_color, painted);
-        showArrow(m_arrow_inactive, painted);
+        showArrow(arrowAs(&m_arrow_inactive, "RGB220"), painted);
         return;
     }
     applyTextColor(m_last_down ? m_text_clicked_color : m_text_color, painted);
     if (m_last_down != was_dark || m_inactive_shown)
-        showArrow(m_last_down ? m_arrow_pressed : m_arrow_normal, painted);
+        showArrow(m_last_down ? arrowAs(&m_arrow_pressed, "C0") : m_arrow_normal, painted);
     m_inactive_shown = false;
+}
+
+// Of the size of the normal one. Most rows of a list are never pressed, and never disabled.
+const QPixmap &VexoFunctionButton::arrowAs(QPixmap *arrow, const char *color) const
+{
+    if (arrow->isNull()) {
+        ImageFile file(arrowFile(color), ImageFile::Kind::Vector);
+        *arrow = file.pixmap(m_arrow_normal.size());
+        arrow->setDevicePixelRatio(m_arrow_normal.devicePixelRatio());
+    }
+    return *arrow;
 }
 
 void VexoFunctionButton::applyTextColor(const QColor &color, const QRegion &painted)

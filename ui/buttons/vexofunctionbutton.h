@@ -167,6 +167,7 @@ private:
     void skipWhatIsCovered();
     void applyLook(const QRegion &painted);
     void applyArrowLook(const QRegion &painted);
+    const QPixmap &arrowAs(QPixmap *arrow, const char *color) const;
     void applyTextColor(const QColor &color, const QRegion &painted);
     void showArrow(const QPixmap &arrow, const QRegion &painted);
 
@@ -178,8 +179,8 @@ private:
     QSpacerItem *m_right_spacer = nullptr;
     const std::unique_ptr<VisibleBuddies> m_visible_buddies;
     QPixmap m_arrow_normal;
-    QPixmap m_arrow_pressed;
-    QPixmap m_arrow_inactive;
+    QPixmap m_arrow_pressed; // null until it is first shown
+    QPixmap m_arrow_inactive; // null until it is first shown
     const std::unique_ptr<TapDistance> m_distance;
     bool m_last_checked = false;
     bool m_inactive_shown = false;

@@ -482,7 +482,7 @@ void VexoPushButton::drawGround(QPainter *painter, const QRectF &inside)
     }
     const GroundLook look{ inside, m_px_radius, fillOfNow(), m_pen,
         painter->device()->devicePixelRatioF() };
-    const Print print = m_grounds->get(look, [&] { return printGround(look); });
+    const Print print = m_grounds->get(look, this, [&] { return printGround(look); });
     const QRect even = wholeInside(evenGround(inside));
     const QRect whole(print.position, print.pixmap.size() / look.ratio);
     if (even.isValid())

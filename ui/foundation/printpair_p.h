@@ -1,8 +1,9 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
+#include "ui/foundation/printstore_p.h"
+
 #include <QPixmap>
-#include <QPixmapCache>
 #include <QPoint>
 
 #include <utility>
@@ -16,8 +17,8 @@ struct Print
     QPoint position;
 };
 
-/// The prints of the two looks that were used last, such as up and down. They lie in the pixmap
-/// cache, which drops what has not been used for long. \a Look tells with == what is drawn.
+/// The prints of the two looks that were used last, such as up and down, as long as the PrintStore
+/// keeps them. \a Look tells with == what is drawn.
 template <typename Look>
 class PrintPair
 {
@@ -27,26 +28,27 @@ public:
     PrintPair(const PrintPair &) = delete;
     PrintPair &operator=(const PrintPair &) = delete;
 
-    /// The print of \a look, which \a draw makes when there is none.
+    /// The print of \a look for \a owner, which \a draw makes when there is none.
     template <typename Draw>
-    Print get(const Look &look, Draw draw)
+    Print get(const Look &look, const QWidget *owner, Draw draw)
     {
         if (!(m_first.look == look))
             std::swap(m_first, m_second);
+        PrintStore &store = PrintStore::inst();
         Print print{ QPixmap(), m_first.position };
-        if (m_first.look == look && QPixmapCache::find(m_first.key, &print.pixmap))
+        if (m_first.look == look && store.find(m_first.key, &print.pixmap))
             return print;
-        QPixmapCache::remove(m_first.key);
+        store.remove(m_first.key);
         print = draw();
-        m_first = { look, print.position, QPixmapCache::insert(print.pixmap) };
+        m_first = { look, print.position, store.insert(print.pixmap, owner) };
         return print;
     }
 
     /// For changes of which the looks know nothing.
     void forget()
     {
-        QPixmapCache::remove(m_first.key);
-        QPixmapCache::remove(m_second.key);
+        PrintStore::inst().remove(m_first.key);
+        PrintStore::inst().remove(m_second.key);
         m_first = Entry();
         m_second = Entry();
     }
@@ -56,7 +58,7 @@ private:
     {
         Look look;
         QPoint position;
-        QPixmapCache::Key key;
+        PrintStore::Key key = 0;
     };
 
     Entry m_first; // the one used last

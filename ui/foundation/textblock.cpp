@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QTextLayout>
+#include <QWidget>
 
 #include <cmath>
 
@@ -92,7 +93,8 @@ void TextBlock::draw(QPainter *painter, const QRectF &area, const QString &text,
     }
     const Look look{ painter->pen().color(), ground.color, position - whole,
         painter->device()->devicePixelRatioF() };
-    const Print print = m_prints.get(look, [&] { return this->print(look); });
+    const auto *owner = dynamic_cast<const QWidget *>(painter->device());
+    const Print print = m_prints.get(look, owner, [&] { return this->print(look); });
     painter->drawPixmap(whole + print.position, print.pixmap);
 }
 

@@ -33,7 +33,7 @@ public:
     /// font, alignment or the width of the area have changed since the last call; but a text that
     /// does not fit into the area, or that is found to run from right to left, each time.
     ///
-    /// With a \a ground that is already drawn around the text, the pixmap cache keeps the text
+    /// With a \a ground that is already drawn around the text, the print store keeps the text
     /// together with it, for two pairs of colours: to blend letters costs several times as much as
     /// to copy them, and a press changes colours back and forth.
     void draw(QPainter *painter, const QRectF &area, const QString &text, Qt::Alignment alignment,

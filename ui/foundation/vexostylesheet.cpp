@@ -3,6 +3,7 @@
 
 #include "ui/foundation/cssguard_p.h"
 #include "ui/foundation/inputfile_p.h"
+#include "ui/foundation/sheetchange_p.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -44,8 +45,8 @@ void VexoStylesheet::addText(const QString &rules)
 void VexoStylesheet::set()
 {
     QCoreApplication::setAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles, true);
-    if (auto *application = qobject_cast<QApplication *>(QCoreApplication::instance()))
-        application->setStyleSheet(m_stylesheet);
+    if (qobject_cast<QApplication *>(QCoreApplication::instance()))
+        changeSheet(m_stylesheet);
 }
 
 } // namespace vexo::hox::qt::ui

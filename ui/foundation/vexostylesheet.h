@@ -32,6 +32,12 @@ public:
     /// Replaces the application's stylesheet by all that was read, and makes fonts and colours of
     /// a stylesheet reach child widgets (Qt::AA_UseStyleSheetPropagationInWidgetStyles). Without an
     /// application object only the attribute is set.
+    ///
+    /// Another sheet, as for the night, is put in place faster than by
+    /// QApplication::setStyleSheet(), which styles each widget once per level of its depth: here
+    /// each is styled once, and hears of it by one QEvent::StyleChange. QApplication::style() may
+    /// be another object afterwards. Where the application has fonts of classes, widgets with a
+    /// QWidget::setStyle() of their own or many with own sheets, it is done the toolkit's way.
     void set();
 
 private:

@@ -3,7 +3,9 @@
 
 #include "ui/buttons/vexofunctionbutton.h"
 #include "ui/text/vexolabel.h"
+#include "ui/text/vexoruler.h"
 
+#include <QLayout>
 #include <QPaintEvent>
 
 namespace vexo::hox::qt::ui {
@@ -66,6 +68,8 @@ bool OpaqueRows::isOpaque(const QWidget &widget)
         return false;
     if (const auto *row = qobject_cast<const VexoFunctionButton *>(&widget))
         return row->coversAll();
+    if (const auto *ruler = qobject_cast<const VexoRuler *>(&widget))
+        return ruler->coversAll();
     if (const auto *label = qobject_cast<const VexoLabel *>(&widget))
         return label->backgroundColor().alpha() == 255;
     return widget.testAttribute(Qt::WA_OpaquePaintEvent);
@@ -73,16 +77,52 @@ bool OpaqueRows::isOpaque(const QWidget &widget)
 
 QRegion OpaqueRows::bare(const QRegion &area) const
 {
+    return area.isEmpty() || isHiddenByRows(area.boundingRect()) ? QRegion() : besideChildren(area);
+}
+
+// Of hundreds of rows, which lie below each other, a few must be looked at.
+bool OpaqueRows::isHiddenByRows(const QRect &area) const
+{
+    const QLayout *rows = m_content->layout();
+    const int count = rows ? rows->count() : 0;
+    int hidden_to = area.top();
+    for (int i = firstRow(area.top()); i < count; ++i) {
+        const QWidget *row = rows->itemAt(i)->widget();
+        if (!row || row->isHidden() || row->parentWidget() != m_content)
+            continue;
+        const QRect place = row->geometry();
+        const bool is_wide = place.left() <= area.left() && place.right() >= area.right();
+        if (!is_wide || place.top() > hidden_to || !isOpaque(*row))
+            return false;
+        hidden_to = qMax(hidden_to, place.bottom() + 1);
+        if (hidden_to > area.bottom())
+            return true;
+    }
+    return false;
+}
+
+// Of those that reach below \a top.
+int OpaqueRows::firstRow(int top) const
+{
+    const QLayout *rows = m_content->layout();
+    int first = 0;
+    for (int beyond = rows ? rows->count() : 0; first < beyond;) {
+        const int middle = (first + beyond) / 2;
+        if (rows->itemAt(middle)->geometry().bottom() < top)
+            first = middle + 1;
+        else
+            beyond = middle;
+    }
+    return first;
+}
+
+QRegion OpaqueRows::besideChildren(const QRegion &area) const
+{
     QRegion bare = area;
     const QRect around = area.boundingRect();
-    const auto is_beside = [&](const QRect &place) { // hundreds are, so it is asked in one line
-        return place.bottom() < around.top() || place.top() > around.bottom();
-    };
     for (const QObject *child : m_content->children()) {
-        if (!child->isWidgetType())
-            continue;
-        const auto *widget = static_cast<const QWidget *>(child);
-        if (!is_beside(widget->geometry()) && isOpaque(*widget))
+        const auto *widget = qobject_cast<const QWidget *>(child);
+        if (widget && widget->geometry().intersects(around) && isOpaque(*widget))
             bare -= widget->geometry();
     }
     return bare;

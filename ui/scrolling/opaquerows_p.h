@@ -31,6 +31,9 @@ private:
     void claim(bool is_covered);
     static bool isOpaque(const QWidget &widget);
     QRegion bare(const QRegion &area) const;
+    bool isHiddenByRows(const QRect &area) const;
+    int firstRow(int top) const;
+    QRegion besideChildren(const QRegion &area) const;
     void reveal(const QRegion &bare);
     void end();
 

@@ -79,6 +79,18 @@ void VexoRuler::paintEvent(QPaintEvent *)
     }
 }
 
+// Nothing of what lies below the ruler is seen. On a finer screen a line of one pixel is thinner.
+bool VexoRuler::coversAll() const
+{
+    int covered_px = 0;
+    for (const LineComponent &line : qAsConst(m_lines)) {
+        if (line.color.alpha() < 255)
+            break;
+        covered_px = widgetPx(covered_px + line.thickness);
+    }
+    return covered_px >= height() && devicePixelRatioF() == 1;
+}
+
 void VexoRuler::addLineDescription(const QColor &color, int thickness)
 {
     m_lines.append({ color, thickness });

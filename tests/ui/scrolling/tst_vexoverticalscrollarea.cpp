@@ -6,14 +6,15 @@
 #include "support/virtualclock.h"
 
 #include <VexoFunctionButton>
+#include <VexoRuler>
 #include <VexoSlider>
 #include <VexoVerticalScrollArea>
 #include <VexoVerticalScrollContent>
 
-#include <QLayout>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTest>
+#include <QVBoxLayout>
 #include <QWindow>
 
 #include <algorithm>
@@ -108,6 +109,16 @@ struct RowList
 
     void scroll(int to) { area.verticalScrollBar()->setValue(to); }
     bool isContentOpaque() const { return content->testAttribute(Qt::WA_OpaquePaintEvent); }
+    QVector<VexoRuler *> addRulers(VexoRuler::VexoRulerStyle style)
+    {
+        QVector<VexoRuler *> rulers;
+        auto *column = static_cast<QVBoxLayout *>(content->layout());
+        for (int i = column->count(); i > 0; --i) {
+            rulers += new VexoRuler(nullptr, style);
+            column->insertWidget(i, rulers.last());
+        }
+        return rulers;
+    }
     /// Whether what was moved on the screen looks as it does drawn anew.
     bool isSeenAsItIs()
     {
@@ -359,21 +370,32 @@ void TestVexoVerticalScrollArea::rowsLieTight()
 
 void TestVexoVerticalScrollArea::scrollMovesWhatIsSeen_data()
 {
-    QTest::addColumn<int>("alpha");
-    QTest::addColumn<bool>("has_gap");
+    using Change = std::function<void(RowList &)>;
+    QTest::addColumn<Change>("change");
     QTest::addColumn<int>("paints"); // of a row that stays in sight
-    QTest::newRow("rows only") << 255 << false << 0;
-    QTest::newRow("something shines through") << 254 << false << 1;
-    QTest::newRow("something between") << 255 << true << 1;
+    const auto with_rulers = [](VexoRuler::VexoRulerStyle style) {
+        return Change([=](RowList &list) { list.addRulers(style); });
+    };
+    QTest::newRow("rows only") << Change([](RowList &) {}) << 0;
+    QTest::newRow("something shines through")
+        << Change([](RowList &list) { list.makeTranslucent(2, 254); }) << 1;
+    QTest::newRow("something between")
+        << Change([](RowList &list) { list.content->layout()->setSpacing(1); }) << 1;
+    QTest::newRow("rulers between") << with_rulers(VexoRuler::MainMiddle) << 0;
+    QTest::newRow("rulers that draw nothing between") << with_rulers(VexoRuler::Transparent) << 1;
+    QTest::newRow("rulers that are higher than their lines") << Change([](RowList &list) {
+        for (VexoRuler *ruler : list.addRulers(VexoRuler::MainMiddle))
+            ruler->setRulerStyle(VexoRuler::MainUnderHeading);
+    }) << 1;
 }
 
 void TestVexoVerticalScrollArea::scrollMovesWhatIsSeen()
 {
-    QFETCH(int, alpha);
-    QFETCH(bool, has_gap);
+    using Change = std::function<void(RowList &)>;
+    QFETCH(Change, change);
     RowList list;
-    list.content->layout()->setSpacing(has_gap ? 1 : 0);
-    list.makeTranslucent(2, alpha);
+    change(list);
+    QCoreApplication::processEvents();
     PaintCounter paints;
     paints.watch(list.rows[4]);
     paints.watch(list.rows[30]);
