@@ -11,6 +11,7 @@
 #include "ui/input/textrun_p.h"
 
 #include <QLabel>
+#include <QPaintEvent>
 #include <QWidgetAction>
 
 namespace vexo::hox::qt::ui {
@@ -97,12 +98,12 @@ void VexoLineEdit::layOut(const QString &text)
     m_placeholder_run->set(m_placeholder_rest, font());
 }
 
-void VexoLineEdit::paintEvent(QPaintEvent *)
+void VexoLineEdit::paintEvent(QPaintEvent *event)
 {
     if (!m_painter.begin(this))
         return;
     m_painter.setRenderHint(QPainter::Antialiasing);
-    m_frame->draw(&m_painter, size());
+    m_frame->draw(&m_painter, size(), event->rect());
     const QColor ink = isEnabled() ? m_text_color : m_text_inactive_color;
     if (m_shake->isRunning())
         drawShake(ink);
