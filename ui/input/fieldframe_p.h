@@ -1,17 +1,17 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
+#include "ui/foundation/endsprint_p.h"
+
 #include <QColor>
 #include <QPen>
-#include <QPixmap>
 #include <QPointF>
-#include <QRectF>
 
 class QPainter;
 
 namespace vexo::hox::qt::ui {
 
-/// The rounded frame of a field, with its ground: rendered once for its look and size.
+/// The rounded frame of a field, with its ground: its ends are rendered once for their look.
 class FieldFrame
 {
 public:
@@ -23,19 +23,19 @@ public:
     void setGround(const QColor &color);
     const QPen &pen() const { return m_pen; }
 
-    /// Draws the frame of a field of \a size px.
-    void draw(QPainter *painter, const QSize &size);
+    /// Draws what is \a dirty, px, of the frame of a field of \a size px. \a painter must
+    /// antialias.
+    void draw(QPainter *painter, const QSize &size, const QRect &dirty);
 
 private:
-    void render(const QSize &size, double pixel_ratio);
-    void drawPath(QPainter *painter, const QSize &size);
+    void drawPath(QPainter *painter, const QSizeF &size) const;
+    QString look() const;
 
-    QRectF m_rect; // px
     QPen m_pen;
     QPointF m_line; // px
     QPointF m_radius; // px
     QColor m_ground;
-    QPixmap m_pixmap; // as drawn last; null after a change of the look
+    EndsPrint m_ends;
 };
 
 } // namespace vexo::hox::qt::ui
