@@ -9,6 +9,7 @@
 #include "ui/buttons/vexoiconbutton.h"
 #include "ui/buttons/vexoradiobutton.h"
 #include "ui/foundation/cachedvectoricon.h"
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/press_p.h"
@@ -68,7 +69,7 @@ protected:
         drawFrame(&painter);
         const QPixmap arrow = pixmap(Qt::ReturnByValue);
         if (!arrow.isNull())
-            style()->drawItemPixmap(&painter, contentsRect(), int(alignment()), arrow);
+            drawIconPixmap(&painter, *style(), contentsRect(), int(alignment()), arrow);
     }
 };
 

@@ -3,6 +3,7 @@
 
 #include "ui/buttons/vexofeedbackdelegator.h"
 #include "ui/buttons/vexoiconbutton.h"
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/imagefile_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/plainlabel_p.h"
@@ -39,7 +40,7 @@ VexoLineEdit::VexoLineEdit(QWidget *parent)
     , m_scaling(ScalingInfo::inst())
     , m_tone_delegator(VexoFeedbackDelegator::tone_delegator)
     , m_cursor_timer(new QTimer(this))
-    , m_leading_label(showPlain(new SideWidget<QLabel>(this)))
+    , m_leading_label(showPlain(new SideWidget<IconLabel>(this)))
     , m_trailing_button(new SideWidget<VexoIconButton>(this))
     , m_frame(std::make_unique<FieldFrame>())
     , m_shake(std::make_unique<ShakeMotion>())
@@ -202,7 +203,7 @@ void VexoLineEdit::setLeadingIcon(const QIcon &icon)
         return;
     const QSize px = pxSize(*m_scaling, m_mm_leading_icon_size).expandedTo(QSize(0, 0));
     const bool is_sane = qint64(px.width()) * px.height() <= ImageFile::MAX_PIXELS;
-    m_leading_label->setPixmap(is_sane ? icon.pixmap(px, QIcon::Normal, QIcon::Off) : QPixmap());
+    m_leading_label->setPixmap(is_sane ? iconPixmap(icon, px, sharpestRatio()) : QPixmap());
 }
 
 void VexoLineEdit::setTrailingIcon(const QIcon &icon)
