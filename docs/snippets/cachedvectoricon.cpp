@@ -12,7 +12,7 @@ QToolButton *createEnterButton(QWidget *parent)
     CachedVectorIcon icon(":/VexoIconGeneralEnter", QSizeF(0, 10));
     auto *button = new QToolButton(parent);
     button->setIcon(icon);
-    button->setIconSize(icon.toPixmap().size()); // px: drawn as it was rendered
+    button->setIconSize(QSize(int(icon.pxWidth()), int(icon.pxHeight()))); // as it was rendered
     return button;
 }
 //! [page]

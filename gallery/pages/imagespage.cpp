@@ -103,7 +103,7 @@ protected:
             const QRect ground(
                 QPoint(width() * i / 3, 0), QPoint(width() * (i + 1) / 3 - 1, height() - 1));
             painter.fillRect(ground, grounds[i]);
-            const QSize margin = (ground.size() - m_image.size()) / 2;
+            const QSize margin = (ground.size() - m_image.size() / m_image.devicePixelRatio()) / 2;
             painter.drawPixmap(ground.topLeft() + QPoint(margin.width(), margin.height()), m_image);
         }
         painter.drawRect(rect().adjusted(0, 0, -1, -1));

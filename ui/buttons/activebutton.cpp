@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/buttons/activebutton.h"
 
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/imagefile_p.h"
 #include "ui/foundation/quietly_p.h"
 
@@ -149,12 +150,17 @@ QIcon ActiveButton::compute(const QString &file)
 
 QIcon ActiveButton::generateInverseIcon(const QIcon &icon)
 {
+    const bool has_sharp_screen = sharpestRatio() > 1;
+    QIcon inverse;
     const QList<QSize> sizes = icon.availableSizes(QIcon::Normal, QIcon::Off);
-    if (sizes.isEmpty())
-        return QIcon();
-    QImage image = icon.pixmap(sizes.first(), QIcon::Normal, QIcon::Off).toImage();
-    image.invertPixels(QImage::InvertRgb);
-    return QIcon(QPixmap::fromImage(image));
+    for (const QSize &px : sizes) {
+        QImage image = iconPixmap(icon, px, 1).toImage();
+        image.invertPixels(QImage::InvertRgb);
+        inverse.addPixmap(QPixmap::fromImage(image));
+        if (!has_sharp_screen)
+            break; // the others are of earlier sizes
+    }
+    return inverse;
 }
 
 void ActiveButton::updateStateVisualization(bool checked)

@@ -78,7 +78,8 @@ public:
     /// Makes an icon from a file, called for each icon and inverse icon that is added or rendered
     /// anew. Override it to make icons of your own kind, in the size in which they are drawn.
     virtual QIcon compute(const QString &file);
-    /// Inverts the colours of the first rendering that \a icon holds; null when it holds none.
+    /// Inverts the colours of the first rendering that \a icon holds, or of each when there is a
+    /// screen with a device pixel ratio above 1; null when it holds none.
     virtual QIcon generateInverseIcon(const QIcon &icon);
     /// Called when the checked state has changed: sets "CLICKED" or "DEFAULT".
     virtual void updateStateVisualization(bool checked);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/buttons/vexodesignvectorbutton.h"
 
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/panelfont_p.h"
 
 #include <QFontMetrics>
@@ -169,7 +170,7 @@ void VexoDesignVectorButton::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), is_dark ? m_background_clicked_color : m_background_color);
     painter.setPen(is_dark ? m_text_clicked_color : m_text_color);
-    shownIcon(is_dark).paint(&painter, m_icon_rect, Qt::AlignCenter, QIcon::Normal, QIcon::Off);
+    drawIcon(&painter, shownIcon(is_dark));
     drawTexts(&painter);
 }
 
@@ -186,6 +187,16 @@ QIcon VexoDesignVectorButton::shownIcon(bool is_dark)
     return hasState(QLatin1String(CLICKED_STATE_NAME))
         ? getStateIcon(QLatin1String(CLICKED_STATE_NAME))
         : inverseIcon();
+}
+
+void VexoDesignVectorButton::drawIcon(QPainter *painter, const QIcon &icon) const
+{
+    const double ratio = pixelRatio(*painter);
+    if (ratio == 1)
+        icon.paint(painter, m_icon_rect, Qt::AlignCenter, QIcon::Normal, QIcon::Off);
+    else
+        drawIconPixmap(painter, *style(), m_icon_rect, Qt::AlignCenter,
+            iconPixmap(icon, m_icon_rect.size(), ratio));
 }
 
 void VexoDesignVectorButton::drawTexts(QPainter *painter) const

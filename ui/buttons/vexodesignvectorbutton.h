@@ -107,6 +107,7 @@ protected:
 private:
     bool isDark() const;
     QIcon shownIcon(bool is_dark);
+    void drawIcon(QPainter *painter, const QIcon &icon) const;
     void drawTexts(QPainter *painter) const;
 
     const ScalingInfo *const m_scaling;

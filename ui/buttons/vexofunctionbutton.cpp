@@ -9,6 +9,7 @@
 #include "ui/buttons/vexoiconbutton.h"
 #include "ui/buttons/vexoradiobutton.h"
 #include "ui/foundation/cachedvectoricon.h"
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/imagefile_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/plainlabel_p.h"
@@ -71,7 +72,7 @@ protected:
             drawFrame(&painter);
         const QPixmap arrow = pixmap(Qt::ReturnByValue);
         if (!arrow.isNull())
-            style()->drawItemPixmap(&painter, contentsRect(), int(alignment()), arrow);
+            drawIconPixmap(&painter, *style(), contentsRect(), int(alignment()), arrow);
     }
 };
 

@@ -2,6 +2,7 @@
 #include "ui/buttons/vexohorizontaltexticonbutton.h"
 
 #include "ui/foundation/accessible_p.h"
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/press_p.h"
 #include "ui/foundation/textblock_p.h"
@@ -159,7 +160,7 @@ void VexoHorizontalTextIconButton::paintEvent(QPaintEvent *)
     m_right_text->draw(&painter, QRectF(right_x, 0, right_px, height()), m_right_side_text,
         alignment, { look.ground, rect().adjusted(gap_x, 0, 0, 0) });
     if (!look.image.isNull())
-        style()->drawItemPixmap(&painter, image_area, Qt::AlignCenter, look.image);
+        drawIconPixmap(&painter, *style(), image_area, Qt::AlignCenter, look.image);
 }
 
 void VexoHorizontalTextIconButton::setImage(QPixmap *image, const QPixmap &to)

@@ -2,6 +2,7 @@
 #include "ui/buttons/vexoiconbutton.h"
 
 #include "ui/buttons/styledbackground_p.h"
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/press_p.h"
 
 #include <QMouseEvent>
@@ -113,21 +114,21 @@ void VexoIconButton::drawIcon(QPainter *painter, const QIcon &icon)
     const QRect area
         = QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, pxIconSize(), rect());
     setIconArea(area.intersected(rect()));
-    const QPixmap pixmap = pixmapOf(icon);
+    const QPixmap pixmap = pixmapOf(icon, pixelRatio(*painter));
     if (!pixmap.isNull())
-        style()->drawItemPixmap(painter, rect(), Qt::AlignCenter, pixmap);
+        drawIconPixmap(painter, *style(), rect(), Qt::AlignCenter, pixmap);
 }
 
 // An icon composes a key and searches a cache each time it is asked; the two of a blink are kept.
-QPixmap VexoIconButton::pixmapOf(const QIcon &icon)
+QPixmap VexoIconButton::pixmapOf(const QIcon &icon, double ratio)
 {
     for (const Drawn &drawn : m_drawn) {
-        if (drawn.icon_key == icon.cacheKey() && drawn.px == pxIconSize())
+        if (drawn.icon_key == icon.cacheKey() && drawn.px == pxIconSize()
+            && drawn.pixmap.devicePixelRatio() == ratio)
             return drawn.pixmap;
     }
     std::swap(m_drawn[0], m_drawn[1]);
-    m_drawn[0]
-        = { icon.cacheKey(), pxIconSize(), icon.pixmap(pxIconSize(), QIcon::Normal, QIcon::Off) };
+    m_drawn[0] = { icon.cacheKey(), pxIconSize(), iconPixmap(icon, pxIconSize(), ratio) };
     return m_drawn[0].pixmap;
 }
 

@@ -56,7 +56,7 @@ private:
     QIcon takePressedLook(QPainter *painter);
     void drawOutline(QPainter *painter) const;
     void drawIcon(QPainter *painter, const QIcon &icon);
-    QPixmap pixmapOf(const QIcon &icon);
+    QPixmap pixmapOf(const QIcon &icon, double ratio);
 
     bool m_is_initialized = false;
     bool m_can_background_color_change = true;

@@ -2,6 +2,7 @@
 #include "ui/buttons/vexokeyboardbutton.h"
 
 #include "ui/foundation/cachedvectoricon.h"
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/textblock_p.h"
 
@@ -143,14 +144,15 @@ void VexoKeyboardButton::paintEvent(QPaintEvent *)
     QStylePainter painter(this);
     const QRect cap = capRect();
     const bool is_dark = isChecked() || isDown();
-    if (isKeepable(size()))
+    const double ratio = pixelRatio(painter);
+    if (ratio == 1 && isKeepable(size()))
         painter.drawPixmap(0, 0, capPixmap(ground(is_dark)));
     else
-        drawCap(&painter, ground(is_dark));
+        drawCapOnScreen(&painter, ground(is_dark));
     const QIcon shown = is_dark && isEnabled() ? inverseIcon() : icon();
     if (!shown.isNull())
-        painter.drawItemPixmap(
-            cap, Qt::AlignCenter, shown.pixmap(iconSize(), QIcon::Normal, QIcon::Off));
+        drawIconPixmap(
+            &painter, *style(), cap, Qt::AlignCenter, iconPixmap(shown, iconSize(), ratio));
     // The ground that is kept with the letters would hide an icon below them.
     drawLabel(&painter, cap, is_dark, shown.isNull() ? m_cap_ground : QColor());
 }
@@ -177,14 +179,14 @@ QColor VexoKeyboardButton::ground(bool is_dark)
 // Caps of the same size and look are drawn once for all keys of a keyboard.
 const QPixmap &VexoKeyboardButton::capPixmap(const QColor &ground)
 {
-    if (m_cap.size() == size() * devicePixelRatioF() && m_cap_ground == ground)
+    if (m_cap.size() == size() && m_cap_ground == ground)
         return m_cap;
     QString key = QStringLiteral("hoxqcap");
     for (const QColor &color :
         { ground, m_border_color, m_border_top_color, m_border_bottom_extra_color })
         key += QString::number(color.rgba(), 36) + QLatin1Char(' ');
-    for (const float number : { float(width()), float(height()), float(devicePixelRatioF()),
-             m_corner_radius_x, m_corner_radius_y, float(m_standard_border_drawing_disabled) })
+    for (const float number : { float(width()), float(height()), m_corner_radius_x,
+             m_corner_radius_y, float(m_standard_border_drawing_disabled) })
         key += QString::number(double(number), 'g', 9) + QLatin1Char(' ');
     m_cap_ground = ground;
     if (!QPixmapCache::find(key, &m_cap)) {
@@ -196,12 +198,20 @@ const QPixmap &VexoKeyboardButton::capPixmap(const QColor &ground)
 
 QPixmap VexoKeyboardButton::renderCap(const QColor &ground) const
 {
-    QPixmap pixmap(size() * devicePixelRatioF());
-    pixmap.setDevicePixelRatio(devicePixelRatioF());
+    QPixmap pixmap(size());
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     drawCap(&painter, ground);
     return pixmap;
+}
+
+// Its outline lies on the edge, where half a pixel of the screen would be cut.
+void VexoKeyboardButton::drawCapOnScreen(QPainter *painter, const QColor &ground) const
+{
+    painter->save();
+    stretchToScreen(painter, rect());
+    drawCap(painter, ground);
+    painter->restore();
 }
 
 void VexoKeyboardButton::drawCap(QPainter *painter, const QColor &ground) const

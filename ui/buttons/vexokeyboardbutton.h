@@ -126,6 +126,7 @@ private:
     QColor ground(bool is_dark);
     const QPixmap &capPixmap(const QColor &ground);
     QPixmap renderCap(const QColor &ground) const;
+    void drawCapOnScreen(QPainter *painter, const QColor &ground) const;
     void drawCap(QPainter *painter, const QColor &ground) const;
     void drawEdges(QPainter *painter, const QRect &cap) const;
     void drawLabel(QPainter *painter, const QRect &cap, bool is_dark, const QColor &ground);

@@ -5,6 +5,7 @@
 #include "ui/buttons/tone_p.h"
 #include "ui/foundation/accessible_p.h"
 #include "ui/foundation/endsprint_p.h"
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/press_p.h"
 #include "ui/foundation/textblock_p.h"
@@ -368,7 +369,7 @@ void VexoPushButton::mouseMoveEvent(QMouseEvent *event)
 
 void VexoPushButton::paintEvent(QPaintEvent *event)
 {
-    const QPixmap image = shownImage(); // may throw, so before a painter is active
+    const QIcon *const icon = shownIcon(); // may throw, so before a painter is active
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     QRectF inside(0, 0, width(), height());
@@ -378,8 +379,8 @@ void VexoPushButton::paintEvent(QPaintEvent *event)
     drawGround(&painter, inside, event->rect());
     painter.setPen(inkOfNow());
     drawTexts(&painter, inside);
-    if (!image.isNull())
-        style()->drawItemPixmap(&painter, m_icon_rect, Qt::AlignCenter, image);
+    if (icon)
+        drawImage(&painter, *icon);
 }
 
 void VexoPushButton::change(QColor *color, const QColor &to)
@@ -406,19 +407,26 @@ ButtonState VexoPushButton::stateOfNow() const
     return isDown() ? Clicked : Standard;
 }
 
-QPixmap VexoPushButton::shownImage()
+const QIcon *VexoPushButton::shownIcon()
 {
     const ButtonState state = stateOfNow();
     const bool has_only_hidden = m_icons.size() == 1 && m_icons.firstKey() == Hidden;
     if (m_icons.isEmpty() || (has_only_hidden && state != Hidden))
-        return QPixmap();
-    const QIcon &icon = getIconForState(state);
-    if (m_image_key != icon.cacheKey() || m_image_px != m_icon_rect.size()) {
+        return nullptr;
+    return &getIconForState(state);
+}
+
+void VexoPushButton::drawImage(QPainter *painter, const QIcon &icon)
+{
+    const double ratio = pixelRatio(*painter);
+    if (m_image_key != icon.cacheKey() || m_image_px != m_icon_rect.size()
+        || m_image.devicePixelRatio() != ratio) {
         m_image_px = m_icon_rect.size();
         m_image_key = icon.cacheKey();
-        m_image = icon.pixmap(m_icon_rect.size(), QIcon::Normal, QIcon::Off);
+        m_image = iconPixmap(icon, m_icon_rect.size(), ratio);
     }
-    return m_image;
+    if (!m_image.isNull())
+        drawIconPixmap(painter, *style(), m_icon_rect, Qt::AlignCenter, m_image);
 }
 
 QColor VexoPushButton::inkOfNow() const

@@ -197,7 +197,8 @@ private:
     void change(QColor *color, const QColor &to);
     void storeImage(const QString &path, const QSizeF &mm, ButtonState state);
     ButtonState stateOfNow() const;
-    QPixmap shownImage();
+    const QIcon *shownIcon();
+    void drawImage(QPainter *painter, const QIcon &icon);
     QColor inkOfNow() const;
     const Label &measuredLabel() const;
     void splitLabel(const QRectF &upper);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/foundation/cachedvectoricon.h"
 
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/imagefile_p.h"
 #include "ui/foundation/pixels_p.h"
 
@@ -15,6 +16,14 @@ void refuseNegative(double first, double second, const char *text)
 {
     if (!(first >= 0 && second >= 0))
         throw std::out_of_range(text);
+}
+
+void addRenderings(QIcon *icon, ImageFile *file, const QSize &px)
+{
+    icon->addPixmap(file->pixmap(px), QIcon::Normal, QIcon::Off);
+    const double ratio = sharpestRatio();
+    if (ratio > 1)
+        icon->addPixmap(file->pixmap(sharpSize(px, ratio)), QIcon::Normal, QIcon::Off);
 }
 
 } // namespace
@@ -164,7 +173,7 @@ void CachedVectorIcon::compute()
     const double height = natural.height();
     if (!natural.isEmpty())
         fillMissingMm(fillMissingPx(width / height, height / width));
-    addPixmap(file.pixmap(pxSize()), QIcon::Normal, QIcon::Off);
+    addRenderings(this, &file, pxSize());
     m_must_relayout = false;
 }
 
@@ -180,7 +189,7 @@ void CachedVectorIcon::computeBitmap()
     const float height = float(natural.height());
     if (!natural.isEmpty())
         fillMissingPx(double(width / height), double(height / width));
-    addPixmap(file.pixmap(pxSize()), QIcon::Normal, QIcon::Off);
+    addRenderings(this, &file, pxSize());
 }
 
 // Not const: that is the symbol which applications link.
@@ -198,7 +207,7 @@ QPixmap CachedVectorIcon::toPixmap()
 {
     if (!(m_px_width > 0 && m_px_height > 0))
         return QPixmap();
-    return pixmap(pxSize(), QIcon::Normal, QIcon::Off);
+    return iconPixmap(*this, pxSize(), sharpestRatio());
 }
 
 CachedVectorIcon::Dimension CachedVectorIcon::fillMissingPx(

@@ -19,6 +19,11 @@ namespace vexo::hox::qt::ui {
 /// rendering. An image beyond 32767 px on a side or 8 Mpx in all is not rendered, nor is an SVG of
 /// so many large shapes that it would take some tenths of a second.
 ///
+/// On a screen with a device pixel ratio above 1 a second rendering has that many more pixels. It
+/// is made for the sharpest screen that there is at that time; after another one has come,
+/// compute() renders for it. Widgets of the library show it in any case, the toolkit's own only
+/// with Qt::AA_UseHighDpiPixmaps, which Panel::setUp() sets.
+///
 /// A file is found as QPixmap finds it: as a resource, in search paths, and without its suffix. One
 /// that cannot be read is no error: the icon keeps what it had and writes a Debug line on the
 /// channel "CVI". Hostile files (no regular file, more than 16 MB or 8 Mpx, an SVG that explodes or
@@ -84,7 +89,8 @@ public:
     /// being derived from the mm again.
     virtual bool mustRelayout();
 
-    /// The rendering at the current size; null when there is none.
+    /// The rendering at the current size; null when there is none. For the sharpest screen: its
+    /// device pixel ratio tells how many of its pixels go to one px.
     QPixmap toPixmap();
 
 private:

@@ -186,7 +186,8 @@ void ImageFile::draw(QPainter *painter, const QRectF &rect)
 {
     const QSize px(painter->device()->width(), painter->device()->height());
     if (read().isValid() && m_renderer
-        && (m_file.isResource() || isRenderedInTime(m_renderer.get(), px, rect)))
+        && (m_file.isResource()
+            || isRenderedInTime(m_renderer.get(), px, painter->deviceTransform().mapRect(rect))))
         m_renderer->render(painter, rect);
 }
 

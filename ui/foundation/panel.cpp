@@ -59,6 +59,8 @@ void setUpSheets(const PanelOptions &options)
 void Panel::setUp(QApplication &application, const PanelOptions &options)
 {
     setUpScale(options);
+    if (application.devicePixelRatio() > 1)
+        QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     if (options.use_style)
         application.setStyle(QStringLiteral("fusion")); // brings a palette of its own
     if (options.use_palette)

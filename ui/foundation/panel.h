@@ -18,7 +18,8 @@ public:
 
     /// Gives \a application the scale, the style, the palette, the fonts and the stylesheets of the
     /// panel, in this order, as far as \a options ask for them. Call it after the application
-    /// object is made and before the first widget is.
+    /// object is made and before the first widget is. On a screen with a device pixel ratio it also
+    /// sets Qt::AA_UseHighDpiPixmaps, so that the toolkit's own buttons show sharp icons.
     ///
     /// Throws std::range_error "Display size not defined!", and has changed nothing, when a size in
     /// \a options is not above 0, or when one that is not given is not known to the screen either.

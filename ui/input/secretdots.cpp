@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/input/secretdots_p.h"
 
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/pixels_p.h"
 
 #include <QPainter>
@@ -46,7 +47,7 @@ void SecretDots::draw(
     const QPointF corner(std::floor(dots.first().x()) - seam, dots.first().y() - seam);
     const QRectF dot = dots.first().translated(-corner);
     const QSize size(truncated(dot.right() + seam) + 1, truncated(dot.bottom() + seam));
-    if (qint64(size.width()) * size.height() > most_kept) {
+    if (pixelRatio(*painter) != 1 || qint64(size.width()) * size.height() > most_kept) {
         QPen bounded = outline; // each might cover the whole field otherwise
         bounded.setWidthF(qMin(outline.widthF(), std::sqrt(double(most_kept))));
         painter->setPen(bounded);
@@ -61,15 +62,13 @@ void SecretDots::draw(
 
 void SecretDots::keep(const QPainter &painter, const QRectF &dot, const QSize &size)
 {
-    const double pixel_ratio = painter.device()->devicePixelRatioF();
     if (dot == m_dot && painter.pen() == m_outline && painter.brush() == m_ink
-        && m_pixmap.size() == size * pixel_ratio)
+        && m_pixmap.size() == size)
         return;
     m_dot = dot;
     m_outline = painter.pen();
     m_ink = painter.brush();
-    m_pixmap = QPixmap(size * pixel_ratio);
-    m_pixmap.setDevicePixelRatio(pixel_ratio);
+    m_pixmap = QPixmap(size);
     m_pixmap.fill(Qt::transparent);
     QPainter dot_painter(&m_pixmap);
     dot_painter.setRenderHint(QPainter::Antialiasing);

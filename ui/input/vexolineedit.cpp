@@ -3,6 +3,7 @@
 
 #include "ui/buttons/vexofeedbackdelegator.h"
 #include "ui/buttons/vexoiconbutton.h"
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/imagefile_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/plainlabel_p.h"
@@ -186,7 +187,7 @@ void VexoLineEdit::setLeadingIcon(const QIcon &icon)
     m_leading_icon = icon;
     const QSize px = pxSize(*m_scaling, m_mm_leading_icon_size).expandedTo(QSize(0, 0));
     const bool is_sane = qint64(px.width()) * px.height() <= ImageFile::MAX_PIXELS;
-    leadingLabel()->setPixmap(is_sane ? icon.pixmap(px, QIcon::Normal, QIcon::Off) : QPixmap());
+    leadingLabel()->setPixmap(is_sane ? iconPixmap(icon, px, sharpestRatio()) : QPixmap());
 }
 
 void VexoLineEdit::setTrailingIcon(const QIcon &icon)
@@ -447,7 +448,7 @@ QLabel *VexoLineEdit::leadingLabel()
 {
     if (m_leading_label)
         return m_leading_label;
-    m_leading_label = showPlain(new SideWidget<QLabel>(this));
+    m_leading_label = showPlain(new SideWidget<IconLabel>(this));
     m_leading_label->installEventFilter(this);
     m_leading_label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
     m_leading_label->setFixedWidth(widgetPx(pxX(*m_scaling, m_mm_leading_icon_size.width())));

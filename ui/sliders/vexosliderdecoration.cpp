@@ -3,6 +3,7 @@
 
 #include "ui/foundation/accessible_p.h"
 #include "ui/foundation/cachedvectoricon.h"
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/tightlayout_p.h"
@@ -60,8 +61,8 @@ VexoSliderDecoration::VexoSliderDecoration(
     QWidget *parent, SliderDecorationStyle style, VexoSlider *slider)
     : QWidget(parent)
     , m_scaling(ScalingInfo::inst())
-    , m_min_icon_label(plainLabel(this))
-    , m_max_icon_label(plainLabel(this))
+    , m_min_icon_label(showPlain(new IconLabel(this)))
+    , m_max_icon_label(showPlain(new IconLabel(this)))
     , m_style(style)
 {
     m_min_icon_label->setObjectName(QStringLiteral("vexoSliderDecorationMinIconLabel"));
@@ -106,8 +107,9 @@ void VexoSliderDecoration::setMaxImage(const QString &file, double width_mm, dou
     if (height_mm > 0)
         m_max_image_height_mm = height_mm;
     const CachedVectorIcon icon(file, QSizeF(m_max_image_width_mm, m_max_image_height_mm));
-    const int largest_px = 999;
-    m_max_icon_label->setPixmap(icon.pixmap(largest_px, largest_px));
+    const QSize largest_px(999, 999);
+    const QSize px(truncated(icon.pxWidth()), truncated(icon.pxHeight()));
+    m_max_icon_label->setPixmap(iconPixmap(icon, px.boundedTo(largest_px), sharpestRatio()));
     m_max_image_file = file;
     showMaxImage();
     if (m_min_container)

@@ -8,10 +8,15 @@
 
 namespace vexo::hox::qt::ui {
 
-QImage logoImage(int width, int height, QImage::Format format)
+QImage logoImage(int width, int height, QImage::Format format, double ratio)
 {
     const QSize px(width, height);
-    return ImageFile::isHoldable(px) ? QImage(px, format) : QImage();
+    if (!ImageFile::isHoldable(px))
+        return QImage();
+    const double held = ImageFile::isHoldable(px * ratio) ? ratio : 1;
+    QImage image(px * held, format);
+    image.setDevicePixelRatio(held);
+    return image;
 }
 
 QRectF logoRect(const QSize &natural, double mm, const QSizeF &room)

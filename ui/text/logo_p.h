@@ -8,8 +8,9 @@ namespace vexo::hox::qt::ui {
 
 class ImageFile;
 
-/// A new image of undefined content; null beyond 8 Mpx, which no panel shows.
-QImage logoImage(int width, int height, QImage::Format format);
+/// A new image of undefined content; null beyond 8 Mpx, which no panel shows. It has \a ratio times
+/// as many pixels where that leaves it within them.
+QImage logoImage(int width, int height, QImage::Format format, double ratio = 1);
 
 /// Where an SVG of the size \a natural stands at a width of \a mm millimetres, centred in \a room
 /// px. Empty when there is nothing to draw: no size, no width, or no number.

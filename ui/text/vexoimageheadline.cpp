@@ -2,6 +2,7 @@
 #include "ui/text/vexoimageheadline.h"
 
 #include "ui/foundation/cachedvectoricon.h"
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/tightlayout_p.h"
@@ -15,7 +16,7 @@ VexoImageHeadline::VexoImageHeadline(QWidget *parent)
     : QWidget(parent)
     , m_scaling(ScalingInfo::inst())
     , m_text_label(plainLabel())
-    , m_icon_label(plainLabel())
+    , m_icon_label(showPlain(new IconLabel))
 {
     setupUi();
 }

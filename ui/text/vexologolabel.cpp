@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/text/vexologolabel.h"
 
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/imagefile_p.h"
 #include "ui/foundation/plainlabel_p.h"
 #include "ui/text/logo_p.h"
@@ -19,7 +20,6 @@ VexoLogoLabel::VexoLogoLabel(QWidget *parent, float width_mm, unsigned int image
     , m_image_height(int(image_height))
 {
     showPlain(this);
-    makeImage();
 }
 
 void VexoLogoLabel::setMmWidth(double mm)
@@ -31,42 +31,47 @@ void VexoLogoLabel::setMmWidth(double mm)
 void VexoLogoLabel::setImageWidth(int px)
 {
     m_image_width = px;
-    makeImage();
+    forgetImage();
 }
 
 void VexoLogoLabel::setImageHeight(int px)
 {
     m_image_height = px;
-    makeImage();
+    forgetImage();
 }
 
 void VexoLogoLabel::paintEvent(QPaintEvent *)
 {
-    const QRectF rect = renderImage();
+    QPainter painter(this);
+    const QRectF rect = renderImage(pixelRatio(painter));
     if (rect.isEmpty() || m_image.isNull())
         return;
-    QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform); // where the image is no whole pixels
     painter.drawImage(rect, m_image, m_image.rect());
 }
 
-void VexoLogoLabel::makeImage()
+void VexoLogoLabel::forgetImage()
 {
-    m_image = logoImage(m_image_width, m_image_height, m_format);
+    m_image = QImage();
     m_drawn_key.clear();
     update();
 }
 
 // A file that has not changed since the last paint need not be drawn again. Returns where it is.
-QRectF VexoLogoLabel::renderImage()
+QRectF VexoLogoLabel::renderImage(double ratio)
 {
     ImageFile file(m_file, ImageFile::Kind::Vector);
     const QSize natural = file.naturalSize();
     const QRectF rect = logoRect(natural, m_width_in_mm, natural);
-    if (m_drawn_key.isEmpty() || m_drawn_key != file.key() || m_drawn_rect != rect)
-        drawLogo(&m_image, &file, rect);
+    const bool is_other_size = m_drawn_key.isEmpty() || m_drawn_ratio != ratio;
+    if (rect.isEmpty() || (!is_other_size && m_drawn_key == file.key() && m_drawn_rect == rect))
+        return rect;
+    if (is_other_size)
+        m_image = logoImage(m_image_width, m_image_height, m_format, ratio);
+    drawLogo(&m_image, &file, rect);
     m_drawn_key = file.key();
     m_drawn_rect = rect;
+    m_drawn_ratio = ratio;
     return rect;
 }
 

@@ -14,6 +14,8 @@ namespace vexo::hox::qt::ui {
 /// image is then shown in the same rectangle of the label. An image of the file's own size and a
 /// width that makes just as many pixels show it one to one.
 ///
+/// On a screen with a device pixel ratio the image has that many times as many pixels.
+///
 /// It sets no size of its own. A file that cannot be read, or changed meanwhile, is noticed at the
 /// next paint; without a readable file or an image nothing is drawn. Set an accessible name, the
 /// label has no text.
@@ -44,8 +46,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void makeImage();
-    QRectF renderImage();
+    void forgetImage();
+    QRectF renderImage(double ratio);
 
     QImage m_image;
     const QImage::Format m_format;
@@ -55,6 +57,7 @@ private:
     int m_image_height;
     QString m_drawn_key; // of the file in the image; empty: draw anew
     QRectF m_drawn_rect; // in the image, px
+    double m_drawn_ratio = 1; // pixels of the screen to one of them
 };
 
 } // namespace vexo::hox::qt::ui

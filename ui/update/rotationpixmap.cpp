@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/update/rotationpixmap.h"
 
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/imagefile_p.h"
 #include "ui/foundation/pixels_p.h"
 
@@ -9,12 +10,30 @@
 
 namespace vexo::hox::qt::ui {
 
+namespace {
+
+// Covers \a px; a frame that would be too large at this ratio comes in fewer pixels.
+QImage frameImage(ImageFile *file, const QSize &px, double ratio)
+{
+    if (px.isEmpty())
+        return QImage();
+    const QSize whole = file->read().scaled(px, Qt::KeepAspectRatioByExpanding);
+    QImage image = file->image(sharpSize(whole, ratio));
+    if (image.isNull() && ratio > 1)
+        return frameImage(file, px, 1);
+    image.setDevicePixelRatio(ratio);
+    return image;
+}
+
+} // namespace
+
 RotationPixmap::RotationPixmap(const QStringList &files, float width_mm, float height_mm)
     : QThread(nullptr)
     , m_timer(new QTimer(this))
     , m_files(files)
     , m_px(pxSize(
           *ScalingInfo::inst(), QSize(truncated(double(width_mm)), truncated(double(height_mm)))))
+    , m_ratio(sharpestRatio())
 {
     setObjectName(QStringLiteral("Pixmap-Rotater"));
     connect(m_timer, &QTimer::timeout, this, &RotationPixmap::onTimeout);
@@ -66,8 +85,7 @@ void RotationPixmap::run()
 {
     for (int i = 0; i < m_files.size() && !isInterruptionRequested(); ++i) {
         ImageFile file(m_files.at(i), ImageFile::Kind::Any);
-        const QSize px = file.read().scaled(m_px, Qt::KeepAspectRatioByExpanding);
-        const QImage image = m_px.isEmpty() ? QImage() : file.image(px);
+        const QImage image = frameImage(&file, m_px, m_ratio);
         const QMutexLocker lock(&m_mutex);
         m_loaded.insert(i, image);
     }

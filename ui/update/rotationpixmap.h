@@ -19,6 +19,8 @@ namespace vexo::hox::qt::ui {
 /// the construction, so that the GUI thread is not held up; a frame that is asked for before it is
 /// loaded, or whose file cannot be read, is a null pixmap. The files are read as those of a
 /// CachedVectorIcon: hostile ones count as unreadable, and vectors come out at the frame's size.
+/// Frames have the pixels that the sharpest screen shows at the construction, and its device pixel
+/// ratio.
 ///
 /// It belongs to the thread that creates it, the GUI thread, which also receives the frames. Its
 /// caller deletes it, also in pixmapRotated(). The
@@ -62,6 +64,7 @@ private:
     const QStringList m_files;
     int m_current_index = 0;
     const QSize m_px; // of each frame
+    const double m_ratio; // pixels of the screen to one of them
     QMutex m_mutex; // guards the next field
     QMap<int, QImage> m_loaded; // handed over by the loading thread
 };

@@ -1,0 +1,48 @@
+#pragma once
+// SPDX-License-Identifier: MIT
+
+#include <QIcon>
+#include <QLabel>
+#include <QPixmap>
+
+class QPainter;
+class QRect;
+class QStyle;
+
+namespace vexo::hox::qt::ui {
+
+/// Pixels of the screen to one of \a painter: 1 where it copies pixels as they are.
+double pixelRatio(const QPainter &painter);
+
+/// That of the sharpest screen: what is rendered before it is shown is rendered for that one.
+double sharpestRatio();
+
+/// Pixels of the screen for \a px at \a ratio: no more than a widget of that size has wherever it
+/// stands, unless it would then count as a smaller one.
+QSize sharpSize(const QSize &px, double ratio);
+
+/// Of \a icon (Normal, Off) what is shown on \a px at \a ratio: a rendering with that many more
+/// pixels where there is one, which takes the same place. Whether the application has asked for
+/// Qt::AA_UseHighDpiPixmaps does not matter.
+QPixmap iconPixmap(const QIcon &icon, const QSize &px, double ratio);
+
+/// QStyle::drawItemPixmap(), but at ratios that are not whole the pixmap begins on a whole pixel of
+/// the screen: between two of them one is left out.
+void drawIconPixmap(QPainter *painter, const QStyle &style, const QRect &area, int alignment,
+    const QPixmap &pixmap);
+
+/// Moves and stretches \a painter by less than a pixel of the screen, so that \a area begins and
+/// ends on whole ones: on those on which a widget of that rectangle is cut.
+void stretchToScreen(QPainter *painter, const QRect &area);
+
+/// A label that draws its pixmap by drawIconPixmap().
+class IconLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+} // namespace vexo::hox::qt::ui
