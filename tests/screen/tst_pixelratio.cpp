@@ -8,6 +8,7 @@
 #include <CachedVectorIcon>
 #include <Panel>
 #include <RotationPixmap>
+#include <UpdatePage>
 #include <VexoCenteredVectorButton>
 #include <VexoDesignVectorButton>
 #include <VexoFunctionButton>
@@ -271,6 +272,7 @@ private Q_SLOTS:
     void blinkLeavesNoGhost();
     void arrowIsSharp();
     void logoIsSharp();
+    void updateLogoHasThePixelsOfTheScreen();
     void dotsAreRound();
     void capsHaveAllTheirEdges();
 
@@ -407,6 +409,21 @@ void TestPixelRatio::logoIsSharp()
         lightest = qMax(lightest, blue);
     }
     QCOMPARE(lightest - darkest > 60, ratio() > 1);
+}
+
+void TestPixelRatio::updateLogoHasThePixelsOfTheScreen()
+{
+    const QSize px(183, 51);
+    const UpdatePage page;
+    const auto *label = page.findChild<QLabel *>(QStringLiteral("VexoIconLabel"));
+    const QPixmap logo = label->pixmap(Qt::ReturnByValue);
+    QVERIFY(logo.width() >= onScreen(px).width() && logo.height() >= onScreen(px).height());
+    QCOMPARE(logo.size() / logo.devicePixelRatio(), px);
+    if (ratio() == 2) {
+        const QImage drawn(QStringLiteral(":/widgetimages/vexo-inverted@2x.png"));
+        const QColor ground(Qt::black);
+        QCOMPARE(onGround(logo.toImage(), ground), onGround(drawn, ground));
+    }
 }
 
 /// Each dot is one that a painter draws there.

@@ -1,10 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "ui/update/updatepage.h"
 
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/pixels_p.h"
 #include "ui/ui_updatepage.h"
 
 namespace vexo::hox::qt::ui {
+
+namespace {
+
+QPixmap logo()
+{
+    QPixmap plain(QStringLiteral(":/widgetimages/vexo-inverted.png"));
+    const double ratio = sharpestRatio();
+    if (ratio == 1)
+        return plain;
+    const QPixmap large(QStringLiteral(":/widgetimages/vexo-inverted@2x.png"));
+    QPixmap sharp = large.scaled(
+        sharpSize(plain.size(), ratio), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    sharp.setDevicePixelRatio(ratio);
+    return sharp;
+}
+
+} // namespace
 
 UpdatePage::UpdatePage(QWidget *parent)
     : QWidget(parent)
@@ -19,7 +37,7 @@ void UpdatePage::setupUi()
 {
     const ScalingInfo &scaling = *ScalingInfo::inst();
     m_ui->setupUi(this);
-    m_ui->VexoIconLabel->setPixmap(QStringLiteral(":/widgetimages/vexo-inverted.png"));
+    m_ui->VexoIconLabel->setPixmap(logo());
     m_ui->VexoIconLabel->setAccessibleName(QStringLiteral("vexo"));
     m_ui->VexoIconLabel->setFixedHeight(widgetPx(pxY(scaling, 7.0)));
     const QSize gap = pxSize(scaling, QSizeF(6.0, 6.0));
