@@ -10,23 +10,17 @@ endif()
 set(HOXQ_IMAGES_DIR ${PROJECT_BINARY_DIR}/images)
 file(MAKE_DIRECTORY ${HOXQ_IMAGES_DIR})
 
-# Adds a PNG of the given size in pixels to HOXQ_IMAGES, and one of twice as many with "@2x" in its
-# name, which the toolkit takes on screens with a device pixel ratio.
+# Adds one PNG of the given size in pixels to HOXQ_IMAGES.
 function(hoxq_render_image name width height)
   set(source ${PROJECT_SOURCE_DIR}/ui/resources/images/raster/${name}.svg)
   set(image ${HOXQ_IMAGES_DIR}/${name}.png)
-  set(image_2x ${HOXQ_IMAGES_DIR}/${name}@2x.png)
-  math(EXPR width_2x "2 * ${width}")
-  math(EXPR height_2x "2 * ${height}")
   add_custom_command(
-    OUTPUT ${image} ${image_2x}
+    OUTPUT ${image}
     COMMAND ${HOXQ_RSVG_CONVERT} --width ${width} --height ${height} --output ${image} ${source}
-    COMMAND ${HOXQ_RSVG_CONVERT} --width ${width_2x} --height ${height_2x} --output ${image_2x}
-      ${source}
     DEPENDS ${source}
     COMMENT "Rendering ${name}.png"
     VERBATIM)
-  set(HOXQ_IMAGES ${HOXQ_IMAGES} ${image} ${image_2x} PARENT_SCOPE)
+  set(HOXQ_IMAGES ${HOXQ_IMAGES} ${image} PARENT_SCOPE)
 endfunction()
 
 set(HOXQ_IMAGES)

@@ -309,8 +309,6 @@ def images():
     for alias, file in re.findall(r'<file alias="([^"]+)">([^<]+)<',
                                   Path("ui/resources/widgetimages.qrc.in").read_text()):
         name = Path(file).name
-        if "@2x" in alias:
-            continue
         raster = Path("ui/resources/images/raster") / name.replace(".png", ".svg")
         drawing = Path(file.removeprefix("@PROJECT_SOURCE_DIR@/"))
         yield f":/{alias}", name[-3:].upper(), raster if name.endswith(".png") else drawing
@@ -333,8 +331,7 @@ def palette_colors():
 def image_list():
     intro = ("The images in the library, for `CachedVectorIcon`, `addIcon()` and the other\n"
              "operations that take a file. Those in C0 or C13 alone are for dark ground. Sizes\n"
-             "are those of the drawing; an SVG is sharp at each, a PNG at this one and, on screens with a\n"
-             "device pixel ratio, at twice as many pixels: `QIcon` and stylesheets take its `@2x`.")
+             "are those of the drawing; a PNG is sharp at this one, an SVG at each.")
     listed = table(["Path", "Kind", "Size", "Colours"], [image_row(*image) for image in images()])
     return (f"{NOTICE.format('ui/resources/widgetimages.qrc.in')}# Images\n\n{intro}\n\n"
             f"{listed}\n\n![Each of them on C0, C1 and C4](images/images.png)\n\n"

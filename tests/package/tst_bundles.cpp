@@ -141,7 +141,7 @@ void TestBundles::areRegisteredInOrderAndOnlyStylesheetsCompressed()
     QCOMPARE(
         order.mid(0, 2), QStringList({ QStringLiteral("5: fonts"), QStringLiteral("2: css") }));
     QCOMPARE(order.size(), 3);
-    QCOMPARE(registrations.last().paths.size(), 46);
+    QCOMPARE(registrations.last().paths.size(), 40);
 }
 
 void TestBundles::fontsAreThere()
@@ -175,17 +175,12 @@ void TestBundles::imagesHaveTheirSizeAndColors_data()
     rows("20 x 44", "#3c3c3c", "arrowListLeftSvg arrowListRightSvg");
     rows("24 x 44", "#3c3c3c", "generalmenuSvg");
     rows("78 x 44", "#3c3c3c #ffffff", "cb_checked");
-    rows("156 x 88", "#3c3c3c #ffffff", "cb_checked@2x");
     rows("78 x 44", "#3c3c3c #a0a0a0 #ffffff", "cb_unchecked");
-    rows("156 x 88", "#3c3c3c #a0a0a0 #ffffff", "cb_unchecked@2x");
     rows("40 x 42", "#3c3c3c #ffffff", "rb_checked rb_unchecked");
-    rows("80 x 84", "#3c3c3c #ffffff", "rb_checked@2x rb_unchecked@2x");
     rows("72 x 72", "#ffffff", "knob_shadow");
-    rows("144 x 144", "#ffffff", "knob_shadow@2x");
     const QByteArray folder("widgetimages/");
     rows("150 x 40", "#231f20", folder + "vexo.svg");
     rows("183 x 51", "#ffffff", folder + "vexo-inverted.png");
-    rows("366 x 102", "#ffffff", folder + "vexo-inverted@2x.png");
     for (const char *screen : { "Boot", "Update" })
         rows("1024 x 600", "#3c3c3c #ffffff", folder + "Boot/" + screen + "Screen.svg");
     for (const char *arrow : { "back.svg", "forward.svg" })

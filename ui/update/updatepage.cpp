@@ -1,24 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/update/updatepage.h"
 
-#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/pixels_p.h"
 #include "ui/ui_updatepage.h"
 
 namespace vexo::hox::qt::ui {
-
-namespace {
-
-QPixmap logo()
-{
-    QPixmap plain(QStringLiteral(":/widgetimages/vexo-inverted.png"));
-    if (sharpestRatio() == 1)
-        return plain;
-    const QIcon with_more_pixels(QStringLiteral(":/widgetimages/vexo-inverted.png"));
-    return iconPixmap(with_more_pixels, plain.size(), sharpestRatio());
-}
-
-} // namespace
 
 UpdatePage::UpdatePage(QWidget *parent)
     : QWidget(parent)
@@ -33,7 +19,7 @@ void UpdatePage::setupUi()
 {
     const ScalingInfo &scaling = *ScalingInfo::inst();
     m_ui->setupUi(this);
-    m_ui->VexoIconLabel->setPixmap(logo());
+    m_ui->VexoIconLabel->setPixmap(QStringLiteral(":/widgetimages/vexo-inverted.png"));
     m_ui->VexoIconLabel->setAccessibleName(QStringLiteral("vexo"));
     m_ui->VexoIconLabel->setFixedHeight(widgetPx(pxY(scaling, 7.0)));
     const QSize gap = pxSize(scaling, QSizeF(6.0, 6.0));
