@@ -395,8 +395,10 @@ void TestRestyle::changeLooksAsTheToolkitsOwn()
     const ApplicationLook look;
     PanelScale scale(4, 5);
     const QStringList texts = sheets().mid(1) + QStringList{ textOf(DAY), textOf(NIGHT) };
-    for (const QString &before : texts) {
-        for (const QString &after : texts) {
+    for (int i = 0; i < texts.size(); ++i) {
+        for (const int next : { 1, 2 }) {
+            const QString &before = texts[i];
+            const QString &after = texts[(i + next) % texts.size()];
             const auto picture = [&](const std::function<void()> &change) {
                 qApp->setStyleSheet(before);
                 QWidget window;
