@@ -4,46 +4,47 @@
 #include "ui/buttons/styledbackground_p.h"
 #include "ui/buttons/tone_p.h"
 #include "ui/foundation/accessible_p.h"
+#include "ui/foundation/endsprint_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/press_p.h"
 #include "ui/foundation/textblock_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
 
+#include <QDataStream>
 #include <QFontMetrics>
+#include <QIODevice>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPointer>
-#include <QRegion>
 #include <QStyle>
-#include <QtMath>
 
 #include <stdexcept>
+#include <utility>
 
 namespace vexo::hox::qt::ui {
 
-namespace {
-
-QRect wholeInside(const QRectF &area)
+struct VexoPushButton::Ground
 {
-    return QRect(QPoint(qCeil(area.left()), qCeil(area.top())),
-        QPoint(qFloor(area.right()) - 1, qFloor(area.bottom()) - 1));
-}
-
-} // namespace
-
-struct VexoPushButton::GroundLook
-{
-    QRectF inside;
+    QSizeF margin;
     QSizeF radius;
     QColor fill;
     QPen pen;
-    double ratio = 0;
+    EndsPrint ends;
 
-    bool operator==(const GroundLook &other) const
+    QString name() const
     {
-        return inside == other.inside && radius == other.radius && fill == other.fill
-            && pen == other.pen && ratio == other.ratio;
+        QByteArray look;
+        QDataStream stream(&look, QIODevice::WriteOnly);
+        stream << margin << radius << fill << pen;
+        return QLatin1String("VexoPushButton ") + QString::fromLatin1(look.toBase64());
+    }
+
+    bool isOf(const Ground &other) const
+    {
+        return margin == other.margin && radius == other.radius && fill == other.fill
+            && pen == other.pen;
     }
 };
 
@@ -61,11 +62,6 @@ VexoPushButton::VexoPushButton(QWidget *parent)
     , m_mm_icon_size(STANDARD_ICON_SIZE_IN_MM)
     , m_visible_buddies(std::make_unique<VisibleBuddies>())
     , m_styled_background(std::make_unique<StyledBackground>())
-    , m_wrapped_text(std::make_unique<TextBlock>(QTextOption::WordWrap))
-    , m_first_line(std::make_unique<TextBlock>(QTextOption::NoWrap))
-    , m_second_line(std::make_unique<TextBlock>(QTextOption::NoWrap))
-    , m_right_text(std::make_unique<TextBlock>(QTextOption::NoWrap))
-    , m_grounds(std::make_unique<PrintPair<GroundLook>>())
 {
     setupUi();
 }
@@ -369,7 +365,7 @@ void VexoPushButton::mouseMoveEvent(QMouseEvent *event)
         mouseWasMoved(event->pos().x(), event->pos().y(), width(), height());
 }
 
-void VexoPushButton::paintEvent(QPaintEvent *)
+void VexoPushButton::paintEvent(QPaintEvent *event)
 {
     const QPixmap image = shownImage(); // may throw, so before a painter is active
     QPainter painter(this);
@@ -378,7 +374,7 @@ void VexoPushButton::paintEvent(QPaintEvent *)
     if (m_draw_button_border)
         inside.adjust(
             m_px_margin.width(), m_px_margin.height(), -m_px_margin.width(), -m_px_margin.height());
-    drawGround(&painter, inside);
+    drawGround(&painter, inside, event->rect());
     painter.setPen(inkOfNow());
     drawTexts(&painter, inside);
     if (!image.isNull())
@@ -466,8 +462,8 @@ QColor VexoPushButton::fillOfNow() const
     return isChecked() || isDown() ? m_background_clicked_color : m_background_color;
 }
 
-// The outline is dear, so it comes from a print; the even area inside is filled.
-void VexoPushButton::drawGround(QPainter *painter, const QRectF &inside)
+// The outline is dear, so its ends are kept, for up and for down.
+void VexoPushButton::drawGround(QPainter *painter, const QRectF &inside, const QRect &dirty)
 {
     if (!m_draw_button_border) {
         painter->fillRect(inside, fillOfNow());
@@ -475,43 +471,26 @@ void VexoPushButton::drawGround(QPainter *painter, const QRectF &inside)
     }
     if (inside.isEmpty())
         return; // all of it is margin
-    if (painter->deviceTransform().type() > QTransform::TxTranslate || !isKeepable(size())) {
-        drawOutline(painter, inside, fillOfNow());
-        return;
-    }
-    const GroundLook look{ inside, m_px_radius, fillOfNow(), m_pen,
-        painter->device()->devicePixelRatioF() };
-    const Print print = m_grounds->get(look, [&] { return printGround(look); });
-    const QRect even = wholeInside(evenGround(inside));
-    const QRect whole(print.position, print.pixmap.size() / look.ratio);
-    if (even.isValid())
-        painter->fillRect(even, look.fill);
-    for (const QRect &part : QRegion(whole) - even)
-        painter->drawPixmap(QRectF(part), print.pixmap,
-            QRectF(
-                (part.topLeft() - print.position) * look.ratio, QSizeF(part.size()) * look.ratio));
+    Ground now{ m_px_margin, m_px_radius, fillOfNow(), m_pen, EndsPrint() };
+    if (!m_grounds[0] || !m_grounds[0]->isOf(now))
+        std::swap(m_grounds[0], m_grounds[1]);
+    if (!m_grounds[0] || !m_grounds[0]->isOf(now))
+        m_grounds[0] = std::make_unique<Ground>(now);
+    const Ground &ground = *m_grounds[0];
+    m_grounds[0]->ends.draw(
+        painter, size(), now.margin.width() + now.radius.width() + now.pen.widthF(), dirty,
+        [&](QPainter *to, const QSizeF &px) { drawOutline(to, px); },
+        [&] { return ground.name(); });
 }
 
-void VexoPushButton::drawOutline(QPainter *painter, const QRectF &inside, const QColor &fill) const
+void VexoPushButton::drawOutline(QPainter *painter, const QSizeF &size) const
 {
+    const QRectF inside(m_px_margin.width(), m_px_margin.height(),
+        size.width() - 2 * m_px_margin.width(), size.height() - 2 * m_px_margin.height());
     QPainterPath path;
     path.addRoundedRect(inside, m_px_radius.width(), m_px_radius.height(), Qt::AbsoluteSize);
-    painter->fillPath(path, fill);
+    painter->fillPath(path, fillOfNow());
     painter->strokePath(path, m_pen);
-}
-
-Print VexoPushButton::printGround(const GroundLook &look) const
-{
-    const int line = truncated(look.pen.widthF() / 2) + 1;
-    const QRect area = look.inside.toAlignedRect().adjusted(-line, -line, line, line) & rect();
-    QPixmap pixmap(area.size() * look.ratio);
-    pixmap.setDevicePixelRatio(look.ratio);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(-area.topLeft());
-    drawOutline(&painter, look.inside, look.fill);
-    return { pixmap, area.topLeft() };
 }
 
 // Where the fill is even: between the rounded ends and the outline.
@@ -543,7 +522,7 @@ void VexoPushButton::drawTexts(QPainter *painter, const QRectF &inside)
         QRectF right_ground = ground;
         right_ground.setLeft(area.right());
         ground.setRight(qMin(ground.right(), right.left()));
-        drawText(painter, m_right_text.get(), right, m_right_side_text, right_ground);
+        drawText(painter, &m_right_text, right, m_right_side_text, right_ground);
     }
     drawLabel(painter, area, ground, has_two_lines);
 }
@@ -552,7 +531,7 @@ void VexoPushButton::drawLabel(
     QPainter *painter, const QRectF &area, const QRectF &ground, bool has_two_lines)
 {
     if (!has_two_lines) {
-        drawText(painter, m_wrapped_text.get(), area, text(), ground);
+        drawText(painter, &m_wrapped_text, area, text(), ground);
         return;
     }
     QRectF upper = area;
@@ -560,15 +539,20 @@ void VexoPushButton::drawLabel(
     upper.setBottom(height() / 2); // NOLINT(bugprone-integer-division)
     lower.setTop(upper.bottom());
     splitLabel(upper);
-    drawText(painter, m_first_line.get(), upper, m_label.first_line, ground & upper);
-    TextBlock *second = m_label.second_fits ? m_second_line.get() : m_wrapped_text.get();
-    drawText(painter, second, lower, m_label.second_line, ground & lower);
+    drawText(painter, &m_first_line, upper, m_label.first_line, ground & upper);
+    drawText(painter, m_label.second_fits ? &m_second_line : &m_wrapped_text, lower,
+        m_label.second_line, ground & lower);
 }
 
-void VexoPushButton::drawText(QPainter *painter, TextBlock *block, const QRectF &area,
-    const QString &text, const QRectF &ground)
+void VexoPushButton::drawText(QPainter *painter, std::unique_ptr<TextBlock> *block,
+    const QRectF &area, const QString &text, const QRectF &ground)
 {
-    block->draw(painter, area, text, m_text_alignment, { fillOfNow(), ground });
+    if (text.isEmpty())
+        return;
+    if (!*block)
+        *block = std::make_unique<TextBlock>(
+            block == &m_wrapped_text ? QTextOption::WordWrap : QTextOption::NoWrap);
+    (*block)->draw(painter, area, text, m_text_alignment, { fillOfNow(), ground });
 }
 
 } // namespace vexo::hox::qt::ui

@@ -19,9 +19,6 @@ class QFontMetrics;
 
 namespace vexo::hox::qt::ui {
 
-struct Print;
-template <typename Look>
-class PrintPair;
 class ScalingInfo;
 class StyledBackground;
 class TextBlock;
@@ -196,7 +193,7 @@ private:
         bool second_fits = true;
     };
 
-    struct GroundLook;
+    struct Ground;
 
     void change(QColor *color, const QColor &to);
     void storeImage(const QString &path, const QSizeF &mm, ButtonState state);
@@ -206,14 +203,13 @@ private:
     const Label &measuredLabel() const;
     void splitLabel(const QRectF &upper);
     QColor fillOfNow() const;
-    void drawGround(QPainter *painter, const QRectF &inside);
-    void drawOutline(QPainter *painter, const QRectF &inside, const QColor &fill) const;
-    Print printGround(const GroundLook &look) const;
+    void drawGround(QPainter *painter, const QRectF &inside, const QRect &dirty);
+    void drawOutline(QPainter *painter, const QSizeF &size) const;
     QRectF evenGround(const QRectF &inside) const;
     void drawTexts(QPainter *painter, const QRectF &inside);
     void drawLabel(QPainter *painter, const QRectF &area, const QRectF &ground, bool has_two_lines);
-    void drawText(QPainter *painter, TextBlock *block, const QRectF &area, const QString &text,
-        const QRectF &ground);
+    void drawText(QPainter *painter, std::unique_ptr<TextBlock> *block, const QRectF &area,
+        const QString &text, const QRectF &ground);
 
     const ScalingInfo *const m_scaling;
     QSizeF m_mm_icon_size;
@@ -242,11 +238,12 @@ private:
     Qt::Alignment m_text_alignment = Qt::AlignCenter;
 
     const std::unique_ptr<StyledBackground> m_styled_background;
-    const std::unique_ptr<TextBlock> m_wrapped_text; // label, or a second line that is too long
-    const std::unique_ptr<TextBlock> m_first_line;
-    const std::unique_ptr<TextBlock> m_second_line;
-    const std::unique_ptr<TextBlock> m_right_text;
-    const std::unique_ptr<PrintPair<GroundLook>> m_grounds;
+    // Made when they are drawn.
+    std::unique_ptr<TextBlock> m_wrapped_text; // label, or a second line that is too long
+    std::unique_ptr<TextBlock> m_first_line;
+    std::unique_ptr<TextBlock> m_second_line;
+    std::unique_ptr<TextBlock> m_right_text;
+    std::unique_ptr<Ground> m_grounds[2]; // for the looks of now and before
     mutable Label m_label;
     QPixmap m_image; // drawn last
     QSize m_image_px; // place for which it was made
