@@ -55,7 +55,12 @@ QRect VexoLineEdit::cursorArea() const
 // A text may have become secret while it shakes.
 bool VexoLineEdit::showsDots() const
 {
-    return isSecret() || (m_shake->isRunning() && !m_shake_shows_text);
+    return isSecret() || (isShaking() && !m_shake_shows_text);
+}
+
+bool VexoLineEdit::isShaking() const
+{
+    return m_shake && m_shake->isRunning();
 }
 
 QRect VexoLineEdit::shakeArea() const
@@ -105,7 +110,7 @@ void VexoLineEdit::paintEvent(QPaintEvent *event)
     m_painter.setRenderHint(QPainter::Antialiasing);
     m_frame->draw(&m_painter, size(), event->rect());
     const QColor ink = isEnabled() ? m_text_color : m_text_inactive_color;
-    if (m_shake->isRunning())
+    if (isShaking())
         drawShake(ink);
     else if (showsDots())
         drawSecuredText(ink);
@@ -160,8 +165,11 @@ void VexoLineEdit::drawSecuredText(const QColor &ink)
 
 void VexoLineEdit::drawSecuredTextInternal(const QColor &ink, int dx, int count)
 {
-    if (echoMode() != NoEcho) // which does not even tell the length
-        m_dots->draw(&m_painter, dotRects(dx, count), m_frame->pen(), ink);
+    if (echoMode() == NoEcho)
+        return; // it does not even tell the length
+    if (!m_dots)
+        m_dots = std::make_unique<SecretDots>();
+    m_dots->draw(&m_painter, dotRects(dx, count), m_frame->pen(), ink);
 }
 
 void VexoLineEdit::drawShake(const QColor &ink)

@@ -7,6 +7,8 @@
 #include <QTextLayout>
 #include <QVector>
 
+#include <memory>
+
 class QPainter;
 
 namespace vexo::hox::qt::ui {
@@ -30,11 +32,12 @@ public:
     QRectF inkRect(const QRectF &rect, Qt::Alignment alignment) const;
 
 private:
+    void layOut(const Formats &formats);
     QPointF topLeft(const QRectF &rect, Qt::Alignment alignment) const;
 
     QString m_text;
     QFont m_font;
-    QTextLayout m_layout;
+    std::unique_ptr<QTextLayout> m_layout; // null for an empty text
     int m_advance = 0;
 };
 

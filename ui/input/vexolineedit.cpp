@@ -18,6 +18,7 @@
 
 #include <QLabel>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QWidgetAction>
 
 namespace vexo::hox::qt::ui {
@@ -39,18 +40,13 @@ VexoLineEdit::VexoLineEdit(QWidget *parent)
     , m_scaling(ScalingInfo::inst())
     , m_tone_delegator(VexoFeedbackDelegator::tone_delegator)
     , m_cursor_timer(new QTimer(this))
-    , m_leading_label(showPlain(new SideWidget<QLabel>(this)))
-    , m_trailing_button(new SideWidget<VexoIconButton>(this))
     , m_frame(std::make_unique<FieldFrame>())
-    , m_shake(std::make_unique<ShakeMotion>())
-    , m_dots(std::make_unique<SecretDots>())
     , m_composed(std::make_unique<ComposedText>())
     , m_text_run(std::make_unique<TextRun>())
     , m_placeholder_run(std::make_unique<TextRun>())
 {
     makeLineEditsAccessible();
     setupUi();
-    connect(&m_shake_timer, &QTimer::timeout, this, &VexoLineEdit::onShakeAnimationStep);
     connect(this, &QLineEdit::textChanged, this, [this] {
         if (isSecret())
             forgetHistory(this);
@@ -67,17 +63,9 @@ void VexoLineEdit::setupUi()
 {
     connect(m_cursor_timer, &QTimer::timeout, this, &VexoLineEdit::onCursorTimeout);
     setAttribute(Qt::WA_StyledBackground);
-    m_leading_label->installEventFilter(this);
-    m_trailing_button->installEventFilter(this);
-    m_trailing_button->setObjectName(QStringLiteral("trailingButton"));
-    m_trailing_button->setAttribute(Qt::WA_NoMousePropagation); // a release beside it is not ours
-    m_trailing_button->setAccessibleName(tr("Delete"));
     setFocusPolicy(Qt::NoFocus);
     m_font.setWeight(m_font_weight);
-    m_trailing_button->setCanChangeBackgroundColor(false);
     reapplyProperties();
-    m_shake_timer.setSingleShot(true);
-    m_shake_timer.setTimerType(Qt::PreciseTimer);
 }
 
 void VexoLineEdit::reapplyProperties()
@@ -93,8 +81,6 @@ void VexoLineEdit::reapplyProperties()
     setCursorPxPenWidth(1);
     setCursorMsBlinkInterval(600);
     setCursorColor(DEFAULT_CURSOR_COLOR);
-    setMmLeadingIconSize(m_mm_leading_icon_size);
-    setMmTrailingIconSize(m_mm_trailing_icon_size);
 }
 
 void VexoLineEdit::setPlaceholderText(const QString &text)
@@ -198,36 +184,29 @@ void VexoLineEdit::setFontWeight(int weight)
 void VexoLineEdit::setLeadingIcon(const QIcon &icon)
 {
     m_leading_icon = icon;
-    if (!m_leading_label)
-        return;
     const QSize px = pxSize(*m_scaling, m_mm_leading_icon_size).expandedTo(QSize(0, 0));
     const bool is_sane = qint64(px.width()) * px.height() <= ImageFile::MAX_PIXELS;
-    m_leading_label->setPixmap(is_sane ? icon.pixmap(px, QIcon::Normal, QIcon::Off) : QPixmap());
+    leadingLabel()->setPixmap(is_sane ? icon.pixmap(px, QIcon::Normal, QIcon::Off) : QPixmap());
 }
 
 void VexoLineEdit::setTrailingIcon(const QIcon &icon)
 {
     m_trailing_icon = icon;
-    if (m_trailing_button)
-        m_trailing_button->setIcon(icon);
+    trailingButton()->setIcon(icon);
     setMmTrailingIconSize(m_mm_trailing_icon_size);
 }
 
 void VexoLineEdit::setMmLeadingIconSize(const QSizeF &mm)
 {
     m_mm_leading_icon_size = mm;
-    if (m_leading_label) {
-        m_leading_label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-        m_leading_label->setFixedWidth(widgetPx(pxX(*m_scaling, mm.width())));
-    }
+    leadingLabel()->setFixedWidth(widgetPx(pxX(*m_scaling, mm.width())));
     setLeadingIcon(m_leading_icon);
     update();
 }
 
 void VexoLineEdit::setMmTrailingIconSize(const QSizeF &mm)
 {
-    if (m_trailing_button)
-        m_trailing_button->setMmIconSize(mm); // refuses sizes with an exception
+    trailingButton()->setMmIconSize(mm); // refuses sizes with an exception
     m_mm_trailing_icon_size = mm;
     placeSideWidgets();
 }
@@ -301,7 +280,7 @@ void VexoLineEdit::enableLeadingLabelAction()
 {
     m_leading_action = new QWidgetAction(this);
     m_leading_action->setObjectName(QStringLiteral("leadingAction"));
-    m_leading_action->setDefaultWidget(m_leading_label);
+    m_leading_action->setDefaultWidget(leadingLabel());
     addAction(m_leading_action, LeadingPosition);
 }
 
@@ -309,10 +288,8 @@ void VexoLineEdit::enableTrailingButtonAction()
 {
     m_trailing_action = new QWidgetAction(this);
     m_trailing_action->setObjectName(QStringLiteral("trailingAction"));
-    m_trailing_action->setDefaultWidget(m_trailing_button);
+    m_trailing_action->setDefaultWidget(trailingButton());
     addAction(m_trailing_action, TrailingPosition);
-    if (!m_trailing_button)
-        return;
     m_trailing_button->setCanChangeBackgroundColor(false);
     connect(m_trailing_button, &VexoIconButton::clicked, this, &VexoLineEdit::deleteButtonClick);
 }
@@ -320,8 +297,15 @@ void VexoLineEdit::enableTrailingButtonAction()
 void VexoLineEdit::shake(
     unsigned int duration_ms, unsigned int oscillations, unsigned int amplitude_px, bool show_text)
 {
+    if (!m_shake) {
+        m_shake = std::make_unique<ShakeMotion>();
+        m_shake_timer = std::make_unique<QTimer>();
+        m_shake_timer->setSingleShot(true);
+        m_shake_timer->setTimerType(Qt::PreciseTimer);
+        connect(m_shake_timer.get(), &QTimer::timeout, this, &VexoLineEdit::onShakeAnimationStep);
+    }
     m_shake->start(duration_ms, oscillations, amplitude_px);
-    m_shake_timer.start(m_shake->delay());
+    m_shake_timer->start(m_shake->delay());
     m_shake_shows_text = show_text;
     m_shake_is_alone = false;
 }
@@ -411,20 +395,20 @@ void VexoLineEdit::onCursorTimeout()
     const int x = cursorX(textRect(m_text_run->advance(), m_placeholder_run->advance(), 0));
     if (m_draw_centered || x != m_cursor_x)
         update(); // centred text moves with the cursor
-    else if (!m_shake->isRunning())
+    else if (!isShaking())
         update(cursorArea());
 }
 
 void VexoLineEdit::onShakeAnimationStep()
 {
-    if (!m_shake->step()) {
+    if (!m_shake || !m_shake->step()) {
         m_shake_dot_count = 0;
         m_shake_text.clear();
         m_shake_shows_text = false;
         update();
         return;
     }
-    m_shake_timer.start(m_shake->delay());
+    m_shake_timer->start(m_shake->delay());
     if (m_shake_is_alone)
         update(m_shake_area | shakeArea());
     else
@@ -457,6 +441,36 @@ void VexoLineEdit::calculateCursorPosition()
     const int length = widgetPx(pxY(*m_scaling, m_cursor_mm_height));
     m_cursor_top = (height() - length) / 2;
     m_cursor_bottom = m_cursor_top + length;
+}
+
+QLabel *VexoLineEdit::leadingLabel()
+{
+    if (m_leading_label)
+        return m_leading_label;
+    m_leading_label = showPlain(new SideWidget<QLabel>(this));
+    m_leading_label->installEventFilter(this);
+    m_leading_label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    m_leading_label->setFixedWidth(widgetPx(pxX(*m_scaling, m_mm_leading_icon_size.width())));
+    setLeadingIcon(m_leading_icon);
+    return m_leading_label;
+}
+
+VexoIconButton *VexoLineEdit::trailingButton()
+{
+    if (m_trailing_button)
+        return m_trailing_button;
+    // It rings what the field rings, whatever was installed since.
+    const QScopedValueRollback<VexoFeedbackDelegator *> tone(
+        VexoFeedbackDelegator::tone_delegator, m_tone_delegator);
+    m_trailing_button = new SideWidget<VexoIconButton>(this);
+    m_trailing_button->installEventFilter(this);
+    m_trailing_button->setObjectName(QStringLiteral("trailingButton"));
+    m_trailing_button->setAttribute(Qt::WA_NoMousePropagation); // a release beside it is not ours
+    m_trailing_button->setAccessibleName(tr("Delete"));
+    m_trailing_button->setCanChangeBackgroundColor(false);
+    m_trailing_button->setIcon(m_trailing_icon);
+    m_trailing_button->setMmIconSize(m_mm_trailing_icon_size);
+    return m_trailing_button;
 }
 
 // The toolkit puts them at the ends, but as large as its own small icons, which would cut ours.

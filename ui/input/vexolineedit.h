@@ -216,11 +216,14 @@ private:
     bool isSecret() const;
     void setHeight();
     void calculateCursorPosition();
+    QLabel *leadingLabel();
+    VexoIconButton *trailingButton();
     void placeSideWidgets();
 
     QRectF textRect(int advance, int placeholder_advance, int dx) const;
     int cursorX(const QRectF &text_rect) const;
     QRect cursorArea() const;
+    bool isShaking() const;
     bool showsDots() const;
     QRect shakeArea() const;
     QVector<QRectF> dotRects(int dx, int count) const;
@@ -240,14 +243,14 @@ private:
     QTimer *const m_cursor_timer;
     QPointer<QWidgetAction> m_leading_action;
     QPointer<QWidgetAction> m_trailing_action;
-    const QPointer<QLabel> m_leading_label;
-    const QPointer<VexoIconButton> m_trailing_button;
+    QPointer<QLabel> m_leading_label; // made when it is used; so is all that may be null here
+    QPointer<VexoIconButton> m_trailing_button;
     QFont m_font;
     QRectF m_text_rect; // of what was drawn last, px
     const std::unique_ptr<FieldFrame> m_frame;
     QPen m_cursor_pen = QPen(DEFAULT_CURSOR_COLOR, 1);
     QPainter m_painter;
-    QTimer m_shake_timer;
+    std::unique_ptr<QTimer> m_shake_timer;
     int m_cursor_top = 0; // px
     int m_cursor_bottom = 0; // px
     QPointF m_px_margin;
@@ -277,11 +280,11 @@ private:
     bool m_draw_password_secured = false;
     bool m_draw_centered = false;
     bool m_draw_secured_centered = true;
-    const std::unique_ptr<ShakeMotion> m_shake;
+    std::unique_ptr<ShakeMotion> m_shake;
     int m_shake_dot_count = 0; // painted last, unless 0
     QString m_shake_text; // painted last, unless empty
     bool m_shake_shows_text = false;
-    const std::unique_ptr<SecretDots> m_dots;
+    std::unique_ptr<SecretDots> m_dots;
     const std::unique_ptr<ComposedText> m_composed;
     const std::unique_ptr<TextRun> m_text_run; // the text, or the one that shakes
     const std::unique_ptr<TextRun> m_placeholder_run;
