@@ -1,7 +1,7 @@
 # Reads rows.txt, then the results of all programs, and prints the table. A result is a line
 # "screen what variant kind value"; of several the least disturbed counts, which is the lowest, but
 # for repaints the highest. Ends with 1 when a row has no result, a result no row, or a screen
-# repaints at rest.
+# repaints at rest. The rows of the screen "memory" are classes.
 
 function trim(text) { gsub(/^ +| +$/, "", text); return text }
 
@@ -42,6 +42,9 @@ function printRow(row,    value) {
         if (aim[row] != "" && value > aim[row])
             fail(screen[row] " repaints at rest: " value)
         line(title[row], "", "", value, aimed(row, value))
+    } else if (screen[row] == "memory") { # a screen named so: the bytes that its widgets keep
+        value = ratio(row, "bytes")
+        line(title[row], "", "", shown(value), aimed(row, value))
     } else if (what[row] == "memory") {
         value = ratio(row, "memory")
         line(title[row], "", "", shown(value), aimed(row, value))

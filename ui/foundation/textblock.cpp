@@ -118,6 +118,7 @@ void TextBlock::layOut(
     m_height = m_text.size().height() - qMax(0.0, QFontMetricsF(font).leading());
     QTextLayout layout(m_text.text(), font);
     layout.setTextOption(m_text.textOption());
+    layout.setCacheEnabled(true); // else it would be shaped once more for its extent
     const double widest = layOutLines(&layout, width);
     // drawText() cuts the ends of a line that is too long, and has ways of its own to justify and
     // to place the blanks at the ends of lines that it finds to run from right to left.

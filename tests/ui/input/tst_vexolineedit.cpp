@@ -116,6 +116,7 @@ private Q_SLOTS:
     void shakeEndsByItself();
     void touchesRingAndAskForText();
     void trailingButtonDeletes();
+    void trailingButtonRingsWhatItsFieldRings();
     void mayBeDeletedInItsSignals();
     void tellsNoSecret();
 };
@@ -453,6 +454,26 @@ void TestVexoLineEdit::trailingButtonDeletes()
     }
     QVERIFY_EXCEPTION_THROWN(field.setMmTrailingIconSize(QSizeF(-1, 2)), std::out_of_range);
     QCOMPARE(field.property("m_mm_trailing_icon_size").toSizeF(), QSizeF(4, 4));
+}
+
+/// It is made late, but has the delegator of its field.
+void TestVexoLineEdit::trailingButtonRingsWhatItsFieldRings()
+{
+    Tone first;
+    Tone second;
+    VexoFeedbackDelegator::tone_delegator = &first;
+    VexoLineEdit field;
+    VexoFeedbackDelegator::tone_delegator = nullptr;
+    VexoLineEdit silent;
+    VexoFeedbackDelegator::tone_delegator = &second;
+    for (VexoLineEdit *each : { &field, &silent }) {
+        QVERIFY_EXCEPTION_THROWN(each->setMmTrailingIconSize(QSizeF(-1, 2)), std::out_of_range);
+        each->enableTrailingButtonAction();
+        QTest::mouseClick(each->findChild<VexoIconButton *>(), Qt::LeftButton);
+    }
+    QCOMPARE(first.count, 1);
+    QCOMPARE(second.count, 0);
+    QCOMPARE(VexoFeedbackDelegator::tone_delegator, &second);
 }
 
 void TestVexoLineEdit::mayBeDeletedInItsSignals()
