@@ -20,10 +20,12 @@ function ratio(row, kind) {
 
 function shown(number) { return sprintf(number < 0.0995 ? "%.3f" : "%.2f", number) }
 
-function aimed(row, value) {
-    if (aim[row] == "")
+# Of one value, or of two with an aim each.
+function aimed(row, value, other,    aims) {
+    if (split(aim[row], aims, " ") == 0)
         return ""
-    return "at most " aim[row] (value > aim[row] ? ": missed" : "")
+    return "at most " aims[1] (2 in aims ? ", " aims[2] : "") \
+        (value > aims[1] || (2 in aims && other > aims[2]) ? ": missed" : "")
 }
 
 function dashes(count,    text) {
@@ -32,25 +34,27 @@ function dashes(count,    text) {
     return text
 }
 
-function line(title, cpu, instructions, other, aim) {
-    printf "| %-" width "s | %8s | %12s | %6s | %-20s |\n", title, cpu, instructions, other, aim
+function line(title, cpu, instructions, peak, anonymous, repaints, aim) {
+    printf "| %-" width "s | %8s | %12s | %8s | %9s | %8s | %-26s |\n", \
+        title, cpu, instructions, peak, anonymous, repaints, aim
 }
 
-function printRow(row,    value) {
+function printRow(row,    value, other) {
     if (what[row] == "rest") {
         value = result(row, "library", "repaints")
         if (aim[row] != "" && value > aim[row])
             fail(screen[row] " repaints at rest: " value)
-        line(title[row], "", "", value, aimed(row, value))
+        line(title[row], "", "", "", "", value, aimed(row, value))
     } else if (screen[row] == "memory") { # a screen named so: the bytes that its widgets keep
         value = ratio(row, "bytes")
-        line(title[row], "", "", shown(value), aimed(row, value))
+        line(title[row], "", "", "", shown(value), "", aimed(row, value))
     } else if (what[row] == "memory") {
         value = ratio(row, "memory")
-        line(title[row], "", "", shown(value), aimed(row, value))
+        other = ratio(row, "anonymous")
+        line(title[row], "", "", shown(value), shown(other), "", aimed(row, value, other))
     } else {
         value = ratio(row, "instructions")
-        line(title[row], shown(ratio(row, "cpu")), shown(value), "", aimed(row, value))
+        line(title[row], shown(ratio(row, "cpu")), shown(value), "", "", "", aimed(row, value))
     }
 }
 
@@ -81,9 +85,9 @@ NF != 5 { fail("no result: " $0); next }
     seen[key] = 1
 }
 END {
-    line("What", "CPU time", "Instructions", "Other", "Aim")
-    print "| " dashes(width) " | " dashes(7) ": | " dashes(11) ": | " dashes(5) ": | " \
-        dashes(20) " |"
+    line("What", "CPU time", "Instructions", "Peak RSS", "Anonymous", "Repaints", "Aim")
+    print "| " dashes(width) " | " dashes(7) ": | " dashes(11) ": | " dashes(7) ": | " \
+        dashes(8) ": | " dashes(7) ": | " dashes(26) " |"
     for (row = 1; row <= rows; ++row)
         printRow(row)
     exit failed

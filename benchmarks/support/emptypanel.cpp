@@ -3,6 +3,8 @@
 
 namespace bench {
 
-void setUpPanel() { }
+void setUpFonts() { }
+
+void setUpSheets() { }
 
 } // namespace bench

@@ -52,16 +52,16 @@ qint64 cpuTime()
     return qint64(time.tv_sec) * 1000000000 + time.tv_nsec;
 }
 
-qint64 peakMemory()
+qint64 memory(const char *kind)
 {
     QFile status(QStringLiteral("/proc/self/status"));
     status.open(QIODevice::ReadOnly);
     const QList<QByteArray> lines = status.readAll().split('\n');
     for (const QByteArray &line : lines) {
-        if (line.startsWith("VmHWM:"))
+        if (line.startsWith(kind))
             return line.simplified().split(' ').value(1).toLongLong();
     }
-    qFatal("/proc/self/status names no peak memory");
+    qFatal("/proc/self/status names no %s", kind);
 }
 
 void print(const std::string &subject, const char *kind, double value)

@@ -21,11 +21,12 @@ void stopCounting(const std::string &subject, int times);
 
 /// CPU time of the whole process since it started, ns.
 qint64 cpuTime();
-/// The most memory the process ever had in RAM, KiB.
-qint64 peakMemory();
+/// KiB of a line of /proc/self/status: "VmHWM", the most the process ever had in RAM, or "RssAnon",
+/// what it has there now that comes from no file, which no other process can share.
+qint64 memory(const char *kind);
 
 /// Writes one result as a line "subject kind value". A subject is "screen what variant", a kind
-/// "cpu" (ns), "memory" (KiB) or "repaints".
+/// "cpu" (ns), "memory" or "anonymous" (KiB), or "repaints".
 void print(const std::string &subject, const char *kind, double value);
 
 } // namespace bench

@@ -8,6 +8,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QImage>
+#include <QLayout>
 #include <QMouseEvent>
 #include <QTimer>
 #include <QWidget>
@@ -43,10 +44,36 @@ std::string subject(const std::string &what)
     return HOXQ_BENCHMARK_SCREEN " " + what + " " HOXQ_BENCHMARK_VARIANT;
 }
 
+bool has_stages = false;
+
+// With --stages the start is counted in parts; this ends one.
+void endStage(const char *name)
+{
+    if (!has_stages)
+        return;
+    stopCounting(subject(name), 1);
+    startCounting();
+}
+
+// What show() does, one step after the other.
+void prepareInStages(QWidget *window)
+{
+    window->ensurePolished();
+    const QList<QWidget *> children = window->findChildren<QWidget *>();
+    for (const QWidget *child : children)
+        child->ensurePolished();
+    endStage("polish");
+    if (window->layout())
+        window->layout()->activate();
+    endStage("layout");
+}
+
 void showFirstFrame(QWidget *window)
 {
     const PaintCounter painted;
     window->resize(1280, 800);
+    if (has_stages)
+        prepareInStages(window);
     window->show();
     while (painted.count() == 0)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
@@ -56,7 +83,7 @@ void measureStart(QWidget *window)
 {
     showFirstFrame(window);
     const qint64 time = cpuTime();
-    stopCounting(subject("start"), 1);
+    stopCounting(subject(has_stages ? "frame" : "start"), 1);
     if (!isCounting())
         print(subject("start"), "cpu", double(time));
 }
@@ -129,7 +156,8 @@ void measureScreen(const Screen &screen)
     if (isCounting())
         return;
     measureRest();
-    print(subject("memory"), "memory", double(peakMemory()));
+    print(subject("memory"), "memory", double(memory("VmHWM")));
+    print(subject("memory"), "anonymous", double(memory("RssAnon")));
 }
 
 bool savePicture(QWidget *window, const char *file)
@@ -171,18 +199,26 @@ Action pressAndRelease(const std::vector<QWidget *> &buttons)
 
 } // namespace bench
 
-// Arguments: none, or --start to measure the start alone, or the name of a file for a picture of
-// the screen with its first button held.
+// Arguments: none, or --start to measure the start alone, or --stages to count the parts of it, or
+// the name of a file for a picture of the screen with its first button held.
 int main(int argc, char **argv)
 {
+    const QByteArray mode(argc > 1 ? argv[1] : "");
+    bench::has_stages = mode == "--stages";
+    bench::endStage("load");
     bench::prepareProcess();
     QApplication application(argc, argv);
-    bench::setUpPanel();
+    bench::endStage("application");
+    bench::setUpFonts();
+    bench::endStage("fonts");
+    bench::setUpSheets();
+    bench::endStage("sheets");
     const bench::Screen screen = bench::makeScreen();
-    if (argc > 1 && qstrcmp(argv[1], "--start") != 0)
+    bench::endStage("widgets");
+    if (!mode.isEmpty() && !mode.startsWith("--"))
         return bench::savePicture(screen.window.get(), argv[1]) ? 0 : 1;
     bench::measureStart(screen.window.get());
-    if (argc == 1)
+    if (mode.isEmpty())
         bench::measureScreen(screen);
     return 0;
 }

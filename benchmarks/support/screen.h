@@ -21,8 +21,8 @@ struct Action
     std::function<void()> run;
 };
 
-/// A screen of 1280 x 800 px, and what is measured on it besides its start, its peak memory and
-/// its repaints at rest.
+/// A screen of 1280 x 800 px, and what is measured on it besides its start, its memory and its
+/// repaints at rest.
 struct Screen
 {
     std::unique_ptr<QWidget> window;
@@ -36,8 +36,9 @@ Screen makeScreen();
 /// widgets the look of the library's.
 QString stockStyleSheet();
 
-/// Brings fonts and stylesheet into the application; one definition per variant.
-void setUpPanel();
+/// Bring fonts and stylesheet into the application; one definition of each per variant.
+void setUpFonts();
+void setUpSheets();
 
 /// Paints the whole window.
 Action fullRepaint(QWidget *window);

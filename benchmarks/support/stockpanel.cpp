@@ -2,6 +2,7 @@
 #include "benchmarks/support/screen.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QFontDatabase>
 
 namespace bench {
@@ -10,22 +11,26 @@ namespace {
 
 QString addFont(const char *path)
 {
-    const int id = QFontDatabase::addApplicationFont(QString::fromLatin1(path));
+    const int id = QFontDatabase::addApplicationFont(QFile::decodeName(path));
     return QFontDatabase::applicationFontFamilies(id).value(0);
 }
 
 } // namespace
 
-void setUpPanel()
+void setUpFonts()
 {
-    addFont(":/fonts/DroidSansFallback.ttf");
-    addFont(":/fonts/UniversNextW1G-Medium.otf");
-    addFont(":/fonts/UniversNextW1G-Bold.otf");
-    addFont(":/fonts/UniversNextW1G-Regular.otf");
-    QFont font(addFont(":/fonts/UniversNextW1G-Light.otf"));
+    addFont(HOXQ_FONT_FALLBACK); // files, or resources of the program
+    addFont(HOXQ_FONT_MEDIUM);
+    addFont(HOXQ_FONT_BOLD);
+    addFont(HOXQ_FONT_REGULAR);
+    QFont font(addFont(HOXQ_FONT_LIGHT));
     font.setWeight(QFont::Light);
     font.setPixelSize(24); // 7 pt at 10 px/mm
     QApplication::setFont(font);
+}
+
+void setUpSheets()
+{
     qApp->setStyleSheet(stockStyleSheet());
 }
 

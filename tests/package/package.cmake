@@ -15,10 +15,14 @@ function(hoxq_package_test name)
     FIXTURES_REQUIRED installed ENVIRONMENT "${HOXQ_TEST_ENVIRONMENT}" TIMEOUT 600)
 endfunction()
 
-hoxq_package_test(tst_bundles)
-target_link_libraries(tst_bundles PRIVATE Qt5::Svg ${CMAKE_DL_LIBS})
-target_compile_definitions(tst_bundles PRIVATE
-  HOXQ_LIBRARY="${stage}/${CMAKE_INSTALL_LIBDIR}/$<TARGET_SONAME_FILE_NAME:hoxqui>")
+foreach(name IN ITEMS tst_bundles tst_fontlifetime)
+  hoxq_package_test(${name})
+  target_link_libraries(${name} PRIVATE ${CMAKE_DL_LIBS})
+  target_compile_definitions(${name} PRIVATE
+    HOXQ_LIBRARY="${stage}/${CMAKE_INSTALL_LIBDIR}/$<TARGET_SONAME_FILE_NAME:hoxqui>")
+endforeach()
+target_link_libraries(tst_bundles PRIVATE Qt5::Svg)
+target_link_libraries(tst_fontlifetime PRIVATE Qt5::Widgets)
 # The library finds this program's qRegisterResourceData before the toolkit's.
 set_target_properties(tst_bundles PROPERTIES ENABLE_EXPORTS ON)
 

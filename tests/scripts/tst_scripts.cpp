@@ -47,8 +47,10 @@ void TestScripts::init()
 {
     m_dir = std::make_unique<QTemporaryDir>();
     const QString programs = path("build/gallery/gallery");
-    for (const QString &folder : { path("scripts"), path("build/release"), path("bin"), programs })
+    for (const QString &folder :
+        { path("scripts"), path("benchmarks"), path("build/release"), path("bin"), programs })
         QVERIFY(QDir().mkpath(folder));
+    QVERIFY(QFile::copy(HOXQ_SOURCE "/benchmarks/rows.txt", path("benchmarks/rows.txt")));
     const QDir scripts(HOXQ_SOURCE "/scripts");
     for (const QString &file : scripts.entryList(QDir::Files))
         QVERIFY(QFile::copy(scripts.filePath(file), path("scripts/" + file)));
@@ -96,7 +98,8 @@ void TestScripts::helpIsTheirComment()
 void TestScripts::badArgumentsGetOneLine_data()
 {
     QTest::addColumn<QString>("line");
-    for (const char *line : { "benchmark --bogus", "benchmark one", "docs --bogus",
+    for (const char *line : { "benchmark --bogus", "benchmark one", "benchmark settings --start",
+             "benchmark --start one", "benchmark --start settings list", "docs --bogus",
              "docs --check --pictures", "fuzz", "fuzz --bogus", "fuzz svg 0", "fuzz bogus 1",
              "lint --bogus", "style --bogus", "test --bogus", "test x -y" })
         QTest::newRow(line) << QString(line);

@@ -2,9 +2,11 @@
 #include "ui/foundation/fontloader.h"
 
 #include "ui/foundation/inputfile_p.h"
+#include "ui/foundation/loadedbytes_p.h"
 #include "ui/foundation/panelfont_p.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QFontDatabase>
 
 namespace vexo::hox::qt::ui {
@@ -19,6 +21,21 @@ QFont applicationFont(const QString &family)
     font.setStretch(qBound(1, ScalingInfo::inst()->fontStretch(), largest_stretch));
     setPtSize(font, 7.0);
     return font;
+}
+
+// A path is read to the heap where it names a resource, and once more for each face in use.
+int registered(const QString &name)
+{
+    const qint64 max_bytes = qint64(32) << 20;
+    const InputFile file(name, max_bytes);
+    if (!file.isReadable())
+        return -1;
+    const QByteArray bytes = file.inPlace();
+    if (!keepLoaded(bytes))
+        return QFontDatabase::addApplicationFont(QFileInfo(file.path()).absoluteFilePath());
+    const int id = QFontDatabase::addApplicationFontFromData(bytes);
+    giveBack(bytes); // most of them were read to describe the font, and may never be again
+    return id;
 }
 
 } // namespace
@@ -41,11 +58,7 @@ QString FontLoader::loadFont(const char *path)
     const QString name = QString::fromUtf8(path);
     if (name.isEmpty())
         return QString();
-    const qint64 max_bytes = qint64(32) << 20;
-    InputFile file(name, max_bytes);
-    const int id = file.isResource() ? QFontDatabase::addApplicationFont(name)
-                                     : QFontDatabase::addApplicationFontFromData(file.read());
-    return QFontDatabase::applicationFontFamilies(id).value(0);
+    return QFontDatabase::applicationFontFamilies(registered(name)).value(0);
 }
 
 } // namespace vexo::hox::qt::ui

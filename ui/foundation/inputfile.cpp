@@ -81,6 +81,13 @@ void InputFile::examineFile()
     std::copy(std::begin(stamp), std::end(stamp), m_stamp);
 }
 
+QByteArray InputFile::inPlace() const
+{
+    const bool is_plain
+        = isResource() && QResource(m_path).compressionAlgorithm() == QResource::NoCompression;
+    return is_plain ? m_stored : QByteArray();
+}
+
 QByteArray InputFile::read()
 {
     if (!m_bytes.isNull())

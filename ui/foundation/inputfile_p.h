@@ -18,6 +18,12 @@ public:
 
     bool exists() const { return m_exists; }
     bool isResource() const;
+    /// False for a folder, a pipe and the like.
+    bool isReadable() const { return m_is_readable; }
+    /// Where it was found.
+    QString path() const { return m_path; }
+    /// The content where it lies in the bundle; null for a compressed resource and for a file.
+    QByteArray inPlace() const;
     /// The content; null when it cannot be read.
     QByteArray read();
     /// Stands for the content: files of one key are equal. Empty when there is nothing to read. A

@@ -5,15 +5,34 @@
 #include <FontLoader>
 
 #include <QApplication>
+#include <QDir>
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QPainterPath>
+#include <QProcess>
 #include <QRawFont>
+#include <QResource>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <algorithm>
 
 #include <sys/stat.h>
 
 using namespace vexo::hox::qt::ui;
+
+namespace {
+
+// KiB.
+qint64 anonymousMemory()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    status.open(QIODevice::ReadOnly);
+    const QByteArray text = status.readAll();
+    return text.mid(text.indexOf("RssAnon:") + 8).simplified().split(' ').value(0).toLongLong();
+}
+
+} // namespace
 
 class TestFontLoader : public TestCase
 {
@@ -25,8 +44,16 @@ private Q_SLOTS:
     void lightFaceBecomesTheApplicationsFont();
     void allWeightsAndTheFallbackAreRegistered();
     void hugeStretchIsLimited();
+    void findsFontFiles_data();
+    void findsFontFiles();
+    void bundleThatGoesLeavesAFaceInUse_data();
+    void bundleThatGoesLeavesAFaceInUse();
+    void fallbackTakesNoCopyOfItsBytes();
 
 private:
+    QString copyOf(const char *font, const QString &name) const;
+    QByteArray bundleOf(const QString &file, const QString &compression) const;
+
     const QTemporaryDir m_dir;
 };
 
@@ -81,6 +108,95 @@ void TestFontLoader::hugeStretchIsLimited()
     const PanelScale scale(0.1, 10); // 10000 %, which the toolkit would refuse with a warning
     FontLoader();
     QCOMPARE(QApplication::font().stretch(), 4000);
+}
+
+QString TestFontLoader::copyOf(const char *font, const QString &name) const
+{
+    QFile::copy(QLatin1String(font), m_dir.filePath(name));
+    return m_dir.filePath(name);
+}
+
+void TestFontLoader::findsFontFiles_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<int>("px"); // another in each row: faces in use are kept
+    QTest::newRow("absolute") << copyOf(":/fonts/UniversNextW1G-Bold.otf", QStringLiteral("a.otf"))
+                              << 40;
+    QTest::newRow("relative") << QStringLiteral("a.otf") << 41;
+    QTest::newRow("in a search path") << QStringLiteral("panelfonts:a.otf") << 42;
+    QTest::newRow("resource in a search path")
+        << QStringLiteral("bundle:UniversNextW1G-Bold.otf") << 43;
+}
+
+/// The file of a face is opened when it is first drawn in, here from another folder.
+void TestFontLoader::findsFontFiles()
+{
+    QFETCH(QString, path);
+    QFETCH(int, px);
+    QDir::setSearchPaths(QStringLiteral("panelfonts"), { m_dir.path() });
+    QDir::setSearchPaths(QStringLiteral("bundle"), { QStringLiteral(":/fonts") });
+    const QString folder = QDir::currentPath();
+    QDir::setCurrent(m_dir.path());
+    QFont font(FontLoader::loadFont(qPrintable(path)));
+    QDir::setCurrent(folder);
+    font.setPixelSize(px);
+    font.setWeight(QFont::Bold);
+    QCOMPARE(QRawFont::fromFont(font).styleName(), QStringLiteral("Bold"));
+}
+
+/// A bundle with the one \a file, as bytes that may change or go.
+QByteArray TestFontLoader::bundleOf(const QString &file, const QString &compression) const
+{
+    QFile list(m_dir.filePath(QStringLiteral("list.qrc")));
+    list.open(QIODevice::WriteOnly);
+    list.write("<RCC><qresource><file alias='font'>" + file.toUtf8() + "</file></qresource></RCC>");
+    list.close();
+    QProcess rcc;
+    rcc.start(
+        QStringLiteral(HOXQ_RCC), { QStringLiteral("--binary"), compression, list.fileName() });
+    return rcc.waitForFinished() ? rcc.readAllStandardOutput() : QByteArray();
+}
+
+void TestFontLoader::bundleThatGoesLeavesAFaceInUse_data()
+{
+    QTest::addColumn<QString>("compression");
+    QTest::addColumn<int>("px");
+    QTest::newRow("as it is") << QStringLiteral("--no-compress") << 50;
+    QTest::newRow("compressed") << QStringLiteral("--compress=9") << 51;
+}
+
+void TestFontLoader::bundleThatGoesLeavesAFaceInUse()
+{
+    QFETCH(QString, compression);
+    QFETCH(int, px);
+    QByteArray bundle = bundleOf(
+        copyOf(":/fonts/UniversNextW1G-Medium.otf", QStringLiteral("medium.otf")), compression);
+    const auto *address = reinterpret_cast<const uchar *>(bundle.constData());
+    QVERIFY(QResource::registerResource(address));
+    QFont font(FontLoader::loadFont(":/font"));
+    QVERIFY(QResource(QStringLiteral(":/font")).isValid());
+    font.setPixelSize(px);
+    font.setWeight(QFont::Medium);
+    const QRawFont face = QRawFont::fromFont(font);
+    QCOMPARE(face.styleName(), QStringLiteral("Medium"));
+    QVERIFY(QResource::unregisterResource(address));
+    std::fill(bundle.begin(), bundle.end(), '\0');
+    const QVector<quint32> glyph = face.glyphIndexesForString(QStringLiteral("H"));
+    QVERIFY(!face.pathForGlyph(glyph.value(0)).isEmpty());
+}
+
+/// Of the memory that no other process shares, a face in use and the database's entry are allowed.
+void TestFontLoader::fallbackTakesNoCopyOfItsBytes()
+{
+    FontLoader(); // what the toolkit takes once
+    const qint64 before = anonymousMemory();
+    const int a_quarter_of_a_font_kib = 3451744 / 1024 / 4;
+    for (int i = 0; i < 4; ++i) {
+        const QString family = FontLoader::loadFont(":/fonts/DroidSansFallback.ttf");
+        QVERIFY(QRawFont::fromFont(QFont(family)).supportsCharacter(QChar(0x4e00)));
+    }
+    QVERIFY2(anonymousMemory() - before < 4 * a_quarter_of_a_font_kib,
+        QByteArray::number(anonymousMemory() - before));
 }
 
 QTEST_MAIN(TestFontLoader)
