@@ -177,9 +177,10 @@ int RowColumn::viewHeight() const
     return parentWidget() ? parentWidget()->height() : 0;
 }
 
+// With the row of which only the separator is seen.
 RowColumn::Span RowColumn::seen(int top_px) const
 {
-    return { top_px / pitch(), (top_px + viewHeight() - 1) / pitch() };
+    return { top_px / pitch(), (top_px + viewHeight() - 1 + m_separator_px) / pitch() };
 }
 
 void RowColumn::cover(const Span &span)
