@@ -48,7 +48,8 @@ public:
 RowList *makeList()
 {
     auto *list = new RowList;
-    if (!qEnvironmentVariableIsSet("NOSEP")) list->setSeparatorFactory([] { return new VexoRuler; });
+    if (!qEnvironmentVariableIsSet("NOSEP"))
+        list->setSeparatorFactory([] { return new VexoRuler; });
     list->setModel(new Titles(list));
     return list;
 }

@@ -104,8 +104,7 @@ QWidget *ListsPage::createHeadline()
     row->addWidget(createIndentedText("Contacts", 13, QFont::Medium), 1);
     auto *scroll_bar = new VexoCheckBox;
     scroll_bar->setText("Scroll bar");
-    connect(
-        scroll_bar, &VexoCheckBox::toggled, m_list, &RowList::setScrollBarEnabled);
+    connect(scroll_bar, &VexoCheckBox::toggled, m_list, &RowList::setScrollBarEnabled);
     row->addWidget(scroll_bar);
     addBarType(row, BarType::AlphabeticWithHash, QString::fromUtf8("A–Z"));
     addBarType(row, BarType::Numbers, QString::fromUtf8("0–9"));
@@ -217,6 +216,6 @@ void ListsPage::jump()
 {
     const auto *button = qobject_cast<QPushButton *>(sender());
     const int tenth = button ? button->text().toInt() : 0;
-    m_list->scrollTo(m_contacts.index(tenth * m_contacts.rowCount() / 10),
-        QAbstractItemView::PositionAtTop);
+    m_list->scrollTo(
+        m_contacts.index(tenth * m_contacts.rowCount() / 10), QAbstractItemView::PositionAtTop);
 }

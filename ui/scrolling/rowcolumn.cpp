@@ -140,6 +140,15 @@ void RowColumn::showAnew(int first, int last)
     hideSpare();
 }
 
+void RowColumn::touch(const QPoint &place)
+{
+    const QWidget *part = childAt(place);
+    for (const Row &row : m_rows) {
+        if (isOrHolds(row.widget, part))
+            m_touched = row.widget;
+    }
+}
+
 QWidget *RowColumn::rowAt(int place) const
 {
     const auto row = const_cast<RowColumn *>(this)->position(place);
@@ -240,7 +249,7 @@ void RowColumn::move(const Row &row) const
 RowColumn::Row RowColumn::take(int type)
 {
     const auto spare = std::find_if(m_spare.begin(), m_spare.end(),
-        [=](const Row &row) { return row.type == type && row.widget; });
+        [&](const Row &row) { return row.type == type && row.widget && !isHeld(row); });
     if (spare == m_spare.end())
         return make(type);
     Row row = *spare;
@@ -269,8 +278,7 @@ void RowColumn::releaseFarthest(const Span &span)
 void RowColumn::put(int place, const Span &span)
 {
     const QAbstractItemModel *model = m_list->model();
-    const QModelIndex index
-        = model ? model->index(place, 0, m_list->rootIndex()) : QModelIndex();
+    const QModelIndex index = model ? model->index(place, 0, m_list->rootIndex()) : QModelIndex();
     if (!index.isValid())
         return;
     if (m_rows.size() >= m_capacity)
@@ -323,15 +331,20 @@ RowColumn::Rows::iterator RowColumn::position(int place)
         [](const Row &row, int wanted) { return row.place < wanted; });
 }
 
-// The one outside of it that is last seen again, but for the one with the focus.
+// The focus and the finger stay with what they were given to.
+bool RowColumn::isHeld(const Row &row) const
+{
+    return row.widget == m_touched || isOrHolds(row.widget, QApplication::focusWidget());
+}
+
+// The one outside of it that is last seen again.
 RowColumn::Rows::iterator RowColumn::farthestFrom(const Span &span)
 {
-    const QWidget *focused = QApplication::focusWidget();
     auto farthest = m_rows.end();
     int most = 0;
     for (auto row = m_rows.begin(); row != m_rows.end(); ++row) {
         const int distance = qMax(span.first - row->place, row->place - span.last);
-        if (distance > most && !isOrHolds(row->widget, focused)) {
+        if (distance > most && !isHeld(*row)) {
             most = distance;
             farthest = row;
         }

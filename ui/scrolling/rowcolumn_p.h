@@ -36,6 +36,10 @@ public:
     void cover(int top_px);
     /// What the model says of these places has changed.
     void showAnew(int first, int last);
+    /// A finger is at \a place: what it touches may get the press later, when the scroller hands it
+    /// on, so it shows nothing else until letGo().
+    void touch(const QPoint &place);
+    void letGo() { m_touched.clear(); }
     /// A row of the application is asked something, which may change the model.
     bool isFilling() const { return m_is_filling; }
 
@@ -70,6 +74,7 @@ private:
     Row make(int type) const;
     void setSize(const Row &row) const;
     void move(const Row &row) const;
+    bool isHeld(const Row &row) const;
     Row take(int type);
     void release(Rows::iterator row);
     void releaseFarthest(const Span &span);
@@ -88,6 +93,7 @@ private:
     RowList::SeparatorFactory m_separator_factory;
     Rows m_rows; // sorted by place
     Rows m_spare; // show nothing
+    QPointer<QWidget> m_touched;
     int m_row_px = 1;
     int m_separator_px = 0;
     int m_count = 0;

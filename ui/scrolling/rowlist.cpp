@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QScrollPrepareEvent>
 
 #include <cmath>
 
@@ -21,7 +22,8 @@ namespace {
 QChar firstLetter(const QString &text)
 {
     const QString first = text.trimmed().left(1);
-    return first.isEmpty() ? QChar() : first.normalized(QString::NormalizationForm_D).at(0).toUpper();
+    return first.isEmpty() ? QChar()
+                           : first.normalized(QString::NormalizationForm_D).at(0).toUpper();
 }
 
 } // namespace
@@ -31,6 +33,10 @@ RowList::RowList(QWidget *parent, bool scroll_bar_enabled)
     , m_column(new RowColumn(this))
 {
     connect(m_column, &QObject::destroyed, this, [this] { m_column = nullptr; });
+    connect(this, &RowList::scrollerStateChanged, this, [this](QScroller::State state) {
+        if (m_column && state != QScroller::Pressed)
+            m_column->letGo();
+    });
     setWidget(m_column);
     setMmRowHeight(m_mm_row_height);
 }
@@ -159,6 +165,17 @@ bool RowList::eventFilter(QObject *watched, QEvent *event)
     return VexoVerticalScrollArea::eventFilter(watched, event);
 }
 
+bool RowList::event(QEvent *event)
+{
+    const bool is_touch = event->type() == QEvent::ScrollPrepare
+        && getScroller()->state() != QScroller::Pressed; // else it is asked once more
+    if (m_column && is_touch) {
+        const QPointF place = static_cast<QScrollPrepareEvent *>(event)->startPos();
+        m_column->touch(m_column->mapFrom(this, place.toPoint()));
+    }
+    return VexoVerticalScrollArea::event(event);
+}
+
 void RowList::resizeEvent(QResizeEvent *event)
 {
     VexoVerticalScrollArea::resizeEvent(event);
@@ -285,7 +302,8 @@ void RowList::follow(int top_place)
     if (!m_column)
         return;
     if (m_column->isFilling()) { // it is in the midst of the rows
-        QMetaObject::invokeMethod(this, [=] { follow(top_place); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [=] { follow(top_place); }, Qt::QueuedConnection);
         return;
     }
     const bool is_held = m_top.isValid() && m_top.parent() == m_root;
@@ -297,9 +315,26 @@ void RowList::follow(int top_place)
     m_column->setCount(m_model ? m_model->rowCount(m_root) : 0);
     bar->setValue(place * m_column->pitch() + m_top_px);
     m_is_changing = false;
-    if (bar->value() != before && getScroller()->state() != QScroller::Inactive)
-        getScroller()->resendPrepareEvent();
+    takeScrollerAlong(bar->value() - before);
     layOut();
+}
+
+// The scroller would go on from where it was.
+void RowList::takeScrollerAlong(int px)
+{
+    QScroller *scroller = getScroller();
+    if (px == 0 || scroller->state() == QScroller::Inactive)
+        return;
+    if (scroller->state() != QScroller::Scrolling) {
+        scroller->resendPrepareEvent();
+        return;
+    }
+    const QPointF end = scroller->finalPosition();
+    const double speed = qAbs(scroller->velocity().y() * scroller->pixelPerMeter().y());
+    const double way_px = qAbs(end.y() - (verticalScrollBar()->value() - px));
+    scroller->stop(); // a new flick: asked to move, the toolkit's would run off the other way
+    if (speed > 1)
+        scroller->scrollTo(end + QPointF(0, px), int(1000 * way_px / speed));
 }
 
 void RowList::layOut()

@@ -126,6 +126,7 @@ Q_SIGNALS:
     void clicked(const QModelIndex &index);
 
 protected:
+    bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
@@ -143,6 +144,7 @@ private:
     void rowsWent(const QModelIndex &parent, int first);
     void showAnew(const QModelIndex &from, const QModelIndex &to);
     void follow(int top_place);
+    void takeScrollerAlong(int px);
     void layOut();
     void fetch();
     void tap(QWidget *row);

@@ -36,7 +36,8 @@ private:
 
 QString RowColumnAccessible::text(QAccessible::Text what) const
 {
-    const QWidget *list = widget()->parentWidget() ? widget()->parentWidget()->parentWidget() : nullptr;
+    const QWidget *list
+        = widget()->parentWidget() ? widget()->parentWidget()->parentWidget() : nullptr;
     return what == QAccessible::Name && list ? list->accessibleName()
                                              : QAccessibleWidget::text(what);
 }

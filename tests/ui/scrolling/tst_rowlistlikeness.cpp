@@ -107,7 +107,8 @@ QString Twins::difference()
             .arg(plain_bar->maximum());
     plain_bar->setValue(bar->value());
     settle();
-    shownOnScreen(m_window).save("/tmp/a.png"); shownOnScreen(m_plain_window).save("/tmp/b.png");
+    shownOnScreen(m_window).save("/tmp/a.png");
+    shownOnScreen(m_plain_window).save("/tmp/b.png");
     return shownOnScreen(m_window) == shownOnScreen(m_plain_window)
         ? QString()
         : QStringLiteral("a list of all rows looks different");
