@@ -81,6 +81,7 @@ public:
     QAbstractItemModel *model() const { return m_model; }
     /// Shows the top level of \a model from its first row. Not owned; null empties the list.
     void setModel(QAbstractItemModel *model);
+    /// Whose children are shown; invalid at the top level.
     QModelIndex rootIndex() const { return m_root; }
     /// Shows the children of \a root, from the first one. Invalid, the default, are those of the
     /// top level; so it is again once \a root was removed. An index of another model is ignored.
