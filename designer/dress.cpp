@@ -25,6 +25,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPushButton>
+#include <QStandardItemModel>
 
 using namespace vexo::hox::qt::ui;
 

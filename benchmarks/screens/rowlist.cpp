@@ -48,8 +48,7 @@ public:
 RowList *makeList()
 {
     auto *list = new RowList;
-    if (!qEnvironmentVariableIsSet("NOSEP"))
-        list->setSeparatorFactory([] { return new VexoRuler; });
+    list->setSeparatorFactory([] { return new VexoRuler; });
     list->setModel(new Titles(list));
     return list;
 }

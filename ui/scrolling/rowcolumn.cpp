@@ -131,7 +131,7 @@ void RowColumn::showAnew(int first, int last)
                 continue;
             if (row.type == RowListRow::typeOf(row.index)) {
                 show(row);
-            } else {
+            } else if (rowAt(row.place) == row.widget) {
                 release(position(row.place));
                 put(row.place, { row.place, row.place });
             }
@@ -143,6 +143,7 @@ void RowColumn::showAnew(int first, int last)
 void RowColumn::touch(const QPoint &place)
 {
     const QWidget *part = childAt(place);
+    m_touched.clear();
     for (const Row &row : m_rows) {
         if (isOrHolds(row.widget, part))
             m_touched = row.widget;

@@ -43,6 +43,8 @@ RowList::RowList(QWidget *parent, bool scroll_bar_enabled)
 
 RowList::~RowList()
 {
+    if (m_model)
+        m_model->disconnect(this); // it may be a child
     delete m_column; // its rows may hand on the focus
 }
 
@@ -60,11 +62,7 @@ void RowList::setRootIndex(const QModelIndex &root)
 {
     if (root.isValid() && root.model() != m_model)
         return;
-    const QPersistentModelIndex kept(root);
-    reset();
-    m_root = kept;
-    m_has_root = m_root.isValid();
-    follow(0);
+    start(root);
 }
 
 void RowList::setMmRowHeight(double mm)
@@ -106,23 +104,26 @@ void RowList::scrollTo(const QModelIndex &index, QAbstractItemView::ScrollHint h
         return;
     m_wanted = isVisible() ? QModelIndex() : index;
     m_wanted_hint = hint;
-    getScroller()->stop(); // a flick would go on from where it was
+    if (getScroller()->state() == QScroller::Scrolling)
+        getScroller()->stop(); // a flick would go on from where it was
+    const int before_px = verticalScrollBar()->value();
+    verticalScrollBar()->setValue(valueFor(place, hint));
+    takeScrollerAlong(verticalScrollBar()->value() - before_px);
+}
+
+int RowList::valueFor(int place, QAbstractItemView::ScrollHint hint) const
+{
     const int top_px = place * m_column->pitch();
     const int bottom_px = top_px + m_column->rowHeight() - viewport()->height();
-    QScrollBar *bar = verticalScrollBar();
     switch (hint) {
-    case QAbstractItemView::EnsureVisible:
-        bar->setValue(qMin(top_px, qMax(bottom_px, bar->value())));
-        break;
     case QAbstractItemView::PositionAtTop:
-        bar->setValue(top_px);
-        break;
+        return top_px;
     case QAbstractItemView::PositionAtBottom:
-        bar->setValue(bottom_px);
-        break;
+        return bottom_px;
     case QAbstractItemView::PositionAtCenter:
-        bar->setValue((top_px + bottom_px) / 2);
-        break;
+        return (top_px + bottom_px) / 2;
+    default:
+        return qMin(top_px, qMax(bottom_px, verticalScrollBar()->value()));
     }
 }
 
@@ -167,9 +168,9 @@ bool RowList::eventFilter(QObject *watched, QEvent *event)
 
 bool RowList::event(QEvent *event)
 {
-    const bool is_touch = event->type() == QEvent::ScrollPrepare
-        && getScroller()->state() != QScroller::Pressed; // else it is asked once more
-    if (m_column && is_touch) {
+    const auto state = getScroller()->state();
+    const bool is_held = state == QScroller::Pressed || state == QScroller::Dragging;
+    if (m_column && event->type() == QEvent::ScrollPrepare && !is_held) {
         const QPointF place = static_cast<QScrollPrepareEvent *>(event)->startPos();
         m_column->touch(m_column->mapFrom(this, place.toPoint()));
     }
@@ -197,7 +198,7 @@ void RowList::scrollContentsBy(int dx, int dy)
     const bool is_ready = m_column && !m_is_changing;
     if (is_ready)
         m_column->cover(verticalScrollBar()->value());
-    QScrollArea::scrollContentsBy(dx, dy); // NOLINT(bugprone-parent-virtual-call): all it does
+    VexoVerticalScrollArea::scrollContentsBy(dx, dy);
     if (is_ready)
         fetch();
 }
@@ -242,8 +243,13 @@ void RowList::connectModel()
 
 void RowList::reset()
 {
-    m_root = QPersistentModelIndex();
-    m_has_root = false;
+    start(QModelIndex());
+}
+
+void RowList::start(const QModelIndex &root)
+{
+    m_root = root;
+    m_has_root = root.isValid();
     m_top = QPersistentModelIndex();
     m_top_px = 0;
     if (m_column)
@@ -253,11 +259,13 @@ void RowList::reset()
     follow(0);
 }
 
-// While the rows of the model change, the first one that is seen stays where it is.
+// While the rows of the model change, the first one that is seen stays where it is; but at the top
+// of the list what comes is seen.
 void RowList::holdTop()
 {
     holdPlace();
-    m_top = m_model ? m_model->index(m_top_place, 0, m_root) : QModelIndex();
+    if (m_model && verticalScrollBar()->value() > 0)
+        m_top = m_model->index(m_top_place, 0, m_root);
 }
 
 // The same, but for the row that is seen there.
@@ -341,6 +349,10 @@ void RowList::layOut()
 {
     if (!m_column || !m_is_laid_out)
         return;
+    if (m_column->isFilling()) {
+        QMetaObject::invokeMethod(this, &RowList::layOut, Qt::QueuedConnection);
+        return;
+    }
     m_column->layOut(verticalScrollBar()->value());
     fetch();
 }
@@ -352,7 +364,7 @@ void RowList::fetch()
     if (!m_model || bar->value() < bar->maximum() || !m_model->canFetchMore(m_root))
         return;
     const auto fetch_more = [this] {
-        if (m_model)
+        if (m_model && m_model->canFetchMore(m_root))
             m_model->fetchMore(m_root);
     };
     QMetaObject::invokeMethod(this, fetch_more, Qt::QueuedConnection);

@@ -33,8 +33,9 @@ class VexoVerticalButtonScrollArea;
 /// - Qt::AccessibleTextRole: what assistive technology reads instead of the text.
 ///
 /// All rows have the same height. While rows come, go and move, what is seen stays where it is,
-/// except that rows close up where one is removed. A row that has the focus keeps it while it is
-/// out of sight. A press of a row that scrolls out of sight may be taken back.
+/// except that rows close up where one is removed, and a list at its top stays there. A row that
+/// has the focus keeps it while it is out of sight. A press of a row that scrolls out of sight may
+/// be taken back.
 ///
 /// A list is at most 16,777,215 px high, which are 170,000 rows at 10 px/mm; what follows is not
 /// shown. A slot of clicked() may delete the model or set another one; to delete the list use
@@ -120,13 +121,12 @@ public:
     /// What the row shows that \a part is, or lies in; invalid if it is none.
     QModelIndex indexOf(const QWidget *part) const;
 
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 Q_SIGNALS:
     /// The row of \a index was tapped, or clicked by a key. The model has its checked state.
     void clicked(const QModelIndex &index);
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
@@ -138,6 +138,7 @@ private:
 
     void connectModel();
     void reset();
+    void start(const QModelIndex &root);
     void holdTop();
     void holdPlace();
     void rowsAreLeaving(const QModelIndex &parent, int first, int last);
@@ -151,6 +152,7 @@ private:
     void tap(QWidget *row);
     void jump();
     int placeOf(const QModelIndex &index) const;
+    int valueFor(int place, QAbstractItemView::ScrollHint hint) const;
 
     RowColumn *m_column; // null once another content was set
     QAbstractItemModel *m_model = nullptr;

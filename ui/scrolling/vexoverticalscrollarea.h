@@ -12,6 +12,7 @@ class QMouseEvent;
 
 namespace vexo::hox::qt::ui {
 
+class RowList;
 class TouchWatch;
 class VexoSlider;
 
@@ -56,6 +57,8 @@ private Q_SLOTS:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
+    friend class RowList; // extends scrollContentsBy()
+
     void tuneScroller();
     void watchTouch(QScroller::State state);
     void letGo();

@@ -147,6 +147,10 @@ void TestRowList::whatIsSeenStays()
         QCOMPARE(screen.scrolled() % row_px, 17);
     settle();
     QCOMPARE(wrongPixels(screen), QRect());
+    screen.scroll(0);
+    const QString first = model.at(0).text;
+    model.insert(0, RowModel::entries(3));
+    QVERIFY(textAtTop(screen) != first);
 }
 
 void TestRowList::rowsShowWhatTheModelSays()

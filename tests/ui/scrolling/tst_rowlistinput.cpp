@@ -137,6 +137,12 @@ void TestRowListInput::touchMeansWhatItTouched_data()
         "scrolls far",
         [](ListScreen &screen, std::unique_ptr<RowModel> &) { screen.scroll(900 * row_px); }, true);
     row(
+        "scrolls to an index",
+        [](ListScreen &screen, std::unique_ptr<RowModel> &model) {
+            screen.list->scrollTo(model->index(700));
+        },
+        true);
+    row(
         "rows come above",
         [](ListScreen &, std::unique_ptr<RowModel> &model) {
             model->insert(0, RowModel::entries(300));

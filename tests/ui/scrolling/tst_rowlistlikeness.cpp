@@ -41,7 +41,6 @@ private:
     QString changeLook();
     QString scroll();
     void fillPlain();
-    void expectTop(int first_of_removed = -1);
     int number(int bound) { return int(m_random.bounded(quint32(bound))); }
     int any() { return number(qMax(1, m_model.rowCount())); }
     int value() const { return list.verticalScrollBar()->value(); }
@@ -53,6 +52,8 @@ private:
     QWidget m_plain_window;
     RowList list{ &m_window };
     VexoVerticalScrollArea m_plain{ &m_plain_window };
+    QWidget m_notice{ &m_window }; // lies on the list
+    QWidget m_plain_notice{ &m_plain_window };
 };
 
 Twins::Twins(bool has_separators, quint32 seed)
@@ -63,6 +64,11 @@ Twins::Twins(bool has_separators, quint32 seed)
         list.setSeparatorFactory([] { return new VexoRuler; });
     list.setModel(&m_model);
     m_plain.setWidget(new VexoVerticalScrollContent);
+    for (QWidget *notice : { &m_notice, &m_plain_notice }) {
+        notice->setAutoFillBackground(true);
+        notice->setPalette(QPalette(Qt::magenta));
+        notice->setGeometry(60, 60, 80, 60);
+    }
     for (QWidget *window : { &m_window, &m_plain_window }) {
         window->resize(300, 220);
         window->show();
@@ -106,12 +112,10 @@ QString Twins::difference()
             .arg(bar->maximum())
             .arg(plain_bar->maximum());
     plain_bar->setValue(bar->value());
-    settle();
-    shownOnScreen(m_window).save("/tmp/a.png");
-    shownOnScreen(m_plain_window).save("/tmp/b.png");
-    return shownOnScreen(m_window) == shownOnScreen(m_plain_window)
-        ? QString()
-        : QStringLiteral("a list of all rows looks different");
+    // Painted anew: where a stock area jumps, the toolkit loses what lies on it.
+    const QImage plain = m_plain_window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    return shownOnScreen(m_window) == plain ? QString()
+                                            : QStringLiteral("a list of all rows looks different");
 }
 
 QString Twins::change()
@@ -169,7 +173,7 @@ QString Twins::changeEntry()
 
 QString Twins::changeLook()
 {
-    switch (number(3)) {
+    switch (number(4)) {
     case 0: {
         const QSize size(200 + number(200), 60 + number(300));
         for (QWidget *window : { &m_window, &m_plain_window })
@@ -179,6 +183,12 @@ QString Twins::changeLook()
         return QStringLiteral("resize");
     }
     case 1: {
+        const QRect place(number(200), number(150), 80, 60);
+        for (QWidget *notice : { &m_notice, &m_plain_notice })
+            notice->setGeometry(place);
+        return QStringLiteral("notice moves");
+    }
+    case 2: {
         const bool has_bar = number(2);
         list.setScrollBarEnabled(has_bar);
         m_plain.setScrollBarEnabled(has_bar);
