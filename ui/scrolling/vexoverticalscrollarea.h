@@ -12,7 +12,6 @@ class QMouseEvent;
 
 namespace vexo::hox::qt::ui {
 
-class RowList;
 class TouchWatch;
 class VexoSlider;
 
