@@ -265,25 +265,15 @@ void RowColumn::release(Rows::iterator row)
     m_rows.erase(row);
 }
 
-// A press of it is taken back when it hides.
-void RowColumn::releaseFarthest(const Span &span)
-{
-    const auto farthest = farthestFrom(span);
-    if (farthest == m_rows.end())
-        return;
-    if (farthest->widget && Press::isWithin(farthest->widget))
-        farthest->widget->hide();
-    release(farthest);
-}
-
 void RowColumn::put(int place, const Span &span)
 {
     const QAbstractItemModel *model = m_list->model();
     const QModelIndex index = model ? model->index(place, 0, m_list->rootIndex()) : QModelIndex();
     if (!index.isValid())
         return;
-    if (m_rows.size() >= m_capacity)
-        releaseFarthest(span);
+    const auto farthest = m_rows.size() < m_capacity ? m_rows.end() : farthestFrom(span);
+    if (farthest != m_rows.end())
+        release(farthest);
     Row row = take(RowListRow::typeOf(index));
     row.place = place;
     row.index = index;
@@ -335,7 +325,8 @@ RowColumn::Rows::iterator RowColumn::position(int place)
 // The focus and the finger stay with what they were given to.
 bool RowColumn::isHeld(const Row &row) const
 {
-    return row.widget == m_touched || isOrHolds(row.widget, QApplication::focusWidget());
+    return row.widget == m_touched || isOrHolds(row.widget, QApplication::focusWidget())
+        || (row.widget && Press::isWithin(row.widget));
 }
 
 // The one outside of it that is last seen again.

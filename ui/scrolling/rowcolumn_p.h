@@ -77,7 +77,6 @@ private:
     bool isHeld(const Row &row) const;
     Row take(int type);
     void release(Rows::iterator row);
-    void releaseFarthest(const Span &span);
     void put(int place, const Span &span);
     void show(const Row &row) const;
     void removeWhatIsGone();

@@ -33,9 +33,8 @@ class VexoVerticalButtonScrollArea;
 /// - Qt::AccessibleTextRole: what assistive technology reads instead of the text.
 ///
 /// All rows have the same height. While rows come, go and move, what is seen stays where it is,
-/// except that rows close up where one is removed, and a list at its top stays there. A row that
-/// has the focus keeps it while it is out of sight. A press of a row that scrolls out of sight may
-/// be taken back.
+/// except that rows close up where one is removed, and a list at its top stays there. A row with
+/// the focus or under a finger is kept while it is out of sight.
 ///
 /// A list is at most 16,777,215 px high, which are 170,000 rows at 10 px/mm; what follows is not
 /// shown. A slot of clicked() may delete the model or set another one; to delete the list use

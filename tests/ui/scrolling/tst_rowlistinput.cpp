@@ -5,6 +5,7 @@
 #include "support/touchscreen.h"
 
 #include <VexoRuler>
+#include <VexoSlider>
 #include <VexoVerticalButtonScrollArea>
 
 #include <QAccessible>
@@ -44,6 +45,7 @@ private Q_SLOTS:
     void modelMayRefuse();
     void touchMeansWhatItTouched_data();
     void touchMeansWhatItTouched();
+    void heldSliderStaysWithItsRow();
     void slotMay_data();
     void slotMay();
     void keysReachEachRow();
@@ -185,6 +187,42 @@ void TestRowListInput::touchMeansWhatItTouched()
     finger.press(screen.placeOf(5));
     finger.lift();
     QCOMPARE(screen.clicked, QStringList{ model->at(5).text });
+}
+
+void TestRowListInput::heldSliderStaysWithItsRow()
+{
+    RowModel model;
+    model.insert(0, RowModel::entries(1000, RowList::UserRow));
+    ListScreen screen(&model);
+    screen.list->setRowFactory([](int) {
+        auto *slider = new VexoSlider(Qt::Horizontal);
+        slider->setFocusPolicy(Qt::NoFocus); // else it keeps its row
+        slider->setMaximum(100);
+        slider->finishSliderConfiguration();
+        return slider;
+    });
+    settle();
+    Finger finger(&screen);
+    finger.press(screen.placeOf(3, 5));
+    finger.move({ 60, 0 }, 3);
+    auto *held = qobject_cast<VexoSlider *>(screen.list->rowAt(model.index(3)));
+    QVERIFY(held->isSliderDown());
+    const int value = held->value();
+    QVERIFY(value > 0);
+    const auto scroll_away = [&] {
+        for (int px = 0; px < 3000; px += 20)
+            screen.scroll(px);
+    };
+    scroll_away();
+    finger.move({ 100, 0 }, 3);
+    QCOMPARE(screen.list->indexOf(held).row(), 3);
+    QVERIFY(held->value() > value);
+    finger.lift();
+    screen.scroll(0);
+    finger.press({ 200, 450 }); // another row is touched
+    finger.lift();
+    scroll_away();
+    QVERIFY(screen.list->indexOf(held).row() != 3);
 }
 
 void TestRowListInput::slotMay_data()
