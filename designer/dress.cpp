@@ -3,6 +3,7 @@
 
 #include <ActiveButton>
 #include <CachedVectorIcon>
+#include <RowList>
 #include <ScaleDisplayWidget>
 #include <ScalingInfo>
 #include <VexoColors>
@@ -24,6 +25,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPushButton>
+#include <QStandardItemModel>
 
 using namespace vexo::hox::qt::ui;
 
@@ -141,6 +143,14 @@ void dressWithList(QWidget *area)
 void dressWithMenu(QWidget *button)
 {
     addIcon(button, ":/generalmenuSvg");
+}
+
+void dressWithModel(QWidget *list)
+{
+    auto *model = new QStandardItemModel(list);
+    for (const char *text : { "ab", "cd", "ef", "gh" })
+        model->appendRow(new QStandardItem(QLatin1String(text)));
+    static_cast<RowList *>(list)->setModel(model);
 }
 
 void dressWithPicture(QWidget *panning)

@@ -18,6 +18,7 @@ void dressWithField(QWidget *container);
 void dressWithInfo(QWidget *headline);
 void dressWithList(QWidget *area);
 void dressWithMenu(QWidget *button);
+void dressWithModel(QWidget *list);
 void dressWithPicture(QWidget *panning);
 void dressWithPlus(QWidget *button);
 void dressWithReset(QWidget *button);

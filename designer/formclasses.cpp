@@ -7,6 +7,7 @@
 #include <ActiveButton>
 #include <ActiveVectorButton>
 #include <MeasuredPushButton>
+#include <RowList>
 #include <UpdatePage>
 #include <VexoCenteredVectorButton>
 #include <VexoCheckBox>
@@ -98,6 +99,8 @@ const std::vector<FormClass> &formClasses()
         formClass<VexoVerticalScrollArea>(LISTS, { 70, 50 }, "", 22, "scroll_bar_enabled=true",
             dressWithList, "VexoVerticalScrollContent"),
         formClass<VexoVerticalScrollContent>(LISTS, { 70, 50 }, "", 24, "", dressWithRows),
+        formClass<RowList>(LISTS, { 70, 50 }, "", 22, "scroll_bar_enabled=true; m_mm_row_height=7",
+            dressWithModel),
         formClass<VexoLabeledContainer>(LISTS, { 70, 0 }, "label_text=Caption", 16,
             "label_text=abc; mm_left_margin=1; mm_right_margin=1; mm_top_margin=1; mm_height=14",
             dressWithField),

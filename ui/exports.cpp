@@ -26,6 +26,7 @@
 #include "ui/foundation/vexocolors.h"
 #include "ui/foundation/vexostylesheet.h"
 #include "ui/input/vexolineedit.h"
+#include "ui/scrolling/rowlist.h"
 #include "ui/scrolling/vexoverticalbuttonscrollarea.h"
 #include "ui/scrolling/vexoverticalscrollarea.h"
 #include "ui/scrolling/vexoverticalscrollcontent.h"

@@ -6,18 +6,17 @@
 #include "gallery/widgets/ground.h"
 
 #include <CachedVectorIcon>
+#include <RowList>
 #include <VexoCheckBox>
 #include <VexoColors>
 #include <VexoRadioButton>
+#include <VexoRuler>
 #include <VexoSlider>
 #include <VexoSliderDecoration>
-#include <VexoVerticalScrollArea>
-#include <VexoVerticalScrollContent>
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 using namespace vexo::hox::qt::ui;
@@ -25,51 +24,6 @@ using namespace vexo::hox::qt::ui;
 namespace {
 
 const double indent_in_mm = 3; // of all texts, as of the rows
-const int entries_per_slider = 9;
-
-// In alphabetical order: numbers first, then five persons of each family.
-QStringList contacts()
-{
-    QStringList names{ "1st floor, kitchen", "1st floor, office", "2nd floor, laboratory",
-        "2nd floor, office", "24-hour service", "3rd floor, archive", "3rd floor, hall",
-        "4th floor, roof door", "8 to 8 pharmacy", "9th Street gate" };
-    const QStringList first_names{ "Ada", "Ben", "Clara", "Dario", "Eva", "Finn", "Greta", "Hugo",
-        "Ines", "Jonas", "Leo", "Mia", "Nora", "Paul", "Zoe" };
-    const QStringList families{ "Adler", "Arnold", "Bauer", "Brooks", "Carter", "Cohen", "Diaz",
-        "Dubois", "Ekberg", "Evans", "Fischer", "Fontaine", "Garcia", "Gruber", "Hansen", "Hughes",
-        "Ibrahim", "Ivanova", "Jansen", "Jones", "Keller", "Kowalski", "Lang", "Lopez", "Martin",
-        "Meyer", "Nguyen", "Novak", "Okafor", "Olsen", "Park", "Peeters", "Quandt", "Quinn",
-        "Rossi", "Ryan", "Schmidt", "Silva", "Tanaka", "Thomas", "Ueda", "Urban", "Varga", "Vogel",
-        "Wagner", "Wong", "Xavier", "Xu", "Yilmaz", "Young", "Zeman", "Ziegler" };
-    for (int family = 0; family < families.size(); ++family)
-        for (int person = family % 3; person < first_names.size(); person += 3)
-            names += families.at(family) + ", " + first_names.at(person);
-    return names;
-}
-
-QChar letterOf(const QString &name)
-{
-    return name.at(0).isDigit() ? QChar('#') : name.at(0);
-}
-
-struct EntryKind
-{
-    VexoFunctionButton::VexoFunctionButtonType type;
-    QString remark;
-};
-
-// Of an entry, counted from the last slider.
-EntryKind kindOf(int index)
-{
-    switch (index) {
-    case 2:
-        return { VexoFunctionButton::CheckboxType, ": mute" };
-    case 5:
-        return { VexoFunctionButton::TickAgreementType, ": accept the call" };
-    default:
-        return { VexoFunctionButton::ActionType, "" };
-    }
-}
 
 QLabel *createIndentedText(const QString &text, double pt, int weight)
 {
@@ -87,13 +41,14 @@ QHBoxLayout *createRow(QWidget *parent)
     return row;
 }
 
-VexoSlider *createSlider(const QString &name)
+// Of one line, as between the other parts of the screen.
+QWidget *createSeparator()
 {
-    auto *slider = new VexoSlider(Qt::Horizontal);
-    slider->setAccessibleName(name);
-    slider->setMaximum(100);
-    slider->setValue(60);
-    return slider;
+    auto *ruler = new VexoRuler;
+    ruler->setFirstLineColor(VexoColors::C13);
+    ruler->setRulerStyle(VexoRuler::SettingsUnderHeading);
+    ruler->setFixedHeight(1);
+    return ruler;
 }
 
 // The list's arrow, turned: what was across is then upright.
@@ -120,7 +75,7 @@ QString barSheet()
 } // namespace
 
 ListsPage::ListsPage()
-    : m_list(new VexoVerticalScrollArea)
+    : m_list(new RowList)
     , m_bar(new Bar)
     , m_status(createIndentedText("Flick the list, or touch a letter", 7, QFont::Normal))
     , m_state(createIndentedText("Inactive", 7, QFont::Light))
@@ -149,8 +104,7 @@ QWidget *ListsPage::createHeadline()
     row->addWidget(createIndentedText("Contacts", 13, QFont::Medium), 1);
     auto *scroll_bar = new VexoCheckBox;
     scroll_bar->setText("Scroll bar");
-    connect(
-        scroll_bar, &VexoCheckBox::toggled, m_list, &VexoVerticalScrollArea::setScrollBarEnabled);
+    connect(scroll_bar, &VexoCheckBox::toggled, m_list, &RowList::setScrollBarEnabled);
     row->addWidget(scroll_bar);
     addBarType(row, BarType::AlphabeticWithHash, QString::fromUtf8("A–Z"));
     addBarType(row, BarType::Numbers, QString::fromUtf8("0–9"));
@@ -160,15 +114,18 @@ QWidget *ListsPage::createHeadline()
 
 QWidget *ListsPage::createList()
 {
-    auto *content = new VexoVerticalScrollContent;
-    setGround(content, VexoColors::C13); // seen between the rows
-    content->setObjectName("contacts");
-    content->layout()->setSpacing(1);
-    m_list->setWidget(content);
+    m_list->widget()->setObjectName("contacts");
     m_list->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored); // takes what is left
+    m_list->setSeparatorFactory(createSeparator);
+    m_list->setRowFactory(
+        [this](int type) { return type == RowList::UserRow ? createVolume() : nullptr; });
+    m_list->setRowBinder(
+        [this](QWidget *row, const QModelIndex &index) { showVolume(row, index); });
+    m_list->setModel(&m_contacts);
     setNarrowScrollBar(m_list);
-    addEntries(content->layout());
-    connect(m_list, &VexoVerticalScrollArea::scrollerStateChanged, this, &ListsPage::showState);
+    connect(m_list, &RowList::clicked, this,
+        [this](const QModelIndex &index) { note(index.data().toString()); });
+    connect(m_list, &RowList::scrollerStateChanged, this, &ListsPage::showState);
     return m_list;
 }
 
@@ -204,43 +161,34 @@ void ListsPage::addBarType(QLayout *row, BarType type, const QString &name)
     choice->setChecked(type == BarType::AlphabeticWithHash);
 }
 
-void ListsPage::addEntries(QLayout *entries)
-{
-    const QStringList names = contacts();
-    for (int i = 0; i < names.size(); ++i) {
-        addRow(entries, i % entries_per_slider, names.at(i));
-        if (i % entries_per_slider == entries_per_slider - 1)
-            addVolume(entries, names.at(i));
-    }
-}
-
-void ListsPage::addRow(QLayout *entries, int index, const QString &name)
-{
-    const EntryKind kind = kindOf(index);
-    auto *row = new Row(nullptr, kind.type);
-    row->setText(name + kind.remark);
-    connect(row, &Row::clicked, this, [this, row] { note(row->text()); });
-    entries->addWidget(row);
-    if (!m_first_rows.contains(letterOf(name)))
-        m_first_rows.insert(letterOf(name), row);
-}
-
-void ListsPage::addVolume(QLayout *entries, const QString &name)
+QWidget *ListsPage::createVolume()
 {
     auto *row = new QWidget;
     setGround(row, VexoColors::C1);
-    row->setFixedHeight(mmY(9.8));
-    row->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    VexoSlider *slider = createSlider("Volume, " + name);
-    auto *decoration
-        = new VexoSliderDecoration(nullptr, VexoSliderDecoration::HorizontalWithoutScale, slider);
+    auto *slider = new VexoSlider(Qt::Horizontal);
+    slider->setMaximum(100);
     QHBoxLayout *layout = createRow(row);
     layout->addWidget(createIndentedText("Volume", 9, QFont::Light), 1);
-    layout->addWidget(decoration);
+    layout->addWidget(
+        new VexoSliderDecoration(nullptr, VexoSliderDecoration::HorizontalWithoutScale, slider));
     m_list->forwardSliderEvents(slider);
-    connect(slider, &VexoSlider::valueChanged, this,
-        [this](int value) { m_status->setText(QString("Volume %1").arg(value)); });
-    entries->addWidget(row);
+    connect(slider, &VexoSlider::valueChanged, this, [this, slider](int value) {
+        const QModelIndex index = m_list->indexOf(slider);
+        if (index.data(Contacts::VolumeRole) == value)
+            return; // the row shows another one
+        m_contacts.setData(index, value, Contacts::VolumeRole);
+        m_status->setText(QString("Volume %1").arg(value));
+    });
+    return row;
+}
+
+void ListsPage::showVolume(QWidget *row, const QModelIndex &index)
+{
+    auto *slider = row->findChild<VexoSlider *>();
+    if (!slider)
+        return;
+    slider->setAccessibleName("Volume, " + index.data().toString());
+    slider->setValue(index.data(Contacts::VolumeRole).toInt());
 }
 
 void ListsPage::note(const QString &text)
@@ -257,23 +205,17 @@ void ListsPage::showState(QScroller::State state)
 void ListsPage::setBarType(BarType type)
 {
     m_bar->setType(type);
-    m_bar->setButtonConnection(this, [this] { jump(); });
-}
-
-void ListsPage::jump()
-{
-    const auto *button = qobject_cast<QPushButton *>(sender());
-    if (!button)
-        return;
-    m_list->getScroller()->stop(); // a flick would go on from where it was
-    m_list->verticalScrollBar()->setValue(targetOf(button->text())->y());
+    if (type == BarType::Numbers)
+        m_bar->setButtonConnection(this, [this] { jump(); });
+    else
+        m_list->connectJumpBar(m_bar);
 }
 
 // A digit is a tenth of the list.
-QWidget *ListsPage::targetOf(const QString &button) const
+void ListsPage::jump()
 {
-    if (QWidget *row = m_first_rows.value(button.at(0)))
-        return row;
-    const QLayout *entries = m_list->widget()->layout();
-    return entries->itemAt(button.toInt() * entries->count() / 10)->widget();
+    const auto *button = qobject_cast<QPushButton *>(sender());
+    const int tenth = button ? button->text().toInt() : 0;
+    m_list->scrollTo(
+        m_contacts.index(tenth * m_contacts.rowCount() / 10), QAbstractItemView::PositionAtTop);
 }

@@ -2,7 +2,7 @@
 #include "gallery/pages/rowspage.h"
 
 #include "gallery/measures.h"
-#include "gallery/widgets/rowlist.h"
+#include "gallery/widgets/rowgroup.h"
 
 #include <CachedVectorIcon>
 #include <VexoColors>
@@ -18,7 +18,7 @@ namespace {
 
 using Row = VexoFunctionButton;
 
-Row *addRow(RowList *list, Row::VexoFunctionButtonType type, const QString &text)
+Row *addRow(RowGroup *list, Row::VexoFunctionButtonType type, const QString &text)
 {
     auto *row = new Row(list, type);
     row->setText(text);
@@ -78,7 +78,7 @@ RowsPage::RowsPage()
 void RowsPage::addCheckBoxes()
 {
     addSection("Check boxes");
-    auto *list = new RowList;
+    auto *list = new RowGroup;
     addRow(list, Row::CheckboxType, "Night mode")->getButtonInstance()->setChecked(true);
     addRow(list, Row::CheckboxType, "Key tone");
     addRow(list, Row::CheckboxType, "Disabled")->setEnabled(false);
@@ -88,7 +88,7 @@ void RowsPage::addCheckBoxes()
 void RowsPage::addActions()
 {
     addSection("Actions");
-    auto *list = new RowList;
+    auto *list = new RowGroup;
     QLabel *signal = createText("The last click appears here.", 7, QFont::Normal);
     for (const char *text : { "Network", "Software update" }) {
         Row *row = addRow(list, Row::ActionType, text);
@@ -102,7 +102,7 @@ void RowsPage::addActions()
 void RowsPage::addRadioButtons()
 {
     addSection("Radio buttons, put into a group");
-    auto *list = new RowList;
+    auto *list = new RowGroup;
     auto *group = new QButtonGroup(list);
     for (const char *text : { "Celsius", "Fahrenheit", "Disabled" })
         group->addButton(addRow(list, Row::RadiobuttonType, text)->getButtonInstance());
@@ -116,7 +116,7 @@ void RowsPage::addRadioButtons()
 void RowsPage::addFullRowChoices()
 {
     addSection("Full-row radio choices, below a parent of their own");
-    auto *list = new RowList;
+    auto *list = new RowGroup;
     addRow(list, Row::FullsizeRadiobuttonType, "Deutsch");
     addRow(list, Row::FullsizeRadiobuttonType, "English")->setChecked(true);
     addRow(list, Row::FullsizeRadiobuttonType, QString::fromUtf8("Français"));
@@ -127,7 +127,7 @@ void RowsPage::addFullRowChoices()
 void RowsPage::addAgreements()
 {
     addSection("Agreements: a tick cannot be taken back");
-    auto *list = new RowList;
+    auto *list = new RowGroup;
     addRow(list, Row::TickAgreementType, "I agree to the terms of use");
     Row *ticked = addRow(list, Row::TickAgreementType, "Ticked and disabled");
     ticked->getButtonInstance()->setChecked(true);
@@ -138,7 +138,7 @@ void RowsPage::addAgreements()
 void RowsPage::addLongTexts()
 {
     addSection("Long texts and other scripts");
-    auto *list = new RowList;
+    auto *list = new RowGroup;
     addRow(list, Row::ActionType,
         QString::fromUtf8("Displayhelligkeitsanpassungsgeschwindigkeitseinstellung"));
     addRow(list, Row::CheckboxType,
@@ -152,7 +152,7 @@ void RowsPage::addLongTexts()
 void RowsPage::addTextAndIcon()
 {
     addSection("Text and icon");
-    auto *list = new RowList;
+    auto *list = new RowGroup;
     VexoHorizontalTextIconButton *light = createTextIconRow("Brightness", "80 %");
     setLightColors(light);
     list->addRow(light);

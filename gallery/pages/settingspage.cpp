@@ -4,7 +4,7 @@
 #include "gallery/measures.h"
 #include "gallery/widgets/ground.h"
 #include "gallery/widgets/question.h"
-#include "gallery/widgets/rowlist.h"
+#include "gallery/widgets/rowgroup.h"
 
 #include <VexoColors>
 #include <VexoFunctionButton>
@@ -25,7 +25,7 @@ namespace {
 const double indent_in_mm = 3; // of all texts, as of the rows
 
 VexoFunctionButton *addRow(
-    RowList *list, VexoFunctionButton::VexoFunctionButtonType type, const QString &text)
+    RowGroup *list, VexoFunctionButton::VexoFunctionButtonType type, const QString &text)
 {
     auto *row = new VexoFunctionButton(list, type);
     row->setText(text);
@@ -40,12 +40,12 @@ QLabel *createIndentedText(const QString &text, double pt, int weight)
     return label;
 }
 
-RowList *addRowList(QVBoxLayout *list, const QString &heading)
+RowGroup *addRowGroup(QVBoxLayout *list, const QString &heading)
 {
     list->addSpacing(mmY(4));
     list->addWidget(createIndentedText(heading, 7, QFont::Normal));
     list->addSpacing(mmY(1));
-    auto *rows = new RowList;
+    auto *rows = new RowGroup;
     list->addWidget(rows);
     return rows;
 }
@@ -112,15 +112,15 @@ void SettingsPage::addDisplay(QVBoxLayout *list)
     setGround(m_brightness, VexoColors::C1);
     connect(m_brightness, &VexoNumericButton::valueChanged, m_status,
         [this](int value) { m_status->setText(QString("Brightness %1 %").arg(value)); });
-    addRowList(list, "Brightness, %")->addRow(m_brightness);
-    RowList *rows = addRowList(list, "Display");
+    addRowGroup(list, "Brightness, %")->addRow(m_brightness);
+    RowGroup *rows = addRowGroup(list, "Display");
     m_night_mode = addRow(rows, Row::CheckboxType, "Night mode");
     addRow(rows, Row::CheckboxType, "Camera, not connected")->setEnabled(false);
 }
 
 void SettingsPage::addLanguages(QVBoxLayout *list)
 {
-    RowList *rows = addRowList(list, "Language");
+    RowGroup *rows = addRowGroup(list, "Language");
     const auto add = [&](const QString &language) {
         Row *row = addRow(rows, Row::FullsizeRadiobuttonType, language);
         connect(row, &Row::clicked, m_status,
@@ -135,7 +135,7 @@ void SettingsPage::addLanguages(QVBoxLayout *list)
 
 void SettingsPage::addTones(QVBoxLayout *list)
 {
-    RowList *rows = addRowList(list, "Key tone");
+    RowGroup *rows = addRowGroup(list, "Key tone");
     auto *group = new QButtonGroup(rows);
     m_short_tone = addRow(rows, Row::RadiobuttonType, "Short");
     group->addButton(m_short_tone->getButtonInstance());
@@ -145,7 +145,7 @@ void SettingsPage::addTones(QVBoxLayout *list)
 
 void SettingsPage::addService(QVBoxLayout *list)
 {
-    RowList *rows = addRowList(list, "Service");
+    RowGroup *rows = addRowGroup(list, "Service");
     Row *reset = addRow(rows, Row::ActionType, "Reset to factory settings");
     connect(reset, &Row::clicked, this, &SettingsPage::askForReset);
     m_agreement = addRow(rows, Row::TickAgreementType, "I agree to the terms of use");

@@ -151,7 +151,8 @@ QString Crowd::change()
         // The toolkit moves pixels that are not yet painted anew, also those of its own widgets.
         settle();
         QScrollBar *bar = m_area->verticalScrollBar();
-        bar->setValue(bar->value() + number(41) - 20);
+        const int most = number(4) == 0 ? 400 : 20; // a jump, or a step
+        bar->setValue(bar->value() + number(2 * most + 1) - most);
         return QStringLiteral("scroll");
     }
     return changeMember();

@@ -4,6 +4,7 @@
 #include <ActiveButton>
 #include <ActiveVectorButton>
 #include <MeasuredPushButton>
+#include <RowList>
 #include <ScaleDisplayWidget>
 #include <UpdateMainWindow>
 #include <UpdatePage>
@@ -39,6 +40,7 @@
 #include <QPixmap>
 #include <QPointF>
 #include <QSizeF>
+#include <QStringListModel>
 #include <QVariant>
 
 using namespace vexo::hox::qt::ui;
@@ -49,6 +51,14 @@ template <typename Widget>
 QWidget *make(QWidget *parent)
 {
     return new Widget(parent);
+}
+
+QWidget *makeRowList(QWidget *parent)
+{
+    auto *list = new RowList(parent);
+    const QStringList texts{ QStringLiteral("Row"), QStringLiteral("Another row") };
+    list->setModel(new QStringListModel(texts, list));
+    return list;
 }
 
 QWidget *makeScale(QWidget *parent)
@@ -72,6 +82,7 @@ const std::vector<WalkedClass> &walkedClasses()
         { "ActiveButton", make<ActiveButton> },
         { "ActiveVectorButton", make<ActiveVectorButton> },
         { "MeasuredPushButton", make<MeasuredPushButton> },
+        { "RowList", makeRowList },
         { "ScaleDisplayWidget", makeScale },
         { "UpdateMainWindow", make<UpdateMainWindow> },
         { "UpdatePage", make<UpdatePage> },

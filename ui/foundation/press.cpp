@@ -89,6 +89,12 @@ bool Press::isOn(const QWidget *widget)
     return state().watch && state().widget == widget;
 }
 
+bool Press::isWithin(const QWidget *whole)
+{
+    const QWidget *pressed = state().watch ? state().widget.data() : nullptr;
+    return pressed && (pressed == whole || whole->isAncestorOf(pressed));
+}
+
 bool Press::wasTakenBack(const QWidget *widget)
 {
     return !state().watch && (state().widget == widget || state().is_nobodys);

@@ -33,6 +33,8 @@ public:
     /// left button, or if a scroller has held it back until \a widget was out of reach.
     static bool begin(QWidget *widget, QMouseEvent *event, const QPoint &position = QPoint());
     static bool isOn(const QWidget *widget);
+    /// Whether what is pressed is \a whole or a part of it.
+    static bool isWithin(const QWidget *whole);
     /// The finger may still be on it.
     static bool wasTakenBack(const QWidget *widget);
 

@@ -13,6 +13,33 @@
 
 namespace vexo::hox::qt::ui {
 
+namespace {
+
+void repaint(QWidget *widget)
+{
+    widget->update();
+    const auto parts = widget->findChildren<QWidget *>(); // opaque ones are left out otherwise
+    for (QWidget *part : parts)
+        part->update();
+}
+
+// What lies over \a area of \a widget and is no part of it.
+void repaintAbove(const QWidget *widget, QRect area)
+{
+    for (; !widget->isWindow(); widget = widget->parentWidget()) {
+        area.translate(widget->pos());
+        const QObjectList &siblings = widget->parentWidget()->children();
+        for (int i = siblings.size() - 1; siblings.at(i) != widget; --i) {
+            auto *above = qobject_cast<QWidget *>(siblings.at(i));
+            const bool is_there = above && !above->isWindow() && above->isVisible();
+            if (is_there && above->geometry().intersects(area))
+                repaint(above);
+        }
+    }
+}
+
+} // namespace
+
 VexoVerticalScrollArea::VexoVerticalScrollArea(QWidget *parent, bool scroll_bar_enabled)
     : QScrollArea(parent)
     , m_scroller(QScroller::scroller(this))
@@ -78,9 +105,13 @@ void VexoVerticalScrollArea::release(QMouseEvent *event)
     hand(QScroller::InputRelease, event);
 }
 
+// The toolkit paints the strip that comes into sight over a dialog or a notice that lies there.
 void VexoVerticalScrollArea::scrollContentsBy(int dx, int dy)
 {
     QScrollArea::scrollContentsBy(dx, dy);
+    const QRect view = viewport()->rect();
+    const QRegion strip = QRegion(view) - view.translated(0, dy);
+    repaintAbove(viewport(), strip.boundingRect());
 }
 
 // Seconds, metres, metres per second.

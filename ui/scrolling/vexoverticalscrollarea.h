@@ -57,6 +57,8 @@ private Q_SLOTS:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
+    friend class RowList; // extends scrollContentsBy()
+
     void tuneScroller();
     void watchTouch(QScroller::State state);
     void letGo();

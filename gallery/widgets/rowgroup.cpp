@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "gallery/widgets/rowlist.h"
+#include "gallery/widgets/rowgroup.h"
 
 #include "gallery/widgets/ground.h"
 
@@ -9,7 +9,7 @@
 
 using vexo::hox::qt::ui::VexoColors;
 
-RowList::RowList()
+RowGroup::RowGroup()
     : m_layout(new QVBoxLayout(this))
 {
     const int line_px = 1; // the ground is seen between the rows
@@ -18,7 +18,7 @@ RowList::RowList()
     m_layout->setContentsMargins(0, line_px, 0, line_px);
 }
 
-void RowList::addRow(QWidget *row)
+void RowGroup::addRow(QWidget *row)
 {
     m_layout->addWidget(row);
 }

@@ -6,10 +6,10 @@
 class QVBoxLayout;
 
 /// Rows below each other with lines of 1 px between them and around all.
-class RowList : public QWidget
+class RowGroup : public QWidget
 {
 public:
-    RowList();
+    RowGroup();
 
     /// Appends \a row, which now belongs to the list.
     void addRow(QWidget *row);

@@ -1,0 +1,314 @@
+// SPDX-License-Identifier: MIT
+#include "support/listscreen.h"
+#include "support/paintcounter.h"
+#include "support/rowmodel.h"
+#include "support/testcase.h"
+#include "support/virtualclock.h"
+
+#include <VexoHorizontalTextIconButton>
+#include <VexoRuler>
+#include <VexoSlider>
+
+#include <QPushButton>
+#include <QStandardItemModel>
+
+#include <climits>
+#include <functional>
+#include <memory>
+
+using namespace vexo::hox::qt::ui;
+
+namespace {
+
+const int row_px = ListScreen::row_px;
+
+using ModelChange = std::function<void(RowModel &)>;
+
+} // namespace
+
+Q_DECLARE_METATYPE(ModelChange)
+
+class TestRowList : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        TestCase::initTestCase();
+        virtualclock::start();
+    }
+    void makesFewWidgets_data();
+    void makesFewWidgets();
+    void scrollStepPaintsOnlyWhatComes();
+    void whatIsSeenStays_data();
+    void whatIsSeenStays();
+    void rowsShowWhatTheModelSays();
+    void scrollsToAnIndex();
+    void showsTheChildrenOfAnIndex();
+    void fetchesMoreAtTheEnd();
+    void factoryMakesRowsOfItsOwn();
+    void survivesWhatIsTakenAway();
+};
+
+void TestRowList::makesFewWidgets_data()
+{
+    QTest::addColumn<int>("types");
+    QTest::newRow("rows of one type") << 1;
+    QTest::newRow("rows of all types") << 5;
+}
+
+void TestRowList::makesFewWidgets()
+{
+    QFETCH(int, types);
+    QVector<RowModel::Entry> entries = RowModel::entries(10000);
+    for (int i = 0; i < entries.size(); ++i)
+        entries[i].type = i % types == 0 ? RowList::ActionRow : i % types;
+    RowModel model;
+    model.insert(0, entries);
+    ListScreen screen(&model);
+    const int most = types == 1 ? 65 : 100; // a row has two children
+    QVERIFY2(screen.widgetCount() < most, qPrintable(QString::number(screen.widgetCount())));
+    QCOMPARE(screen.list->verticalScrollBar()->maximum(), (10000 - 10) * row_px);
+    screen.scroll(5000);
+    const int before = screen.widgetCount();
+    for (int px = 5000; px < 20000; px += 37)
+        screen.scroll(px);
+    for (int px = 400000; px > 390000; px -= 111)
+        screen.scroll(px);
+    QCOMPARE(screen.widgetCount(), before);
+    QCOMPARE(textAtTop(screen), model.at((screen.scrolled() + row_px / 2) / row_px).text);
+    const RowList huge_list;
+    RowModel huge(400000);
+    ListScreen(&huge).scroll(INT_MAX); // is cut
+}
+
+void TestRowList::scrollStepPaintsOnlyWhatComes()
+{
+    RowModel model(1000);
+    ListScreen screen(&model);
+    PaintCounter paints;
+    for (int row = 0; row < 10; ++row)
+        paints.watch(screen.rowAt(row));
+    for (const int px : { 5, 10 }) { // the first one may still lay out
+        screen.scroll(px);
+        paints.take(screen.list);
+    }
+    paints.take(screen.rowAt(4));
+    for (int px = 30; px < 170; px += 20) {
+        screen.scroll(px);
+        QCOMPARE(paints.take(screen.rowAt(4)), 0);
+    }
+    virtualclock::pass(700); // at rest
+    QCOMPARE(paints.take(screen.rowAt(4)), 0);
+    QCOMPARE(wrongPixels(screen), QRect());
+}
+
+void TestRowList::whatIsSeenStays_data()
+{
+    QTest::addColumn<ModelChange>("change");
+    QTest::addColumn<QString>("top"); // row 50 is, when nothing has changed
+    const auto row = [](const char *name, const ModelChange &change, int top = 50) {
+        QTest::newRow(name) << change << QStringLiteral("%1").arg(top);
+    };
+    row("rows come above", [](RowModel &model) { model.insert(10, RowModel::entries(7)); });
+    row("rows come just above", [](RowModel &model) { model.insert(50, RowModel::entries(7)); });
+    row("rows come below", [](RowModel &model) { model.insert(51, RowModel::entries(7)); });
+    row("rows above go", [](RowModel &model) { model.remove(10, 7); });
+    row("all rows above go", [](RowModel &model) { model.remove(0, 50); });
+    row("rows below go", [](RowModel &model) { model.remove(52, 40); });
+    row(
+        "it goes", [](RowModel &model) { model.remove(50, 2); }, 52);
+    row(
+        "it goes with rows above", [](RowModel &model) { model.remove(40, 20); }, 60);
+    row("a row moves up past it", [](RowModel &model) { model.move(90, 3); });
+    row("a row moves down past it", [](RowModel &model) { model.move(3, 90); });
+    row(
+        "it moves", [](RowModel &model) { model.move(50, 3); }, 49);
+    row(
+        "all turn round", [](RowModel &model) { model.turnRound(); }, 149);
+    row(
+        "reset", [](RowModel &model) { model.reset({ { QStringLiteral("1") } }); }, 1);
+}
+
+void TestRowList::whatIsSeenStays()
+{
+    QFETCH(ModelChange, change);
+    QVector<RowModel::Entry> entries(200);
+    for (int i = 0; i < entries.size(); ++i)
+        entries[i].text = QString::number(i);
+    RowModel model;
+    model.insert(0, entries);
+    ListScreen screen(&model);
+    screen.scroll(50 * row_px + 17);
+    change(model);
+    QTEST(textAtTop(screen), "top");
+    if (screen.scrolled() > 0)
+        QCOMPARE(screen.scrolled() % row_px, 17);
+    settle();
+    QCOMPARE(wrongPixels(screen), QRect());
+    screen.scroll(0);
+    const QString first = model.at(0).text;
+    model.insert(0, RowModel::entries(3));
+    QVERIFY(textAtTop(screen) != first);
+}
+
+void TestRowList::rowsShowWhatTheModelSays()
+{
+    QStandardItemModel model;
+    for (int i = 0; i < 100; ++i) {
+        auto *item = new QStandardItem(QString::number(i));
+        item->setData(QStringLiteral("value %1").arg(i), RowList::SecondTextRole);
+        item->setData(QStringLiteral(":/VexoIconGeneralTickSvg"), Qt::DecorationRole);
+        model.appendRow(item);
+    }
+    model.item(1)->setEnabled(false);
+    model.item(2)->setData(QStringLiteral("two"), Qt::AccessibleTextRole);
+    ListScreen screen(&model);
+    const auto row = [&](int i) { return screen.list->rowAt(model.index(i, 0)); };
+    const auto *text_icon = qobject_cast<VexoHorizontalTextIconButton *>(row(0));
+    QVERIFY(text_icon);
+    QCOMPARE(text_icon->property("left_side_text").toString(), QStringLiteral("0"));
+    QCOMPARE(text_icon->property("right_side_text").toString(), QStringLiteral("value 0"));
+    QVERIFY(!text_icon->property("default_image").value<QPixmap>().isNull());
+    QVERIFY(row(0)->isEnabled() && !row(1)->isEnabled());
+    QCOMPARE(row(0)->accessibleName(), QStringLiteral("0"));
+    QCOMPARE(row(2)->accessibleName(), QStringLiteral("two"));
+    model.item(2)->setText(QStringLiteral("new"));
+    model.item(2)->setData(QVariant(), Qt::AccessibleTextRole);
+    QCOMPARE(row(2)->accessibleName(), QStringLiteral("new"));
+    model.item(0)->setCheckState(Qt::Checked); // now it is a row with a check box
+    QVERIFY(screen.rowAt(0)->getButtonInstance()->isChecked());
+    screen.scroll(50 * row_px);
+    for (int i = 50; i < 60; ++i)
+        QVERIFY(row(i)->isEnabled());
+}
+
+void TestRowList::scrollsToAnIndex()
+{
+    RowModel model(1000);
+    ListScreen screen(&model);
+    const auto scrolled = [&](int row, QAbstractItemView::ScrollHint hint) {
+        screen.list->scrollTo(model.index(row), hint);
+        return screen.scrolled();
+    };
+    QCOMPARE(scrolled(500, QAbstractItemView::PositionAtTop), 500 * row_px);
+    QCOMPARE(scrolled(505, QAbstractItemView::EnsureVisible), 500 * row_px);
+    QCOMPARE(scrolled(510, QAbstractItemView::EnsureVisible), 501 * row_px);
+    QCOMPARE(scrolled(500, QAbstractItemView::EnsureVisible), 500 * row_px);
+    QCOMPARE(scrolled(500, QAbstractItemView::PositionAtBottom), 491 * row_px);
+    QCOMPARE(scrolled(500, QAbstractItemView::PositionAtCenter), 495 * row_px + row_px / 2);
+    const RowModel other(5);
+    screen.list->scrollTo(other.index(2));
+    screen.list->scrollTo(QModelIndex());
+    QCOMPARE(screen.scrolled(), 495 * row_px + row_px / 2);
+
+    QWidget window; // shown later
+    window.resize(300, 10 * row_px);
+    RowList list(&window);
+    list.resize(300, 10 * row_px);
+    list.setModel(&model);
+    list.scrollTo(model.index(700), QAbstractItemView::PositionAtTop);
+    window.show();
+    QCOMPARE(list.verticalScrollBar()->value(), 700 * row_px);
+    list.setProperty("m_mm_row_height", 20.0);
+    QCOMPARE(list.verticalScrollBar()->value(), 700 * 100);
+    QCOMPARE(list.rowAt(model.index(700))->height(), 100);
+}
+
+void TestRowList::showsTheChildrenOfAnIndex()
+{
+    QStandardItemModel model;
+    for (int i = 0; i < 3; ++i) {
+        auto *parent = new QStandardItem(QStringLiteral("parent %1").arg(i));
+        for (int j = 0; j < 30; ++j)
+            parent->appendRow(new QStandardItem(QStringLiteral("child %1 of %2").arg(j).arg(i)));
+        model.appendRow(parent);
+    }
+    ListScreen screen(&model);
+    QCOMPARE(textAtTop(screen), QStringLiteral("parent 0"));
+    const QStandardItemModel other(3, 1);
+    screen.list->setRootIndex(other.index(1, 0));
+    QCOMPARE(screen.list->rootIndex(), QModelIndex());
+    screen.list->setRootIndex(model.index(1, 0));
+    screen.scroll(5 * row_px);
+    QCOMPARE(textAtTop(screen), QStringLiteral("child 5 of 1"));
+    model.removeRow(0);
+    model.item(0)->insertRow(0, new QStandardItem(QStringLiteral("new")));
+    QCOMPARE(textAtTop(screen), QStringLiteral("child 5 of 1"));
+    model.removeRow(0);
+    QCOMPARE(textAtTop(screen), QStringLiteral("parent 2"));
+}
+
+void TestRowList::fetchesMoreAtTheEnd()
+{
+    struct Lazy : RowModel
+    {
+        bool canFetchMore(const QModelIndex &) const override { return rowCount() < 90; }
+        void fetchMore(const QModelIndex &) override { insert(rowCount(), entries(30)); }
+    };
+    Lazy model;
+    ListScreen screen(&model);
+    QCOMPARE(model.rowCount(), 30);
+    screen.scroll(INT_MAX);
+    settle();
+    QCOMPARE(model.rowCount(), 60);
+}
+
+void TestRowList::factoryMakesRowsOfItsOwn()
+{
+    QVector<RowModel::Entry> entries = RowModel::entries(400);
+    for (int i = 0; i < entries.size(); i += 4)
+        entries[i].type = RowList::UserRow;
+    RowModel model;
+    model.insert(0, entries);
+    ListScreen screen(&model);
+    int made = 0;
+    screen.list->setRowBinder(
+        [](QWidget *row, const QModelIndex &index) { row->setToolTip(index.data().toString()); });
+    screen.list->setRowFactory([&](int type) -> QWidget * {
+        made += type == RowList::UserRow;
+        return type == RowList::UserRow ? new VexoSlider(Qt::Horizontal) : nullptr;
+    });
+    for (int px = 0; px < 10000; px += 40)
+        screen.scroll(px);
+    for (int i = 0; i < 400; ++i) {
+        const QWidget *row = screen.list->rowAt(model.index(i));
+        QVERIFY(!row || row->toolTip() == model.at(i).text);
+        QVERIFY(!row || (qobject_cast<const VexoSlider *>(row) != nullptr) == (i % 4 == 0));
+        QVERIFY(!row || row->size() == QSize(400, row_px));
+    }
+    QVERIFY(made > 0 && made < 8);
+    screen.list->setRowFactory({});
+    screen.list->setRowBinder({});
+    settle();
+    QCOMPARE(screen.list->findChildren<VexoSlider *>().size(), 0);
+}
+
+void TestRowList::survivesWhatIsTakenAway()
+{
+    RowModel model(100);
+    ListScreen screen(&model);
+    delete screen.list->rowAt(model.index(2));
+    QCOMPARE(screen.list->rowAt(model.index(2)), nullptr);
+    model.set(2, model.at(2));
+    screen.scroll(20);
+    screen.scroll(0);
+    QVERIFY(screen.rowAt(2));
+    screen.list->setWidget(new QWidget);
+    QCOMPARE(screen.list->rowAt(model.index(2)), nullptr);
+    model.insert(0, RowModel::entries(5));
+    screen.list->setModel(nullptr);
+    screen.list->setMmRowHeight(5);
+    screen.list->setRowFactory({});
+    screen.list->setSeparatorFactory([] { return new VexoRuler; });
+    screen.list->scrollTo(model.index(5));
+    screen.resize(300, 300);
+    settle();
+    const std::unique_ptr<RowList> hidden = std::make_unique<RowList>();
+    hidden->setModel(&model);
+    model.remove(0, 90);
+}
+
+QTEST_MAIN(TestRowList)
+#include "tst_rowlist.moc"
