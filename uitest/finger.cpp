@@ -24,7 +24,8 @@ const int bounce_contact_ms = 10;
 QPointF pxOf(const QPointF &mm)
 {
     const auto *scaling = ui::ScalingInfo::inst();
-    return QPointF(double(scaling->mm2px_X(float(mm.x()))), double(scaling->mm2px_Y(float(mm.y()))));
+    return QPointF(
+        double(scaling->mm2px_X(float(mm.x()))), double(scaling->mm2px_Y(float(mm.y()))));
 }
 
 QPointF centreOf(const QWidget *widget)
@@ -122,8 +123,8 @@ void Finger::slideOff(QWidget *target, Qt::Edge edge, double mm)
 void Finger::touch(QWidget *target, const QPointF &from_mm, const Way &way)
 {
     if (!target || !m_window || !m_window->windowHandle()) {
-        m_problem = QStringLiteral("there is no %1").arg(
-            QLatin1String(target ? "window on the screen" : "target"));
+        m_problem = QStringLiteral("there is no %1")
+                        .arg(QLatin1String(target ? "window on the screen" : "target"));
         return;
     }
     const QPointF in_target = pxOf(from_mm);

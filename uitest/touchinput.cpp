@@ -77,10 +77,9 @@ void TouchInput::report(Qt::TouchPointState state)
     point.state = state;
     point.pressure = is_down ? 1 : 0;
     const QPointF place = m_window->mapToGlobal(QPoint(0, 0)) + m_at;
-    point.area = QHighDpi::toNativePixels(QRectF(place, QSizeF(1, 1)).translated(-.5, -.5),
-        m_window.data());
-    QWindowSystemInterface::handleTouchEvent(
-        m_window, ulong(clock_ms), touchDevice(), { point });
+    point.area = QHighDpi::toNativePixels(
+        QRectF(place, QSizeF(1, 1)).translated(-.5, -.5), m_window.data());
+    QWindowSystemInterface::handleTouchEvent(m_window, ulong(clock_ms), touchDevice(), { point });
     QWindowSystemInterface::flushWindowSystemEvents();
 }
 

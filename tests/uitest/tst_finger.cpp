@@ -90,16 +90,18 @@ void TestFinger::touchesWhereItIsTold_data()
     QTest::addColumn<QPointF>("to");
     QTest::newRow("tap") << Touch([](Finger &f, QWidget *w) { f.tap(w); }) << QPointF(100, 50)
                          << QPointF(100, 50);
-    QTest::newRow("tap at") << Touch([](Finger &f, QWidget *w) { f.tap(w, { 2, 4 }); })
-                            << QPointF(20, 20) << QPointF(20, 20);
+    QTest::newRow("tap at") << Touch([](Finger &f, QWidget *w) {
+        f.tap(w, { 2, 4 });
+    }) << QPointF(20, 20) << QPointF(20, 20);
     QTest::newRow("slide") << Touch([](Finger &f, QWidget *w) {
         f.slide(w, { 1, 1 }, { 5, -1 }, 200);
     }) << QPointF(10, 5) << QPointF(60, 0);
-    QTest::newRow("flick") << Touch([](Finger &f, QWidget *w) { f.flick(w, { 0, 5 }, 50); })
-                           << QPointF(100, 50) << QPointF(100, 75);
-    const QVector<QPair<Qt::Edge, QPointF>> ends = { { Qt::LeftEdge, { -20, 50 } },
-        { Qt::RightEdge, { 220, 50 } }, { Qt::TopEdge, { 100, -10 } },
-        { Qt::BottomEdge, { 100, 110 } } };
+    QTest::newRow("flick") << Touch([](Finger &f, QWidget *w) {
+        f.flick(w, { 0, 5 }, 50);
+    }) << QPointF(100, 50) << QPointF(100, 75);
+    const QVector<QPair<Qt::Edge, QPointF>> ends
+        = { { Qt::LeftEdge, { -20, 50 } }, { Qt::RightEdge, { 220, 50 } },
+              { Qt::TopEdge, { 100, -10 } }, { Qt::BottomEdge, { 100, 110 } } };
     for (const auto &end : ends) {
         const Qt::Edge edge = end.first;
         QTest::addRow("off edge %d", edge)
@@ -249,8 +251,8 @@ void TestFinger::saysWhyATargetIsOutOfReach()
     notice.show();
     const QSignalSpy clicks(&button, &QPushButton::clicked);
     finger.tap(&button);
-    QCOMPARE(
-        finger.lastProblem(), QStringLiteral("QPushButton \"OK\" is covered by QWidget \"notice\""));
+    QCOMPARE(finger.lastProblem(),
+        QStringLiteral("QPushButton \"OK\" is covered by QWidget \"notice\""));
     notice.setAttribute(Qt::WA_TransparentForMouseEvents);
     finger.tap(&button);
     QCOMPARE(finger.lastProblem(), QString());
@@ -271,8 +273,8 @@ void TestFinger::saysWhyATargetIsOutOfReach()
     dialog.setObjectName(QStringLiteral("question"));
     dialog.open();
     finger.tap(&button);
-    QCOMPARE(
-        finger.lastProblem(), QStringLiteral("QPushButton \"OK\" is blocked by QDialog \"question\""));
+    QCOMPARE(finger.lastProblem(),
+        QStringLiteral("QPushButton \"OK\" is blocked by QDialog \"question\""));
     QCOMPARE(clicks.size(), 1);
 }
 
