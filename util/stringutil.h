@@ -54,7 +54,9 @@ public:
     static std::string ToBase64(const unsigned char *data, size_t length);
     /// Reads what ToBase64() writes; bits that are left over need not be 0. Throws
     /// std::invalid_argument for a length that is no multiple of 4, std::runtime_error for a
-    /// character outside the alphabet and for a "=" before the last two places.
+    /// character outside the alphabet and for a "=" before the last two places. What stands behind
+    /// a
+    /// "=" in these is not looked at.
     static std::vector<unsigned char> FromBase64(const std::string &text);
 };
 

@@ -2,8 +2,11 @@
 #include "support/onscreen.h"
 #include "support/testcase.h"
 #include "ui/buttons/measuredpushbutton.h"
+#include "ui/buttons/vexocenteredvectorbutton.h"
 #include "ui/buttons/vexofunctionbutton.h"
+#include "ui/buttons/vexohorizontaltexticonbutton.h"
 #include "ui/buttons/vexoiconbutton.h"
+#include "ui/buttons/vexokeyboardbutton.h"
 #include "ui/buttons/vexopushbutton.h"
 #include "ui/input/vexolineedit.h"
 #include "ui/scrolling/vexoverticalbuttonscrollarea.h"
@@ -15,8 +18,13 @@
 #include <QAction>
 #include <QPointer>
 #include <QPushButton>
+#include <QSignalSpy>
+#include <QTimer>
 
+#include <algorithm>
 #include <functional>
+#include <memory>
+#include <vector>
 
 using namespace vexo::hox::qt::ui;
 
@@ -31,6 +39,28 @@ QWidget *withBuddy(QWidget *parent, QWidget *buddy)
     owner->addVisibleBuddy(buddy);
     return owner;
 }
+
+/// Memory that takes the place of what was deleted before, as other objects of a screen would.
+class Successor
+{
+public:
+    Successor()
+    {
+        const int largest = 1024;
+        for (int size = 16; size <= largest; size += 16)
+            m_blocks.emplace_back(size_t(size), '\xff');
+    }
+
+    bool isUntouched() const
+    {
+        return std::all_of(m_blocks.begin(), m_blocks.end(), [](const std::vector<char> &block) {
+            return std::all_of(block.begin(), block.end(), [](char c) { return c == '\xff'; });
+        });
+    }
+
+private:
+    std::vector<std::vector<char>> m_blocks;
+};
 
 /// Deletes a widget when that gets a certain event.
 class Deleter : public QObject
@@ -65,7 +95,11 @@ class TestDeletions : public TestCase
 private Q_SLOTS:
     void ownerOfBuddiesMayGoWhileItIsHidden_data();
     void ownerOfBuddiesMayGoWhileItIsHidden();
+    void buttonLeavesNoTraceInItsSignal_data();
+    void buttonLeavesNoTraceInItsSignal();
+    void partOfATileMayGo();
     void textOfARowMayGo();
+    void boxOfARowMayGo();
     void textOfALabelWidgetMayGo();
     void actionAtASideMayGo_data();
     void actionAtASideMayGo();
@@ -98,6 +132,92 @@ void TestDeletions::ownerOfBuddiesMayGoWhileItIsHidden()
     owner->setVisible(false);
     QVERIFY(!owner);
     QVERIFY(!buddy.isHidden());
+}
+
+void TestDeletions::buttonLeavesNoTraceInItsSignal_data()
+{
+    QTest::addColumn<QAbstractButton *>("victim");
+    QTest::addColumn<QByteArray>("signal");
+    for (const char *signal : { SIGNAL(pressed()), SIGNAL(released()), SIGNAL(clicked(bool)) }) {
+        const auto row = [=](QAbstractButton *button) {
+            const char *name = button->metaObject()->className();
+            QTest::addRow("%s, %s", name, signal + 1) << button << QByteArray(signal);
+        };
+        row(new MeasuredPushButton);
+        row(new VexoIconButton);
+        row(new VexoKeyboardButton);
+        row(new VexoPushButton);
+        row(new VexoHorizontalTextIconButton);
+    }
+}
+
+// The toolkit, which writes to what it has, is built without sanitizers.
+void TestDeletions::buttonLeavesNoTraceInItsSignal()
+{
+    QFETCH(QAbstractButton *, victim);
+    QFETCH(QByteArray, signal);
+    const QPointer<QAbstractButton> button(victim);
+    QWidget window;
+    window.resize(200, 100);
+    button->setParent(&window);
+    button->resize(window.size());
+    window.show();
+    settle();
+    QTimer relay;
+    relay.setInterval(0);
+    std::unique_ptr<Successor> successor;
+    connect(button, signal, &relay, SIGNAL(timeout()), Qt::DirectConnection);
+    connect(&relay, &QTimer::timeout, &relay, [&] {
+        delete button;
+        successor = std::make_unique<Successor>();
+    });
+    const QPoint at = button->geometry().center();
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, at);
+    QVERIFY(!button);
+    QVERIFY(successor->isUntouched());
+}
+
+void TestDeletions::partOfATileMayGo()
+{
+    QWidget window;
+    window.resize(400, 400);
+    VexoCenteredVectorButton tile(&window);
+    window.show();
+    settle();
+    delete tile.getButtonInstance();
+    QCOMPARE(tile.getButtonInstance(), nullptr);
+    const auto labels = tile.findChildren<QLabel *>();
+    qDeleteAll(labels);
+    tile.setText(QStringLiteral("gone"));
+    tile.setSubtext(QStringLiteral("gone"));
+    tile.setIconPath(QStringLiteral(":/VexoIconGeneralEnter"));
+    tile.setIconSizeInMm(5);
+    tile.setTextFontSizeInPt(8);
+    tile.setSubtextFontSizeInPt(8);
+    settle();
+    QCOMPARE(wrongPixels(window), QRect());
+    QCOMPARE(tile.text() + tile.subtext(), QString());
+
+    const QPointer<VexoCenteredVectorButton> victim = new VexoCenteredVectorButton;
+    connect(victim->getButtonInstance(), &ActiveVectorButton::sizeChanged, [=] { delete victim; });
+    victim->setIconSizeInMm(5);
+    QVERIFY(!victim);
+}
+
+void TestDeletions::boxOfARowMayGo()
+{
+    QWidget window;
+    window.resize(400, 100);
+    VexoFunctionButton row(&window);
+    row.resize(window.size());
+    window.show();
+    settle();
+    const QSignalSpy clicks(&row, &QAbstractButton::clicked);
+    delete row.getButtonInstance();
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(50, 50));
+    QCOMPARE(clicks.size(), 0);
+    settle();
+    QCOMPARE(wrongPixels(window), QRect());
 }
 
 void TestDeletions::textOfARowMayGo()

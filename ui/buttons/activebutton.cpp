@@ -66,6 +66,8 @@ void ActiveButton::setState(const QString &state)
     } else if (m_state_icons.contains(state)) {
         showSteadily(state, m_state_icons.value(state));
     } else if (m_inverse_icons.contains(state)) {
+        if (m_mode == Mode::OneShot)
+            endOneShot();
         m_inverse_icon_state = state;
         m_state = state;
     }
@@ -248,11 +250,16 @@ void ActiveButton::showIcon(const QIcon &icon)
 
 void ActiveButton::showSteadily(const QString &state, const QIcon &icon)
 {
-    m_mode = Mode::Steady;
-    m_one_shot_timer.stop();
+    endOneShot();
     m_inverse_icon_state = state;
     setIcon(icon);
     m_state = state;
+}
+
+void ActiveButton::endOneShot()
+{
+    m_mode = Mode::Steady;
+    m_one_shot_timer.stop();
 }
 
 void ActiveButton::forgetInverseIcon()

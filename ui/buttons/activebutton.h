@@ -20,6 +20,8 @@ namespace vexo::hox::qt::ui {
 /// ignored.
 ///
 /// A tooltip also becomes the accessible name of a button that has neither text nor name.
+///
+/// It may not be deleted in stateChanged(), nor in toggled(); use deleteLater() there.
 class HOXQUI_EXPORT ActiveButton : public MeasuredPushButton
 {
     Q_OBJECT
@@ -84,7 +86,8 @@ public:
     /// The icon of \a state, null when it has none.
     QIcon getStateIcon(const QString &state) const;
     /// The inverse icon of what is shown, for drawing it on a dark ground: see
-    /// getInverseIconObject(). Null when there is none.
+    /// getInverseIconObject(). Null when there is none. After a one-shot that is the inverse icon
+    /// of its second state until the next tick of a timer, then that of the current state.
     QIcon inverseIcon();
     /// The inverse icon of \a state, or else its icon, or else null. Valid until icons are added,
     /// removed or rendered anew.
@@ -115,6 +118,7 @@ private:
     bool showState(const QString &state);
     void showIcon(const QIcon &icon);
     void showSteadily(const QString &state, const QIcon &icon);
+    void endOneShot();
     void forgetInverseIcon();
     void takeNameFromTooltip();
     void log(const char *what, const QString &state1, const char *arrow, const QString &state2);

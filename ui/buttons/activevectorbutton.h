@@ -13,7 +13,7 @@ class ScalingInfo;
 /// of the last icon made is the size in which icons are drawn, and the minimum size hint once a
 /// size was set. With both dimensions above 0 an image of another shape is stretched; a dimension
 /// of 0 mm follows from the other one and the aspect ratio of the image; at 0 x 0 mm the button has
-/// no icons.
+/// no icons. It may be deleted in sizeChanged(), too.
 class HOXQUI_EXPORT ActiveVectorButton : public ActiveButton
 {
     Q_OBJECT
@@ -31,7 +31,8 @@ public:
     void setMmIconWidth(double mm);
     double mmIconHeight() const { return m_mm_icon_height; }
     void setMmIconHeight(double mm);
-    /// Both at once. Throws std::out_of_range "Negative image size parameter is impossible!".
+    /// Both at once. Throws std::out_of_range "Negative image size parameter is impossible!"
+    /// for a negative size or NaN, and changes nothing then.
     void setMmIconSize(const QSizeF &mm);
     /// Size in which icons are drawn, px; 0 x 0 until an icon or a size is set.
     QSize pxIconSize() const { return m_px_icon_size; }

@@ -81,7 +81,8 @@ void MeasuredPushButton::mouseReleaseEvent(QMouseEvent *event)
     if (end != Press::Unknown)
         stopMeasuring();
     const QPointer<MeasuredPushButton> self(this);
-    QToolButton::mouseReleaseEvent(event);
+    // A tool button notes afterwards that its menu part is not pressed, also if a slot deleted it.
+    isDown() ? QAbstractButton::mouseReleaseEvent(event) : QToolButton::mouseReleaseEvent(event);
     if (self && is_released)
         mouseReleaseEvent(elapsed);
     if (self && is_released)

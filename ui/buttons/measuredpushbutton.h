@@ -22,7 +22,7 @@ class VisibleBuddies;
 /// release; a longer one gives keyPressHandling(t, false, true) after 300 ms, then
 /// pressedDelayed(t), keyPressHandling(t, false, false) at the release. A press that ends
 /// otherwise, as by a dialog or a scroller, gives none of them. The button may be deleted in each
-/// of its signals.
+/// of its signals but toggled(), after which the toolkit goes on with it.
 ///
 /// Each press rings the feedback delegator that was installed when the button was constructed.
 class HOXQUI_EXPORT MeasuredPushButton : public QToolButton,

@@ -24,6 +24,11 @@ void changeSpacer(QSpacerItem *spacer, int px)
     spacer->changeSize(widgetPx(px), widgetPx(px), QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
+QString textOf(const QLabel *label)
+{
+    return label ? label->text() : QString();
+}
+
 } // namespace
 
 VexoCenteredVectorButton::VexoCenteredVectorButton(QWidget *parent)
@@ -37,9 +42,15 @@ VexoCenteredVectorButton::VexoCenteredVectorButton(QWidget *parent)
     setupUi();
 }
 
+VexoIconButton *VexoCenteredVectorButton::getButtonInstance()
+{
+    return m_icon_button;
+}
+
 void VexoCenteredVectorButton::addIcon(const QString &state, const QString &file)
 {
-    m_icon_button->addIcon(state, file);
+    if (VexoIconButton *button = m_icon_button)
+        button->addIcon(state, file);
     setIconSizeInMm(m_icon_size_in_mm);
 }
 
@@ -47,30 +58,35 @@ void VexoCenteredVectorButton::setIconPath(const QString &path)
 {
     m_icon_path = path;
     const QString state = QLatin1String(ActiveButton::DEFAULT_STATE_NAME);
-    m_icon_button->removeIcon(state);
+    if (VexoIconButton *button = m_icon_button)
+        button->removeIcon(state);
     addIcon(state, path);
 }
 
 QString VexoCenteredVectorButton::text() const
 {
-    return m_text_label->text();
+    return textOf(m_text_label);
 }
 
 void VexoCenteredVectorButton::setText(const QString &text)
 {
-    followName(m_icon_button, m_text_label->text(), text);
-    m_text_label->setText(text);
+    if (m_icon_button)
+        followName(m_icon_button, this->text(), text);
+    if (m_text_label)
+        m_text_label->setText(text);
 }
 
 QString VexoCenteredVectorButton::subtext() const
 {
-    return m_subtext_label->text();
+    return textOf(m_subtext_label);
 }
 
 void VexoCenteredVectorButton::setSubtext(const QString &text)
 {
-    followDescription(m_icon_button, m_subtext_label->text(), text);
-    m_subtext_label->setText(text);
+    if (m_icon_button)
+        followDescription(m_icon_button, subtext(), text);
+    if (m_subtext_label)
+        m_subtext_label->setText(text);
 }
 
 void VexoCenteredVectorButton::setWidthInMm(double mm)
@@ -87,7 +103,11 @@ void VexoCenteredVectorButton::setHeightInMm(double mm)
 
 void VexoCenteredVectorButton::setIconSizeInMm(double mm)
 {
-    m_icon_button->setMmIconSize(QSizeF(mm, mm));
+    const QPointer<VexoCenteredVectorButton> self(this);
+    if (VexoIconButton *button = m_icon_button)
+        button->setMmIconSize(QSizeF(mm, mm)); // tells it to slots
+    if (!self)
+        return;
     m_icon_size_in_mm = mm;
     m_icon_row->setMinimumHeight(widgetPx(pxY(*m_scaling, mm)));
     m_icon_row->layout()->invalidate();
@@ -96,15 +116,18 @@ void VexoCenteredVectorButton::setIconSizeInMm(double mm)
 void VexoCenteredVectorButton::setTextFontSizeInPt(double pt)
 {
     m_text_font_size_in_pt = pt;
-    QFont font = m_text_label->font();
-    setPtSize(font, pt);
-    m_text_label->setFont(font);
+    if (QLabel *label = m_text_label) {
+        QFont font = label->font();
+        setPtSize(font, pt);
+        label->setFont(font);
+    }
 }
 
 void VexoCenteredVectorButton::setSubtextFontSizeInPt(double pt)
 {
     m_subtext_font_size_in_pt = pt;
-    m_subtext_label->setFont(panelFont(pt, QFont::Normal));
+    if (m_subtext_label)
+        m_subtext_label->setFont(panelFont(pt, QFont::Normal));
 }
 
 void VexoCenteredVectorButton::setIconSideSpacingInMm(double mm)

@@ -3,6 +3,7 @@
 
 #include "ui/hoxqui_export.h"
 
+#include <QPointer>
 #include <QWidget>
 
 class QLabel;
@@ -17,7 +18,8 @@ class VexoIconButton;
 /// subtext line. Only the icon can be pressed: connect to getButtonInstance(). The library's main
 /// stylesheet gives the tile its ground. Texts that are wider than the tile are cut at both ends.
 ///
-/// The texts also become accessible name and description of the icon button.
+/// The texts also become accessible name and description of the icon button. The tile may be
+/// deleted in each signal of the icon that may delete the icon, see there.
 class HOXQUI_EXPORT VexoCenteredVectorButton : public QWidget
 {
     Q_OBJECT
@@ -55,8 +57,8 @@ class HOXQUI_EXPORT VexoCenteredVectorButton : public QWidget
 public:
     explicit VexoCenteredVectorButton(QWidget *parent = nullptr);
 
-    /// The icon, which belongs to the tile.
-    VexoIconButton *getButtonInstance() { return m_icon_button; }
+    /// The icon, which belongs to the tile; null once it was deleted, which the tile tolerates.
+    VexoIconButton *getButtonInstance();
     /// Makes the icon of \a state from \a file, in the size of the others. A state that has an icon
     /// keeps it, see ActiveButton::addIcon().
     void addIcon(const QString &state, const QString &file);
@@ -89,9 +91,9 @@ private:
     void setUpIconRow();
 
     const ScalingInfo *const m_scaling;
-    VexoIconButton *const m_icon_button;
-    QLabel *const m_text_label;
-    QLabel *const m_subtext_label;
+    const QPointer<VexoIconButton> m_icon_button;
+    const QPointer<QLabel> m_text_label;
+    const QPointer<QLabel> m_subtext_label;
     QSpacerItem *m_left_spacer = nullptr;
     QSpacerItem *m_right_spacer = nullptr;
     QSpacerItem *m_top_spacer = nullptr;

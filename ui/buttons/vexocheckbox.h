@@ -21,8 +21,8 @@ class VexoFeedbackDelegator;
 ///
 /// The finger may wander 8 px, or 5 mm where Panel::setUp() has set the application up.
 ///
-/// It may be deleted in its pressed() and clicked(), but not in toggled(), after which the toolkit
-/// goes on with it.
+/// It may be deleted in its pressed() and clicked(), but not in toggled() and stateChanged(), after
+/// which the toolkit goes on with it.
 class HOXQUI_EXPORT VexoCheckBox : public QCheckBox
 {
     Q_OBJECT

@@ -443,6 +443,8 @@ void VexoFunctionButton::tap()
     case ActionType:
         break;
     default:
+        if (!m_right_widget)
+            return;
         toggleRightButton();
     }
     if (self)

@@ -18,7 +18,8 @@ class TextBlock;
 /// A row that acts as a button: a text at the left, a second text in a column of its own, and an
 /// image centred in what remains at the right end, all on a solid ground. Text colour, ground and
 /// image follow the state: disabled, else pressed, else default. Each text is one line, cut at its
-/// column. Assistive technology reads the left text as name and the right one as description.
+/// column. Assistive technology reads the left text as name and the right one as description. It
+/// may be deleted in its pressed(), released() and clicked().
 class HOXQUI_EXPORT VexoHorizontalTextIconButton // clazy:exclude=copyable-polymorphic
     : public QPushButton,
       private vexo::hox::qt::system::VexoLogging

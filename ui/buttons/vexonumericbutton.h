@@ -16,7 +16,8 @@ class VexoIconButton;
 /// is disabled. With the minimum above the maximum both are disabled.
 ///
 /// Setting the value runs the event loop for 5 ms, so that the number is on the screen before the
-/// caller goes on. In that time anything may happen to the stepper, also its deletion.
+/// caller goes on. In that time anything may happen to the stepper, also its deletion. It may be
+/// deleted in valueChanged() as well.
 class HOXQUI_EXPORT VexoNumericButton : public QWidget
 {
     Q_OBJECT

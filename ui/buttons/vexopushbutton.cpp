@@ -254,8 +254,9 @@ bool VexoPushButton::hasTwoLines() const
     return width() - label.right_px - 3 * margin <= label.text_px;
 }
 
+// Not const: that is the symbol which applications link.
 QString VexoPushButton::findFittingString(
-    const QFontMetrics &metrics, const QString &text, const QRectF &rect) const
+    const QFontMetrics &metrics, const QString &text, const QRectF &rect)
 {
     const auto fits = [&](int length) {
         return metrics.boundingRect(text.left(length)).width() <= rect.width();

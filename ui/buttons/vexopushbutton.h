@@ -35,8 +35,8 @@ class VisibleBuddies;
 /// has an image, whose margin is smaller. The width that it asks for leaves no room for its
 /// margins: set one. It takes no focus, shows and hides other widgets with itself, rings the
 /// feedback delegator that was installed when it was constructed, and a finger that slides up to 20
-/// px off it still clicks. It may be deleted in its pressed(), released() and clicked(). Assistive
-/// technology reads the second text as its description.
+/// px off it still clicks. It may be deleted in its pressed(), released() and clicked(), but
+/// not in toggled(). Assistive technology reads the second text as its description.
 ///
 /// Images are rendered when they are set, one for each ButtonState; a state without one shows the
 /// image of Standard. A button that has images but neither one for its state nor one for Standard
@@ -145,8 +145,7 @@ public:
     /// Whether the label does not fit on one line beside the second text.
     bool hasTwoLines() const;
     /// The beginning of \a text that is not wider than \a rect, cut after any character.
-    QString findFittingString(
-        const QFontMetrics &metrics, const QString &text, const QRectF &rect) const;
+    QString findFittingString(const QFontMetrics &metrics, const QString &text, const QRectF &rect);
 
     QColor backgroundColor() const { return m_background_color; }
     void setBackgroundColor(const QColor &color);

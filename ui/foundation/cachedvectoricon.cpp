@@ -86,6 +86,7 @@ void CachedVectorIcon::setFilenameOfImageToCache(const QString &file, const QSiz
 void CachedVectorIcon::setMmWidth(float mm)
 {
     refuseNegative(double(mm), 0, "Negative width is impossible!");
+    ScalingInfo::inst(); // may throw as well
     m_must_relayout = true;
     if (mm == m_mm_width)
         return;
@@ -97,6 +98,7 @@ void CachedVectorIcon::setMmWidth(float mm)
 void CachedVectorIcon::setMmHeight(float mm)
 {
     refuseNegative(0, double(mm), "Negative height is impossible!");
+    ScalingInfo::inst(); // may throw as well
     m_must_relayout = true;
     if (mm == m_mm_height)
         return;
@@ -108,6 +110,7 @@ void CachedVectorIcon::setMmHeight(float mm)
 void CachedVectorIcon::setMmSize(const QSizeF &mm)
 {
     refuseNegative(mm.width(), mm.height(), "Negative measurements are impossible!");
+    ScalingInfo::inst(); // may throw as well
     m_must_relayout = true;
     if (double(m_mm_width) == mm.width() && double(m_mm_height) == mm.height())
         return;
@@ -119,6 +122,7 @@ void CachedVectorIcon::setMmSize(const QSizeF &mm)
 void CachedVectorIcon::setPxSize(const QSize &px)
 {
     refuseNegative(px.width(), px.height(), "Negative measurements are impossible!");
+    ScalingInfo::inst(); // may throw as well
     m_must_relayout = true;
     const double width = px.width();
     const double height = px.height();

@@ -17,7 +17,9 @@ namespace vexo::hox::qt::ui {
 /// layout is computed. A change of the scale therefore reaches a widget only when that widget next
 /// converts a measure.
 ///
-/// The conversions neither round nor clamp. GUI thread only.
+/// The conversions neither round nor clamp. Each widget, and each size of an icon, needs the
+/// object, so their constructors and setters throw what inst() throws when there is no screen; an
+/// icon is unchanged then. GUI thread only.
 class HOXQUI_EXPORT ScalingInfo
 {
 public:

@@ -23,9 +23,9 @@ public:
 
     /// Appends the text of the file \a name, a full resource or file path or one in a search path.
     /// A file that does not exist is named in a warning; one that cannot be opened adds nothing.
-    /// Neither does one that is hostile: no regular file, more than 128 KiB, hundreds of selectors
-    /// times declarations in one rule, or so malformed that its rules cannot be told apart. Nothing
-    /// is shown before set().
+    /// Neither does one that is hostile: no regular file, more than 131,072 characters, hundreds of
+    /// selectors times declarations in one rule, or so malformed that its rules cannot be told
+    /// apart. Nothing is shown before set().
     void setStylesheet(const QString &name);
     /// Appends rules that stand in no file. Nothing is shown before set().
     void addText(const QString &rules);

@@ -23,7 +23,8 @@ class VexoSlider;
 /// The area is a child of a window, never one itself. Where an application has a stylesheet, give
 /// the area its place in the window before its widget: the toolkit styles all rows anew whenever
 /// the area, or what it lies in, gets another parent. A slot of a row may delete the row; to delete
-/// the area use deleteLater() there, since the toolkit is still at the gesture.
+/// the area use deleteLater() there and in scrollerStateChanged(), since the toolkit is still at
+/// the gesture.
 class HOXQUI_EXPORT VexoVerticalScrollArea : public QScrollArea
 {
     Q_OBJECT

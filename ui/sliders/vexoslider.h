@@ -38,8 +38,9 @@ public:
     void setMinimum(int minimum);
     /// Highest real value. Default 0. Also sets it on the underlying slider at once.
     void setMaximum(int maximum);
-    /// The step between two values. Default 1; less counts as 1. A range that it does not divide
-    /// loses its last part: 0 to 10 by 3 ends at 9.
+    /// The step between two values. Default 1; less counts as 1, but for the two
+    /// conversions below. A range that it does not divide loses its last part: 0 to 10 by 3 ends at
+    /// 9.
     void setTickInterval(int step);
     /// Moves to the step at or below the real \a value, and keeps it for
     /// finishSliderConfiguration().

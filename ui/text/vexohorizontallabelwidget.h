@@ -18,7 +18,7 @@ class HOXQUI_EXPORT VexoHorizontalLabelWidget : public QWidget
 {
     Q_OBJECT
 
-    /// Empty by default. Markup shows as QLabel shows it.
+    /// Empty by default. Plain text, unless the label's setTextFormat() is told otherwise.
     Q_PROPERTY(QString left_label_text MEMBER m_left_text WRITE setLeftLabelText)
     /// Empty by default, as the left one.
     Q_PROPERTY(QString right_label_text MEMBER m_right_text WRITE setRightLabelText)

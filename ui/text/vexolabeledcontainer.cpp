@@ -195,8 +195,9 @@ void VexoLabeledContainer::placePayload()
 {
     if (!m_payload)
         return;
-    setPayloadWidgetProperties();
+    // First: wrapping makes the policy of a label one of height for width.
     m_payload->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setPayloadWidgetProperties();
     m_layout->addWidget(m_payload, 2, 1, Qt::AlignVCenter);
     namePayload(m_payload, QString(), labelText());
 }

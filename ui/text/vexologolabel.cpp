@@ -46,7 +46,7 @@ void VexoLogoLabel::paintEvent(QPaintEvent *)
     if (rect.isEmpty() || m_image.isNull())
         return;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform); // where the image is no whole pixels
     painter.drawImage(rect, m_image, m_image.rect());
 }
 

@@ -19,7 +19,7 @@ class HOXQUI_EXPORT VexoTextEnumeration : public QWidget
 public:
     explicit VexoTextEnumeration(QWidget *parent = nullptr);
 
-    /// Shows \a text beside \a number. Markup shows as QLabel shows it.
+    /// Shows \a text beside \a number. Plain text.
     void setText(const QString &text, int number);
 
 private:

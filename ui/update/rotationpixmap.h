@@ -20,7 +20,8 @@ namespace vexo::hox::qt::ui {
 /// loaded, or whose file cannot be read, is a null pixmap. The files are read as those of a
 /// CachedVectorIcon: hostile ones count as unreadable, and vectors come out at the frame's size.
 ///
-/// It belongs to the thread that creates it, the GUI thread, which also receives the frames. The
+/// It belongs to the thread that creates it, the GUI thread, which also receives the frames. Its
+/// caller deletes it, also in pixmapRotated(). The
 /// destructor lets the loading end after the file it is at, and waits for it.
 class HOXQUI_EXPORT RotationPixmap : public QThread
 {

@@ -15,7 +15,8 @@ namespace vexo::hox::qt::ui {
 /// into a crop of the camera picture.
 ///
 /// An area right of or below its parent's origin crops from 0 on that axis; without a parent it is
-/// its own opening. On the channel "*" it logs each crop.
+/// its own opening. On the channel "*" it logs each crop. In crop() it may not be deleted; use
+/// deleteLater().
 class HOXQUI_EXPORT VideoArea // clazy:exclude=copyable-polymorphic
     : public QWidget,
       private vexo::hox::qt::system::VexoLogging

@@ -18,7 +18,8 @@ namespace vexo::hox::qt::ui {
 /// of the viewport: the toolkit gives both a ground. To let a finger pan, grab a QScroller gesture
 /// of the viewport.
 ///
-/// It logs on the channel "P".
+/// It may be deleted in tap(), but not in its other signals, after which the toolkit goes on with
+/// it; use deleteLater() there. It logs on the channel "P".
 class HOXQUI_EXPORT VideoCapturePanning // clazy:exclude=copyable-polymorphic
     : public QScrollArea,
       private vexo::hox::qt::system::VexoLogging
@@ -38,7 +39,8 @@ Q_SIGNALS:
     void setViewportPos(uint x, uint y);
     /// It was resized, px.
     void setViewportSize(uint width, uint height);
-    /// Height divided by width as they are in mm; after setViewportSize().
+    /// Height divided by width as they are in mm; after setViewportSize(), but not for a width of
+    /// 0.
     void setAspectRatio(double ratio);
     /// A press within 250 ms of the one before, or of the construction.
     void tap();

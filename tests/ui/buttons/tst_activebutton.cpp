@@ -293,6 +293,13 @@ void TestActiveButton::oneShotEndIsCancelled()
     QCOMPARE(colorOf(button.icon()), BLUE);
     button.timerEvent();
     QCOMPARE(colorOf(button.icon()), by_blink ? RED : BLUE);
+
+    // By a state that has an inverse icon only, which shows nothing else.
+    button.addInverseIcon(QStringLiteral("inverse only"), DARK);
+    button.oneShot(A, B);
+    button.setState(QStringLiteral("inverse only"));
+    virtualclock::pass(1010);
+    QCOMPARE(colorOf(button.icon()), RED);
 }
 
 void TestActiveButton::nullTimerAndDeletedTimerAreHarmless()

@@ -139,7 +139,12 @@ void TestVexoLabeledContainer::swapsAndRemoves()
     container.swapWidget(nullptr, nullptr);
     container.setWidget(nullptr);
     QCOMPARE(container.layout()->count(), 5);
-    container.swapWidget(nullptr, new QLabel);
+    auto *wrapped
+        = new QLabel(QStringLiteral("a text that does not fit on one line of the window"));
+    container.resize(200, 300);
+    container.swapWidget(nullptr, wrapped);
+    QTRY_VERIFY(wrapped->height() >= wrapped->heightForWidth(wrapped->width()));
+    QVERIFY(wrapped->height() > 2 * QFontMetrics(wrapped->font()).height());
     delete container.layout()->itemAt(5)->widget();
     container.removeWidget(); // nothing is left to remove
     QCOMPARE(container.layout()->count(), 5);
