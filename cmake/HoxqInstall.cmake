@@ -10,8 +10,10 @@ install(FILES ${PROJECT_BINARY_DIR}/ui/hoxqui_export.h ${PROJECT_BINARY_DIR}/ui/
 if(TARGET hoxquitest) # no panel needs it
   install(TARGETS hoxquitest EXPORT HoxqUi
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Devel)
+  install(TARGETS hoxquiaudit
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/qt5/plugins/generic COMPONENT Devel)
   install(DIRECTORY uitest DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui COMPONENT Devel
-    FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE)
+    FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE PATTERN plugin EXCLUDE)
   install(FILES ${PROJECT_BINARY_DIR}/uitest/hoxquitest_export.h
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui/uitest COMPONENT Devel)
 endif()
