@@ -47,4 +47,34 @@ struct HOXQUITEST_EXPORT ContrastLimits
     double large_bold_pt = 14; ///< and a bold one from here on
 };
 
+/// What a finger, an eye, assistive technology and an idle processor would complain about on a
+/// window that is shown. It works on any widget, ours or stock, returns values and asserts nothing;
+/// a null window and one that is not shown have no findings. Measures are those of ScalingInfo.
+///
+/// An audit looks at what the screen shows: scroll, or open the next page, and audit again. Only
+/// sizes and names also count for what is scrolled out of sight. Call it between events, not from
+/// a paint.
+class HOXQUITEST_EXPORT PanelAudit
+{
+public:
+    /// Rules "touch-size" and "touch-gap": what of each enabled widget that reacts to a press a
+    /// finger reaches, mm. That is where a press gets to it: what lies above it and what its
+    /// parents cut off is taken away, but not what can be scrolled into sight. Of sliders, spin
+    /// boxes, tabs and lists each part counts that reacts by itself, of a row with a check box that
+    /// toggles with it only the row. A size that was cut to whole px counts as meant.
+    ///
+    /// The margin in which an EasyAccessButton takes the lift of a finger does not make it larger,
+    /// since a press must begin on it: it makes a warning of an error where size and margin
+    /// together are large enough.
+    static QVector<Finding> touchSizes(QWidget *window, const TouchLimits &limits = TouchLimits());
+    /// Rules "accessible-name" and "accessible-role": what can be pressed or typed into and says
+    /// nothing to assistive technology, or is nothing to it that can be pressed.
+    static QVector<Finding> names(QWidget *window);
+    /// All rules with their usual limits.
+    static QVector<Finding> all(QWidget *window);
+    /// A line for each: severity, rule, where, what is wrong, and place in mm, in plain words.
+    /// Empty if there are none.
+    static QString report(const QVector<Finding> &findings);
+};
+
 } // namespace vexo::hox::qt::uitest
