@@ -22,11 +22,12 @@ QString line(const Finding &finding)
 
 } // namespace
 
-QVector<Finding> PanelAudit::all(QWidget *window)
+QVector<Finding> PanelAudit::all(QWidget *window, int idle_ms)
 {
     const QPointer<QWidget> guard(window); // an application's own code runs in between
     QVector<Finding> findings;
-    for (const auto &rule : { touchSizes(guard), names(guard) }) {
+    for (const auto &rule :
+        { touchSizes(guard), contrasts(guard), texts(guard), names(guard), idle(guard, idle_ms) }) {
         for (const Finding &finding : rule)
             findings.append(finding);
     }

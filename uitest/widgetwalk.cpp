@@ -23,11 +23,6 @@ void appendShown(QWidget *widget, Widgets *shown)
     }
 }
 
-bool hasMore(const QScrollBar *bar)
-{
-    return bar->maximum() > bar->minimum();
-}
-
 } // namespace
 
 Widgets shownWidgets(QWidget *window)
@@ -61,18 +56,22 @@ QString textOf(const QSizeF &mm)
     return QStringLiteral("%1 x %2 mm").arg(mm.width(), 0, 'f', 1).arg(mm.height(), 0, 'f', 1);
 }
 
-bool isScrolled(const QWidget *viewport)
+bool isScrolled(const QWidget *viewport, Qt::Orientation orientation)
 {
-    const QWidget *parent = viewport->parentWidget();
+    QWidget *parent = viewport->parentWidget();
     const auto *area = qobject_cast<const QAbstractScrollArea *>(parent);
     if (!area || area->viewport() != viewport)
         return false;
-    const QScrollBar *across = area->horizontalScrollBar();
-    const QScrollBar *down = area->verticalScrollBar();
-    const bool has_scroller = QScroller::hasScroller(const_cast<QWidget *>(viewport))
-        || QScroller::hasScroller(const_cast<QWidget *>(parent));
-    return (hasMore(across) && (has_scroller || across->isVisible()))
-        || (hasMore(down) && (has_scroller || down->isVisible()));
+    const QScrollBar *bar
+        = orientation == Qt::Horizontal ? area->horizontalScrollBar() : area->verticalScrollBar();
+    return bar->maximum() > bar->minimum()
+        && (bar->isVisible() || QScroller::hasScroller(area->viewport())
+            || QScroller::hasScroller(parent));
+}
+
+bool isScrolled(const QWidget *viewport)
+{
+    return isScrolled(viewport, Qt::Horizontal) || isScrolled(viewport, Qt::Vertical);
 }
 
 Finding findingAt(const QWidget *window, QWidget *widget, const QRect &px, const char *rule,

@@ -20,9 +20,10 @@ QSizeF mmOf(const QSize &px);
 QRectF mmOf(const QRect &px);
 QString textOf(const QSizeF &mm); ///< "12.0 x 9.8 mm"
 
-/// Whether a finger moves what \a viewport shows: \a viewport belongs to a scroll area that has
-/// more than it shows, and a scroll bar or a QScroller.
-bool isScrolled(const QWidget *viewport);
+/// Whether a finger moves what \a viewport shows in a direction: it belongs to a scroll area that
+/// has more than it shows, and a scroll bar or a QScroller.
+bool isScrolled(const QWidget *viewport, Qt::Orientation orientation);
+bool isScrolled(const QWidget *viewport); ///< in either direction
 
 /// A finding about \a widget at \a px of \a window.
 Finding findingAt(const QWidget *window, QWidget *widget, const QRect &px, const char *rule,
