@@ -38,6 +38,11 @@ bool isEnabledAt(const QWidget *widget, const QPoint &at)
     return !index.isValid() || (index.flags() & Qt::ItemIsEnabled);
 }
 
+int areaOf(const QRect &px)
+{
+    return px.width() * px.height();
+}
+
 bool isIconHolder(const QWidget *widget)
 {
     return qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QLabel *>(widget);
@@ -107,7 +112,8 @@ bool Look::isIcon(int index) const
         return false;
     const QWidget *widget = ink.widget;
     const QSizeF mm = mmOf(ink.px.size());
-    if (!isIconHolder(widget) || qMax(mm.width(), mm.height()) > largest_icon_mm)
+    const bool is_mostly_seen = 2 * areaOf(ink.px & ink.clip) > areaOf(ink.px);
+    if (!isIconHolder(widget) || !is_mostly_seen || qMax(mm.width(), mm.height()) > largest_icon_mm)
         return false;
     const QRect all = placeIn(m_window->window(), widget, widget->rect());
     const QVector<Ink> &inks = m_bare.inks();
@@ -156,14 +162,20 @@ void Look::checkIcons(QVector<Finding> *findings)
     if (icons.isEmpty())
         return;
     const InkCanvas without(m_window, InkCanvas::WithoutIcons, m_region, icons);
-    const InkCanvas marked(m_window, InkCanvas::MarkedIcons, m_region, icons);
+    std::unique_ptr<const InkCanvas> marked; // made when it is needed
+    const auto isSeen = [&](const QRect &px) {
+        if (!marked)
+            marked = std::make_unique<InkCanvas>(
+                m_window, InkCanvas::MarkedIcons, m_region, icons);
+        return contrastBetween(*marked, without, px, 0, true).ratio > 0;
+    };
     for (const int index : qAsConst(icons)) {
         const Ink &ink = m_bare.inks().at(index);
         const QRect px = ink.px & ink.clip;
         Contrast contrast = contrastBetween(m_bare, without, px, strongest_twentieth, true);
         if (contrast.ratio == 0) // it looks like its ground, or is covered
             contrast = contrastBetween(m_bare, without, px, 0, false);
-        if (contrast.ratio < icon_limit && contrastBetween(marked, without, px, 0, true).ratio > 0)
+        if (contrast.ratio < icon_limit && isSeen(px))
             complain(ink, contrast, icon_limit, "icon", findings);
     }
 }
@@ -181,7 +193,7 @@ void Look::complain(const Ink &ink, const Contrast &contrast, double limit, cons
               .arg(contrast.ratio, 0, 'f', 1)
               .arg(QString::number(limit), m_state);
     const QPoint corner = m_window->mapFrom(m_window->window(), ink.px.topLeft());
-    findings->append(findingAt(m_window, ink.widget, QRect(corner, ink.px.size()), "contrast",
+    findings->append(findingAt(ink.widget, QRect(corner, ink.px.size()), "contrast",
         contrast.ratio < m_limits.error || ink.kind == Ink::Icon ? Finding::Error
                                                                  : Finding::Warning,
         text));

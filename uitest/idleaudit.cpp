@@ -86,10 +86,9 @@ QString nameOf(const QObject *object)
     return name.isEmpty() ? type : QStringLiteral("%1 \"%2\"").arg(type, name);
 }
 
-Finding warn(
-    const QWidget *window, QWidget *widget, const QRect &px, const char *rule, const QString &text)
+Finding warn(QWidget *widget, const QRect &px, const char *rule, const QString &text)
 {
-    return findingAt(window, widget, px, rule, Finding::Warning, text);
+    return findingAt(widget, px, rule, Finding::Warning, text);
 }
 
 /// Counts what goes on in a window while nobody touches it.
@@ -287,12 +286,12 @@ void IdleWatch::tellPaints(const QWidget *window, int ms, QVector<Finding> *find
         const QRect px = paints.px.boundingRect().translated(corner);
         const auto mm2 = [](double sum, int times) { return QString::number(qRound(sum / times)); };
         if (!paints.is_declared)
-            findings->append(warn(window, widget, px, "idle-repaint",
+            findings->append(warn(widget, px, "idle-repaint",
                 QStringLiteral("painted %1 times in %2 ms, %3 mm² each")
                     .arg(QString::number(paints.times), QString::number(ms),
                         mm2(paints.mm2, paints.times))));
         if (paints.wasted_times > 0)
-            findings->append(warn(window, widget, px, "wasted-repaint",
+            findings->append(warn(widget, px, "wasted-repaint",
                 QStringLiteral("painted %1 mm² where %2 mm² changed")
                     .arg(mm2(paints.wasted_mm2, paints.wasted_times),
                         mm2(paints.changed_mm2, paints.wasted_times))));
@@ -305,7 +304,7 @@ void IdleWatch::tellTicks(const QWidget *window, int ms, QVector<Finding> *findi
         QWidget *widget = ticks.widget;
         if (!widget || ticks.is_declared || ticks.times < least_ticks)
             continue;
-        findings->append(warn(window, widget, placeIn(window, widget, widget->rect()), "idle-timer",
+        findings->append(warn(widget, placeIn(window, widget, widget->rect()), "idle-timer",
             QStringLiteral("%1 ticked %2 times in %3 ms")
                 .arg(ticks.name)
                 .arg(ticks.times)
@@ -325,7 +324,7 @@ void IdleWatch::tellWakeUps(QWidget *window, int ms, QVector<Finding> *findings)
     const int wake_ups = m_sleeps - 1; // the first sleep follows our own start
     const int allowed = ticks + int(m_paints.size()) + least_ticks;
     if (wake_ups > allowed)
-        findings->append(warn(window, window, window->rect(), "idle-timer",
+        findings->append(warn(window, window->rect(), "idle-timer",
             QStringLiteral("woke up %1 times in %2 ms, %3 times for timers, %4 of them declared")
                 .arg(wake_ups)
                 .arg(ms)

@@ -60,7 +60,8 @@ public:
 
 private:
     Ink inkAt(const QRectF &place) const;
-    bool appendText(const QRectF &place, const QString &text, const QFont &font);
+    bool appendText(Ink ink, const QFont &font);
+    QRect drawnExtent(const QRect &px, const QPointF &at, const QTextItem &text) const;
     bool appendImage(const QRectF &place, const QImage &image, bool is_whole);
     bool drawsItself(const Ink &ink, int index);
     void fillPlace(const Ink &ink, const QBrush &brush);
@@ -104,14 +105,34 @@ void InkEngine::fillPlace(const Ink &ink, const QBrush &brush)
     fillRect(state()->matrix.inverted().mapRect(QRectF(ink.px)), brush);
 }
 
-bool InkEngine::appendText(const QRectF &place, const QString &text, const QFont &font)
+bool InkEngine::appendText(Ink ink, const QFont &font)
 {
-    Ink ink = inkAt(place);
-    ink.text = text;
     ink.font_px = QFontInfo(font).pixelSize();
     ink.is_bold = font.weight() >= QFont::Bold;
     m_canvas->m_inks.append(ink);
     return drawsItself(ink, m_canvas->m_inks.size() - 1);
+}
+
+// The toolkit's figures are off by some px. Soft edges do not count.
+QRect InkEngine::drawnExtent(const QRect &px, const QPointF &at, const QTextItem &text) const
+{
+    const int seam = 2;
+    const QRect area = px.adjusted(-seam, -seam, seam, seam);
+    QImage letters(area.size(), QImage::Format_ARGB32_Premultiplied);
+    letters.fill(Qt::transparent);
+    QPainter pen(&letters);
+    pen.setTransform(state()->matrix * QTransform::fromTranslate(-area.x(), -area.y()));
+    pen.setFont(text.font());
+    pen.drawTextItem(at, text);
+    pen.end();
+    QRect extent;
+    for (int y = 0; y < letters.height(); ++y) {
+        for (int x = 0; x < letters.width(); ++x) {
+            if (qAlpha(letters.pixel(x, y)) > 127)
+                extent |= QRect(x, y, 1, 1);
+        }
+    }
+    return extent.translated(area.topLeft());
 }
 
 bool InkEngine::appendImage(const QRectF &place, const QImage &image, bool is_whole)
@@ -129,7 +150,11 @@ void InkEngine::drawTextItem(const QPointF &at, const QTextItem &text)
 {
     const auto &item = static_cast<const QTextItemInt &>(text);
     const QRectF place = rectOf(item.fontEngine->boundingBox(item.glyphs)).translated(at);
-    if (place.isEmpty() || appendText(place, item.text(), item.font()))
+    Ink ink = inkAt(place);
+    ink.text = item.text();
+    if (!place.isEmpty() && !ink.clip.contains(ink.px))
+        ink.px = drawnExtent(ink.px, at, text);
+    if (place.isEmpty() || appendText(ink, item.font()))
         QRasterPaintEngine::drawTextItem(at, text);
 }
 
@@ -141,7 +166,7 @@ void InkEngine::drawStaticTextItem(QStaticTextItem *item)
         place |= rectOf(item->fontEngine()->boundingBox(item->glyphs[i]))
                      .translated(at.x.toReal(), at.y.toReal());
     }
-    if (place.isEmpty() || appendText(place, QString(), item->font))
+    if (place.isEmpty() || appendText(inkAt(place), item->font))
         QRasterPaintEngine::drawStaticTextItem(item);
 }
 

@@ -21,10 +21,8 @@ namespace {
 bool isGivenText(const QMetaProperty &property)
 {
     const QString name = QString::fromLatin1(property.name()).toLower();
-    const bool is_text = name.endsWith(QLatin1String("text"))
+    return name.endsWith(QLatin1String("text"))
         || (name.endsWith(QLatin1String("title")) && name != QLatin1String("windowtitle"));
-    return is_text && property.userType() == QMetaType::QString && property.isWritable()
-        && !property.isUser();
 }
 
 bool isForTyping(const QWidget *widget)
@@ -62,10 +60,14 @@ void LayoutTrial::lengthen(double factor)
 {
     const Widgets shown = shownWidgets(m_window);
     for (QWidget *widget : shown)
-        lengthenProperties(widget, factor);
-    for (const auto &change : qAsConst(m_changes))
-        change();
-    m_changes.clear();
+        keepTexts(widget);
+    for (const Text &text : qAsConst(m_texts)) {
+        const QString longer = pseudoText(text.was, factor);
+        if (text.widget && isGivenText(text.property) && longer != text.was)
+            text.property.write(text.widget, longer);
+    }
+    for (QWidget *widget : shown)
+        lengthenTabs(qobject_cast<QTabBar *>(widget), factor);
     layOut();
 }
 
@@ -88,39 +90,57 @@ void LayoutTrial::turn()
 
 void LayoutTrial::restore()
 {
-    for (auto it = m_restorers.crbegin(); it != m_restorers.crend(); ++it)
-        (*it)();
+    restoreTexts();
+    for (const auto &restore : qAsConst(m_restorers))
+        restore();
     m_restorers.clear();
     layOut();
     restoreScrollBars();
 }
 
-// With the text of a button goes its shortcut.
-void LayoutTrial::lengthenProperties(QWidget *widget, double factor)
+// Names for assistive technology too, which follow a text.
+void LayoutTrial::keepTexts(QWidget *widget)
 {
-    const QPointer<QWidget> guard(widget);
-    if (auto *button = qobject_cast<QAbstractButton *>(widget)) {
-        const QPointer<QAbstractButton> same(button);
-        const QKeySequence shortcut = button->shortcut();
-        m_restorers.append([=] {
-            if (same && same->shortcut() != shortcut)
-                same->setShortcut(shortcut);
-        });
-    }
     const QMetaObject *meta = widget->metaObject();
     for (int i = 0; i < meta->propertyCount() && !isForTyping(widget); ++i) {
         const QMetaProperty property = meta->property(i);
-        const QString text = isGivenText(property) ? property.read(widget).toString() : QString();
-        if (pseudoText(text, factor) == text)
-            continue;
-        m_changes.append([=] { property.write(guard, pseudoText(text, factor)); });
-        m_restorers.append([=] { property.write(guard, text); });
+        if (property.userType() == QMetaType::QString && property.isWritable()
+            && !property.isUser())
+            m_texts.append({ widget, property, property.read(widget).toString() });
     }
-    const QPointer<QTabBar> bar(qobject_cast<QTabBar *>(widget));
+    auto *button = qobject_cast<QAbstractButton *>(widget);
+    if (!button)
+        return;
+    const QPointer<QAbstractButton> guard(button);
+    const QKeySequence shortcut = button->shortcut(); // a text brings its own
+    m_restorers.append([=] {
+        if (guard && guard->shortcut() != shortcut)
+            guard->setShortcut(shortcut);
+    });
+}
+
+// Twice, since what one sets may change another.
+void LayoutTrial::restoreTexts()
+{
+    for (int round = 0; round < 2; ++round) {
+        for (const Text &text : qAsConst(m_texts)) {
+            if (text.widget && text.property.read(text.widget).toString() != text.was)
+                text.property.write(text.widget, text.was);
+        }
+    }
+    m_texts.clear();
+}
+
+void LayoutTrial::lengthenTabs(QTabBar *tabs, double factor)
+{
+    const QPointer<QTabBar> bar(tabs);
     for (int i = 0; bar && i < bar->count(); ++i) {
         const QString text = bar->tabText(i);
-        m_changes.append([=] { bar->setTabText(i, pseudoText(text, factor)); });
-        m_restorers.append([=] { bar->setTabText(i, text); });
+        bar->setTabText(i, pseudoText(text, factor));
+        m_restorers.append([=] {
+            if (bar)
+                bar->setTabText(i, text);
+        });
     }
 }
 

@@ -4,9 +4,12 @@
 #include "uitest/silence_p.h"
 
 #include <QLayout>
+#include <QMetaProperty>
 #include <QScrollBar>
 
 #include <functional>
+
+class QTabBar;
 
 namespace vexo::hox::qt::uitest {
 
@@ -27,7 +30,16 @@ public:
     void restore();
 
 private:
-    void lengthenProperties(QWidget *widget, double factor);
+    struct Text
+    {
+        QPointer<QWidget> widget;
+        QMetaProperty property;
+        QString was;
+    };
+
+    void keepTexts(QWidget *widget);
+    void restoreTexts();
+    void lengthenTabs(QTabBar *tabs, double factor);
     void layOut();
     void restoreScrollBars();
 
@@ -36,8 +48,8 @@ private:
     QPointer<QLayout> m_layout;
     QLayout::SizeConstraint m_constraint = QLayout::SetDefaultConstraint;
     QVector<QPair<QPointer<QScrollBar>, int>> m_bars; // with their values
-    QVector<std::function<void()>> m_changes; // that write what is to come
-    QVector<std::function<void()>> m_restorers;
+    QVector<Text> m_texts; // all that could change
+    QVector<std::function<void()>> m_restorers; // of everything else
 };
 
 } // namespace vexo::hox::qt::uitest

@@ -70,6 +70,19 @@ int namelessItems(QAccessibleInterface *interface)
     return nameless;
 }
 
+// What assistive technology sees in place of a part that it does not see, such as a row of its box.
+QAccessibleInterface *shownFor(QAccessibleInterface *interface)
+{
+    QAccessibleInterface *above = interface->parent();
+    while (above && above->role() != QAccessible::Application) {
+        if (above->indexOfChild(interface) >= 0)
+            return interface;
+        interface = above;
+        above = interface->parent();
+    }
+    return interface;
+}
+
 QString nameFault(QAccessibleInterface *interface)
 {
     if (isNamedByItsItems(interface->role())) {
@@ -92,10 +105,11 @@ QVector<Finding> PanelAudit::names(QWidget *window)
             : nullptr;
         if (!interface)
             continue;
+        interface = shownFor(interface);
         const QRect px = placeIn(window, widget, widget->rect());
         const auto complain
             = [&](const char *rule, Finding::Severity severity, const QString &text) {
-                  findings.append(findingAt(window, widget, px, rule, severity,
+                  findings.append(findingAt(widget, px, rule, severity,
                       text + QStringLiteral(" for assistive technology")));
               };
         const QString fault = nameFault(interface);

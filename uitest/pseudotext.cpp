@@ -11,8 +11,8 @@ namespace {
 QChar accented(QChar letter)
 {
     static const QHash<QChar, QChar> accents
-        = { { u'a', u'á' }, { u'e', u'é' }, { u'i', u'î' }, { u'o', u'ö' }, { u'u', u'ü' },
-              { u'A', u'Å' }, { u'E', u'É' }, { u'I', u'Î' }, { u'O', u'Ö' }, { u'U', u'Ü' } };
+        = { { u'a', u'á' }, { u'e', u'é' }, { u'i', u'í' }, { u'o', u'ö' }, { u'u', u'ü' },
+              { u'A', u'Å' }, { u'E', u'É' }, { u'I', u'Í' }, { u'O', u'Ö' }, { u'U', u'Ü' } };
     return accents.value(letter);
 }
 

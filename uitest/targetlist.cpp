@@ -16,6 +16,16 @@ bool isPartOfOne(const QWidget *widget, const Widgets &targets)
     });
 }
 
+// What shows how something looks, and no more.
+bool letsThrough(const QWidget *widget)
+{
+    for (; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
+        if (widget->testAttribute(Qt::WA_TransparentForMouseEvents))
+            return true;
+    }
+    return false;
+}
+
 bool holdsOther(const QWidget *widget, const Widgets &targets)
 {
     return std::any_of(targets.begin(), targets.end(),
@@ -29,7 +39,8 @@ Widgets touchTargets(QWidget *window)
     Widgets targets;
     const Widgets shown = shownWidgets(window);
     for (QWidget *widget : shown) {
-        if (widget && widget->isEnabled() && reactsToPress(widget) && !isPartOfOne(widget, targets))
+        if (widget && widget->isEnabled() && reactsToPress(widget) && !isPartOfOne(widget, targets)
+            && !letsThrough(widget))
             targets.append(widget);
     }
     const auto end = std::remove_if(targets.begin(), targets.end(),

@@ -123,7 +123,7 @@ void Look::check(QVector<Finding> *findings)
 bool Look::isOurs(const Ink &ink) const
 {
     return ink.kind == Ink::Text && ink.widget && m_window->isAncestorOf(ink.widget)
-        && !ink.clip.isEmpty();
+        && !ink.clip.isEmpty() && !ink.px.isEmpty();
 }
 
 // Whether scrolling brings what lies beyond \a edge of what is drawn, px of the screen.
@@ -228,9 +228,9 @@ void Look::findWithoutRoom(QVector<Finding> *findings) const
         const QString text = widget->property("text").toString();
         const QRect px = placeIn(m_window, widget, widget->rect());
         if (!text.isEmpty())
-            findings->append(findingAt(m_window, widget, px, "text-cut",
-                m_is_trial ? Finding::Warning : Finding::Error,
-                quoted(text) + QStringLiteral(" has no room at all") + m_how));
+            findings->append(
+                findingAt(widget, px, "text-cut", m_is_trial ? Finding::Warning : Finding::Error,
+                    quoted(text) + QStringLiteral(" has no room at all") + m_how));
     }
 }
 
@@ -259,7 +259,7 @@ void Look::append(const Fault &fault, QVector<Finding> *findings) const
     if (std::any_of(findings->begin(), findings->end(), is_said))
         return;
     const QPoint corner = m_window->mapFrom(m_window->window(), ink.px.topLeft());
-    findings->append(findingAt(m_window, ink.widget, QRect(corner, ink.px.size()), fault.rule,
+    findings->append(findingAt(ink.widget, QRect(corner, ink.px.size()), fault.rule,
         m_is_trial ? Finding::Warning : fault.severity, fault.text + m_how));
 }
 

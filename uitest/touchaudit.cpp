@@ -98,15 +98,14 @@ Finding::Severity sizeSeverity(const Target &target, const TouchLimits &limits, 
     return is_error ? Finding::Error : Finding::Warning;
 }
 
-void checkSize(const QWidget *window, const Target &target, const TouchLimits &limits,
-    QVector<Finding> *findings)
+void checkSize(const Target &target, const TouchLimits &limits, QVector<Finding> *findings)
 {
     if (!isBelow(target.mm, limits.warning_mm))
         return;
     const double margin_mm = easyMargin(target.widget);
     const double limit_mm
         = isBelow(target.mm, limits.error_mm) ? limits.error_mm : limits.warning_mm;
-    findings->append(findingAt(window, target.widget, target.px, "touch-size",
+    findings->append(findingAt(target.widget, target.px, "touch-size",
         sizeSeverity(target, limits, margin_mm), sizeText(target, limit_mm, margin_mm)));
 }
 
@@ -144,8 +143,8 @@ int nearest(const QVector<Target> &targets, int index)
 }
 
 // Each small target with its nearest neighbour; of two that are that for each other the first.
-void checkGap(const QWidget *window, const QVector<Target> &targets, int index,
-    const TouchLimits &limits, QVector<Finding> *findings)
+void checkGap(const QVector<Target> &targets, int index, const TouchLimits &limits,
+    QVector<Finding> *findings)
 {
     const Target &target = targets.at(index);
     const int other = nearest(targets, index);
@@ -158,7 +157,7 @@ void checkGap(const QWidget *window, const QVector<Target> &targets, int index,
     if (is_said || !isBelow(gap_mm, limits.gap_mm, qMin(pixel.width(), pixel.height())))
         return;
     const QString text = QStringLiteral("%1 mm from %2, less than %3 mm, and %4 mm small");
-    findings->append(findingAt(window, target.widget, target.px, "touch-gap", Finding::Warning,
+    findings->append(findingAt(target.widget, target.px, "touch-gap", Finding::Warning,
         text.arg(number(gap_mm), widgetName(targets.at(other).widget),
             QString::number(limits.gap_mm), number(target.smaller()))));
 }
@@ -198,9 +197,9 @@ QVector<Finding> PanelAudit::touchSizes(QWidget *window, const TouchLimits &limi
     const QVector<Target> targets = targetsIn(window);
     const QVector<Target> worst = worstParts(targets);
     for (const Target &target : worst)
-        checkSize(window, target, limits, &findings);
+        checkSize(target, limits, &findings);
     for (int i = 0; i < targets.size(); ++i)
-        checkGap(window, targets, i, limits, &findings);
+        checkGap(targets, i, limits, &findings);
     return findings;
 }
 

@@ -137,6 +137,15 @@ Parts field(const QWidget *widget)
     return static_cast<const QLineEdit *>(widget)->isReadOnly() ? Parts() : whole(widget);
 }
 
+// One that only shows a text is scrolled, no more.
+template <typename Edit>
+Parts editor(const QWidget *widget)
+{
+    const bool is_typed
+        = static_cast<const Edit *>(widget)->textInteractionFlags() & Qt::TextEditable;
+    return is_typed ? whole(widget) : Parts();
+}
+
 Parts comboParts(const QWidget *widget)
 {
     struct Access : QComboBox
@@ -266,8 +275,8 @@ const Known *known(const QWidget *widget)
         { &QAbstractItemView::staticMetaObject, items }, { &QTabBar::staticMetaObject, tabs },
         { &QMenuBar::staticMetaObject, entries<QMenuBar> },
         { &QMenu::staticMetaObject, entries<QMenu> }, { &QSplitterHandle::staticMetaObject, whole },
-        { &QSizeGrip::staticMetaObject, whole }, { &QTextEdit::staticMetaObject, whole },
-        { &QPlainTextEdit::staticMetaObject, whole } };
+        { &QSizeGrip::staticMetaObject, whole }, { &QTextEdit::staticMetaObject, editor<QTextEdit> },
+        { &QPlainTextEdit::staticMetaObject, editor<QPlainTextEdit> } };
     for (const Known &line : table) {
         if (line.base->cast(widget))
             return &line;

@@ -74,15 +74,15 @@ bool isScrolled(const QWidget *viewport)
     return isScrolled(viewport, Qt::Horizontal) || isScrolled(viewport, Qt::Vertical);
 }
 
-Finding findingAt(const QWidget *window, QWidget *widget, const QRect &px, const char *rule,
-    Finding::Severity severity, const QString &text)
+Finding findingAt(QWidget *widget, const QRect &px, const char *rule, Finding::Severity severity,
+    const QString &text)
 {
     Finding finding;
     finding.severity = severity;
     finding.rule = QLatin1String(rule);
     finding.widget = widget;
     finding.where = widgetPath(widget);
-    finding.mm = mmOf(px & window->rect());
+    finding.mm = mmOf(px);
     finding.text = text;
     return finding;
 }

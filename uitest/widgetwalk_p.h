@@ -25,8 +25,8 @@ QString textOf(const QSizeF &mm); ///< "12.0 x 9.8 mm"
 bool isScrolled(const QWidget *viewport, Qt::Orientation orientation);
 bool isScrolled(const QWidget *viewport); ///< in either direction
 
-/// A finding about \a widget at \a px of \a window.
-Finding findingAt(const QWidget *window, QWidget *widget, const QRect &px, const char *rule,
-    Finding::Severity severity, const QString &text);
+/// A finding about \a widget at \a px of the window.
+Finding findingAt(QWidget *widget, const QRect &px, const char *rule, Finding::Severity severity,
+    const QString &text);
 
 } // namespace vexo::hox::qt::uitest
