@@ -1,6 +1,7 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
+#include <QPaintEngine>
 #include <QPixmap>
 #include <QPixmapCache>
 #include <QPoint>
@@ -15,6 +16,13 @@ struct Print
     QPixmap pixmap;
     QPoint position;
 };
+
+/// Whether a print may stand in for what it shows: a text stays one in a PDF, and for a test that
+/// asks what is drawn.
+inline bool isForScreens(const QPaintEngine &engine)
+{
+    return engine.type() == QPaintEngine::Raster;
+}
 
 /// The prints of the two looks that were used last, such as up and down. They lie in the pixmap
 /// cache, which drops what has not been used for long. \a Look tells with == what is drawn.
