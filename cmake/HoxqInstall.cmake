@@ -7,8 +7,19 @@ install(FILES system/vexologging.h ${PROJECT_BINARY_DIR}/system/hoxqsystem_expor
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui/system COMPONENT Devel)
 install(FILES ${PROJECT_BINARY_DIR}/ui/hoxqui_export.h ${PROJECT_BINARY_DIR}/ui/ui_updatepage.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui/ui COMPONENT Devel)
+if(TARGET hoxquitest) # no panel needs it
+  install(TARGETS hoxquitest EXPORT HoxqUi
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Devel)
+  install(TARGETS hoxquiaudit
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/qt5/plugins/generic COMPONENT Devel)
+  install(DIRECTORY uitest DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui COMPONENT Devel
+    FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE PATTERN plugin EXCLUDE)
+  install(FILES ${PROJECT_BINARY_DIR}/uitest/hoxquitest_export.h
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui/uitest COMPONENT Devel)
+endif()
 get_property(forwards GLOBAL PROPERTY HOXQ_FORWARDS)
-install(FILES ${forwards} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui COMPONENT Devel)
+get_property(kit_forwards GLOBAL PROPERTY HOXQ_KIT_FORWARDS)
+install(FILES ${forwards} ${kit_forwards} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui COMPONENT Devel)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/HoxqUi)
 install(FILES LICENSE NOTICES.md DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/hoxqui COMPONENT Runtime)
@@ -22,6 +33,12 @@ install(FILES ${PROJECT_BINARY_DIR}/HoxqUiConfig.cmake ${PROJECT_BINARY_DIR}/Hox
 
 # Relative to its own folder, so that the installed tree can be moved.
 file(RELATIVE_PATH up_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
-configure_file(cmake/hoxqui.pc.in hoxqui.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/hoxqui.pc
-  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Devel)
+set(pkgconfig_files hoxqui.pc)
+if(TARGET hoxquitest)
+  list(APPEND pkgconfig_files hoxquitest.pc)
+endif()
+foreach(file IN LISTS pkgconfig_files)
+  configure_file(cmake/${file}.in ${file} @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/${file}
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Devel)
+endforeach()

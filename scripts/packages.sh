@@ -7,9 +7,11 @@ BUILD_PACKAGES=(g++ cmake ninja-build ccache qtbase5-dev libqt5svg5-dev librsvg2
     fonts-inter fonts-droid-fallback)
 DESIGNER_PACKAGES=(qttools5-dev)
 STYLE_PACKAGES=(clang-format python3)
+# Touches with a time of their own go through the toolkit's private headers.
+KIT_PACKAGES=(qtbase5-private-dev)
 # The tests read symbols with binutils, link through pkg-config and fall back to DejaVu.
-TEST_PACKAGES=("${BUILD_PACKAGES[@]}" "${DESIGNER_PACKAGES[@]}" "${STYLE_PACKAGES[@]}"
-    binutils pkg-config fonts-dejavu-core)
+TEST_PACKAGES=("${BUILD_PACKAGES[@]}" "${DESIGNER_PACKAGES[@]}" "${KIT_PACKAGES[@]}"
+    "${STYLE_PACKAGES[@]}" binutils pkg-config fonts-dejavu-core)
 BENCHMARK_PACKAGES=("${BUILD_PACKAGES[@]}" libbenchmark-dev valgrind fonts-dejavu-core)
 FUZZ_PACKAGES=("${BUILD_PACKAGES[@]}" clang libclang-rt-14-dev)
 LINT_PACKAGES=("${TEST_PACKAGES[@]}" "${BENCHMARK_PACKAGES[@]}" clang-tidy clazy)

@@ -57,12 +57,13 @@ VexoLineEdit *createField(const QString &text)
     return field;
 }
 
-VexoSliderDecoration *createSlider(Style style, int value)
+VexoSliderDecoration *createSlider(const QString &name, Style style, int value)
 {
     auto *slider = new VexoSlider(Qt::Horizontal);
     slider->setMaximum(100);
     slider->setTickInterval(5);
     slider->setValue(value);
+    slider->setAccessibleName(name);
     auto *decoration = new VexoSliderDecoration(nullptr, style, slider);
     decoration->setScaleText({ "0", "25", "50", "75", "100" });
     return decoration;
@@ -122,12 +123,14 @@ void FormPage::addTexts()
 void FormPage::addSliders()
 {
     TileLayout *tiles = addTiles("Display and sound", 71);
-    VexoSliderDecoration *brightness = createSlider(Style::HorizontalWithoutScale, 60);
+    VexoSliderDecoration *brightness
+        = createSlider("Brightness", Style::HorizontalWithoutScale, 60);
     brightness->setMinImage(
         ":/widgetimages/Icons_Round_Small/RoundButton_S_Minus_Active.svg", 0, 4);
     brightness->setMaxImage(":/widgetimages/Icons_Round_Small/RoundButton_S_Plus_Active.svg", 0, 4);
     addContainer(tiles, "Brightness", brightness)->setMmHeight(25); // as the one with a scale
-    addContainer(tiles, "Volume, %", createSlider(Style::HorizontalWithScale, 40));
+    addContainer(
+        tiles, "Volume, %", createSlider("Volume, %", Style::HorizontalWithScale, 40));
 }
 
 void FormPage::addControls()

@@ -26,6 +26,7 @@ QLineEdit *createLine()
                             .arg(VexoColors::C12.name())
                             .arg(mmX(2)));
     line->setObjectName("keyboardLine");
+    line->setAccessibleName("What was typed");
     line->setFont(ptFont(13));
     line->setFixedHeight(mmY(10));
     line->setPlaceholderText(QString::fromUtf8("Grüße 2026"));

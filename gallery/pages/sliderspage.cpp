@@ -34,6 +34,7 @@ VexoSlider *createSlider(
     slider->setMaximum(maximum);
     slider->setTickInterval(step);
     slider->setValue(value);
+    slider->setAccessibleName("Level");
     return slider;
 }
 

@@ -42,6 +42,7 @@ QSlider *createSlider(Qt::Orientation orientation)
 {
     auto *slider = new QSlider(orientation);
     slider->setValue(60);
+    slider->setAccessibleName("Level");
     return slider;
 }
 

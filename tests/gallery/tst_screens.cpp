@@ -17,8 +17,9 @@
 
 #include <QLabel>
 #include <QLayout>
-#include <QThread>
 #include <QWindow>
+
+#include <unistd.h>
 
 using namespace vexo::hox::qt::ui;
 
@@ -58,7 +59,7 @@ template <typename Condition>
 bool happensSoon(Condition condition)
 {
     for (int i = 0; i < 10000 && !condition(); ++i) {
-        QThread::msleep(1);
+        usleep(1000); // of the real time
         virtualclock::pass(5);
     }
     return condition();

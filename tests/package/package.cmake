@@ -26,13 +26,19 @@ target_link_libraries(tst_fontlifetime PRIVATE Qt5::Widgets)
 # The library finds this program's qRegisterResourceData before the toolkit's.
 set_target_properties(tst_bundles PROPERTIES ENABLE_EXPORTS ON)
 
-get_property(forwards GLOBAL PROPERTY HOXQ_FORWARDS)
-foreach(forward IN LISTS forwards)
-  get_filename_component(class ${forward} NAME)
-  list(APPEND public_classes ${class})
-endforeach()
-list(SORT public_classes)
-list(JOIN public_classes " " public_classes)
+# Sets out to the names of the forwarding headers that a global property lists, with blanks between.
+function(hoxq_class_names out property)
+  get_property(forwards GLOBAL PROPERTY ${property})
+  foreach(forward IN LISTS forwards)
+    get_filename_component(class ${forward} NAME)
+    list(APPEND names ${class})
+  endforeach()
+  list(SORT names)
+  list(JOIN names " " names)
+  set(${out} ${names} PARENT_SCOPE)
+endfunction()
+hoxq_class_names(public_classes HOXQ_FORWARDS)
+hoxq_class_names(kit_classes HOXQ_KIT_FORWARDS)
 
 # The applications that the tests build are built as the library is.
 set(consumer_flags ${CMAKE_CXX_FLAGS})
@@ -47,6 +53,7 @@ target_link_libraries(packagesupport PUBLIC Qt5::Core)
 target_compile_definitions(packagesupport PUBLIC
   HOXQ_SOURCE="${PROJECT_SOURCE_DIR}" HOXQ_CONSUMER="${CMAKE_CURRENT_SOURCE_DIR}/consumer"
   HOXQ_STAGE="${stage}" HOXQ_LIBDIR="${CMAKE_INSTALL_LIBDIR}" HOXQ_CLASSES="${public_classes}"
+  HOXQ_KIT_CLASSES="${kit_classes}"
   HOXQ_VERSION="${PROJECT_VERSION}"
   HOXQ_CMAKE="${CMAKE_COMMAND}" HOXQ_GENERATOR="${CMAKE_GENERATOR}"
   HOXQ_COMPILER="${CMAKE_CXX_COMPILER}" HOXQ_LAUNCHER="${CMAKE_CXX_COMPILER_LAUNCHER}"

@@ -47,7 +47,7 @@ void TestConfiguration::installedLibrariesHaveTheGivenRunPath()
             QStringLiteral("-G" HOXQ_GENERATOR),
             QStringLiteral("-DCMAKE_CXX_COMPILER=" HOXQ_COMPILER),
             QStringLiteral("-DHOXQ_TESTS=OFF"), QStringLiteral("-DHOXQ_GALLERY=OFF"),
-            QStringLiteral("-DHOXQ_DESIGNER=OFF"),
+            QStringLiteral("-DHOXQ_DESIGNER=OFF"), QStringLiteral("-DHOXQ_TEST_KIT=OFF"),
             QStringLiteral("-DCMAKE_INSTALL_RPATH=/opt/toolkit/lib") });
     QVERIFY2(result.exit_code == 0, qPrintable(result.output));
     QFile script(folder.filePath(QStringLiteral("cmake_install.cmake")));

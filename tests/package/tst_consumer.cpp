@@ -27,7 +27,8 @@ Finished compile(const QStringList &arguments)
     const QString compiler = QStringLiteral(HOXQ_LAUNCHER ";" HOXQ_COMPILER);
     const QString flags
         = QStringLiteral("-std=c++17 -fPIC -Wall -Wextra -Wpedantic -Werror " HOXQ_FLAGS);
-    const QString line = QStringLiteral("eval '\"$@\"' $(pkg-config --cflags --libs hoxqui)");
+    const QString line
+        = QStringLiteral("eval '\"$@\"' $(pkg-config --cflags --libs hoxqui hoxquitest)");
     return run(QStringLiteral("sh"),
         QStringList{ QStringLiteral("-c"), line, QStringLiteral("sh") }
             + compiler.split(QLatin1Char(';'), Qt::SkipEmptyParts)
@@ -44,11 +45,13 @@ class TestConsumer : public QObject
 private Q_SLOTS:
     void findsThePackageWithCMake();
     void buildsTheExample();
+    void testsItsScreenWithTheKit();
     void findsThePackageWithPkgConfig();
     void laterMajorVersionIsRefused();
     void everyClassHasAForwardingHeader();
 
 private:
+    void verifyBuilds(const QString &folder, const QString &source);
     void verifyRuns(const QString &program, const QStringList &environment = QStringList());
 
     QTemporaryDir m_dir;
@@ -64,24 +67,35 @@ void TestConsumer::verifyRuns(const QString &program, const QStringList &environ
     QCOMPARE(result.exit_code, 0);
 }
 
-void TestConsumer::findsThePackageWithCMake()
+void TestConsumer::verifyBuilds(const QString &folder, const QString &source)
 {
-    const QString folder = m_dir.filePath(QStringLiteral("cmake"));
-    const Finished configured = configure(folder, "1");
+    const Finished configured = configure(folder, "1", source);
     QVERIFY2(configured.exit_code == 0, qPrintable(configured.output));
     const Finished built = run(QStringLiteral(HOXQ_CMAKE), { QStringLiteral("--build"), folder });
     QVERIFY2(built.exit_code == 0, qPrintable(built.output));
+}
+
+void TestConsumer::findsThePackageWithCMake()
+{
+    const QString folder = m_dir.filePath(QStringLiteral("cmake"));
+    verifyBuilds(folder, QStringLiteral(HOXQ_CONSUMER));
     verifyRuns(folder + QLatin1String("/consumer"));
 }
 
 void TestConsumer::buildsTheExample()
 {
-    const QString folder = m_dir.filePath(QStringLiteral("example"));
-    const QString source = QStringLiteral(HOXQ_SOURCE "/examples/first-panel");
-    const Finished configured = configure(folder, "1", source);
-    QVERIFY2(configured.exit_code == 0, qPrintable(configured.output));
-    const Finished built = run(QStringLiteral(HOXQ_CMAKE), { QStringLiteral("--build"), folder });
-    QVERIFY2(built.exit_code == 0, qPrintable(built.output));
+    verifyBuilds(m_dir.filePath(QStringLiteral("example")),
+        QStringLiteral(HOXQ_SOURCE "/examples/first-panel"));
+}
+
+void TestConsumer::testsItsScreenWithTheKit()
+{
+    const QString folder = m_dir.filePath(QStringLiteral("kit"));
+    verifyBuilds(folder, QStringLiteral(HOXQ_CONSUMER "/kit"));
+    const Finished result = run(folder + QLatin1String("/consumertest"), {});
+    QVERIFY2(
+        result.output.contains(QLatin1String("clicked\nproblem: \n")), qPrintable(result.output));
+    QCOMPARE(result.exit_code, 0);
 }
 
 void TestConsumer::findsThePackageWithPkgConfig()
@@ -104,7 +118,8 @@ void TestConsumer::laterMajorVersionIsRefused()
 
 void TestConsumer::everyClassHasAForwardingHeader()
 {
-    const QStringList classes = QStringLiteral(HOXQ_CLASSES).split(QLatin1Char(' '));
+    QStringList classes = QStringLiteral(HOXQ_CLASSES " " HOXQ_KIT_CLASSES).split(QLatin1Char(' '));
+    classes.sort();
     QCOMPARE(QDir(QStringLiteral(HOXQ_STAGE "/include/hoxqui")).entryList(QDir::Files), classes);
     QFile source(m_dir.filePath(QStringLiteral("all.cpp")));
     QVERIFY(source.open(QIODevice::WriteOnly));

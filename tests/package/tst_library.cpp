@@ -24,7 +24,7 @@ QString demangled(const QByteArray &symbol)
 QString ownerOf(const QString &symbol)
 {
     static const QRegularExpression ours(QStringLiteral(
-        "^(?:[a-z -]+ (?:for|to) )?vexo::(?:hox::qt::(?:ui|system)|util)::(\\w+)(.*)"));
+        "^(?:[a-z -]+ (?:for|to) )?vexo::(?:hox::qt::(?:ui|uitest|system)|util)::(\\w+)(.*)"));
     const QRegularExpressionMatch match = ours.match(symbol);
     return match.captured(2).startsWith(QLatin1Char('(')) ? QString() : match.captured(1);
 }
@@ -86,6 +86,7 @@ void TestLibrary::exportsItsPublicClassesAndNothingElse_data()
     const QString system = QStringLiteral("VexoLogging");
     QStringList ui = QStringLiteral(HOXQ_CLASSES).split(QLatin1Char(' '));
     QVERIFY(ui.removeOne(system));
+    const QStringList kit = QStringLiteral(HOXQ_KIT_CLASSES).split(QLatin1Char(' '));
     for (const char *without_symbols :
         { "ButtonState", "LineComponent", "PanelOptions", "Ui_UpdatePage" })
         QVERIFY(ui.removeOne(QLatin1String(without_symbols)));
@@ -96,6 +97,7 @@ void TestLibrary::exportsItsPublicClassesAndNothingElse_data()
     QTest::addColumn<QStringList>("interface");
     QTest::newRow("libhoxqui.so") << ui;
     QTest::newRow("libhoxqsystem.so") << QStringList(system);
+    QTest::newRow("libhoxquitest.so") << kit;
 }
 
 void TestLibrary::exportsItsPublicClassesAndNothingElse()
@@ -153,6 +155,7 @@ void TestLibrary::hasItsVersionAndFindsItsNeighbour_data()
     QTest::addColumn<QString>("run_path");
     QTest::newRow("libhoxqui.so") << QStringLiteral("[$ORIGIN]");
     QTest::newRow("libhoxqsystem.so") << QString();
+    QTest::newRow("libhoxquitest.so") << QStringLiteral("[$ORIGIN]");
 }
 
 void TestLibrary::hasItsVersionAndFindsItsNeighbour()

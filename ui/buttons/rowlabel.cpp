@@ -188,8 +188,13 @@ void RowLabel::paintEvent(QPaintEvent *event)
         return;
     }
     QPainter painter(this);
-    painter.drawPixmap(m_shown.position, m_shown.pixmap);
+    const bool is_screen = isForScreens(*painter.paintEngine());
+    if (is_screen)
+        painter.drawPixmap(m_shown.position, m_shown.pixmap);
+    painter.end();
     m_shown = Print();
+    if (!is_screen)
+        paintAnew(event);
 }
 
 void RowLabel::resizeEvent(QResizeEvent *event)

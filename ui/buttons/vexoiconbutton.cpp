@@ -54,6 +54,8 @@ bool VexoIconButton::event(QEvent *event)
 
 void VexoIconButton::mouseReleaseEvent(QMouseEvent *event)
 {
+    if (Press::missedMoves(this))
+        mouseWasMoved(event->pos().x(), event->pos().y(), width(), height());
     const bool is_slide = Press::isSlide(this, *event);
     const bool is_click = mouseWasReleased() && is_slide;
     const QPointer<VexoIconButton> self(this);

@@ -346,6 +346,8 @@ void VexoPushButton::mousePressEvent(QMouseEvent *event)
 
 void VexoPushButton::mouseReleaseEvent(QMouseEvent *event)
 {
+    if (Press::missedMoves(this))
+        mouseWasMoved(event->pos().x(), event->pos().y(), width(), height());
     const bool is_slide = Press::isSlide(this, *event);
     if (Press::end(this, *event) == Press::Late)
         return;

@@ -20,6 +20,7 @@ struct State
     QPointer<QWidget> widget; // also after a press was taken back, until the finger is lifted
     std::unique_ptr<TouchWatch> watch; // as long as the press goes on
     QPoint position; // of the beginning
+    bool was_held_back = false; // by a list
     bool has_moved = false;
     bool is_swipe = false;
     bool is_dropping = false;
@@ -76,9 +77,12 @@ bool Press::begin(QWidget *widget, QMouseEvent *event, const QPoint &position)
         return false;
     }
     state().watch = std::make_unique<TouchWatch>(widget, takeBack);
+    if (is_late && qobject_cast<QAbstractButton *>(widget))
+        state().watch->limitTo(event->globalPos());
     if (is_late && !(QGuiApplication::mouseButtons() & Qt::LeftButton))
         state().watch->endSoon();
     state().position = position;
+    state().was_held_back = is_late;
     state().has_moved = false;
     state().is_swipe = false;
     return true;
@@ -110,6 +114,14 @@ void Press::move(const QWidget *widget, const QPoint &position, const TapDistanc
 {
     if (isOn(widget) && distance.isExceededBy(position - state().position))
         state().is_swipe = true;
+}
+
+bool Press::missedMoves(const QWidget *widget)
+{
+    if (!isOn(widget) || !state().was_held_back || state().has_moved)
+        return false;
+    state().has_moved = true;
+    return true;
 }
 
 bool Press::isSlide(const QWidget *widget, const QMouseEvent &release)

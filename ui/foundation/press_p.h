@@ -44,6 +44,8 @@ public:
     /// back.
     static void move(const QWidget *widget, const QPoint &position, const TapDistance &distance);
 
+    /// Whether a list held the press back, and so all moves before the release; they count now.
+    static bool missedMoves(const QWidget *widget);
     /// Whether \a release lifts a finger that has moved; asked before end().
     static bool isSlide(const QWidget *widget, const QMouseEvent &release);
     /// Ends the press of \a widget, if there is one. A button that is taken back comes up, so that

@@ -3,6 +3,7 @@
 
 #include "ui/foundation/printstore_p.h"
 
+#include <QPaintEngine>
 #include <QPixmap>
 #include <QPoint>
 
@@ -16,6 +17,13 @@ struct Print
     QPixmap pixmap;
     QPoint position;
 };
+
+/// Whether a print may stand in for what it shows: a text stays one in a PDF, and for a test that
+/// asks what is drawn.
+inline bool isForScreens(const QPaintEngine &engine)
+{
+    return engine.type() == QPaintEngine::Raster;
+}
 
 /// The prints of the two looks that were used last, such as up and down, as long as the PrintStore
 /// keeps them. \a Look tells with == what is drawn.

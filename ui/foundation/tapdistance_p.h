@@ -10,6 +10,9 @@
 
 namespace vexo::hox::qt::ui {
 
+/// From here on a list takes a finger that is dragged across it, mm.
+constexpr double DRAG_START_MM = 5;
+
 /// How far a finger may wander in x and y for a tap.
 class TapDistance
 {

@@ -77,7 +77,8 @@ void TextBlock::draw(QPainter *painter, const QRectF &area, const QString &text,
         return;
     if (!isLaidOut(painter->font(), area.width(), text, alignment))
         layOut(painter->font(), area.width(), text, alignment);
-    if (!m_is_static || m_height > area.height()) {
+    const bool is_screen = isForScreens(*painter->paintEngine());
+    if (!m_is_static || m_height > area.height() || !is_screen) {
         painter->drawText(area, text, option(m_begins_right ? atRight(alignment) : alignment));
         return;
     }

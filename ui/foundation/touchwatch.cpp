@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ui/foundation/touchwatch_p.h"
 
-#include <QApplication>
-#include <QEvent>
+#include "ui/foundation/bouncefilter_p.h"
+#include "ui/foundation/tapdistance_p.h"
 
+#include <QApplication>
+#include <QMouseEvent>
+
+#include <cstdlib>
 #include <utility>
 
 namespace vexo::hox::qt::ui {
@@ -78,6 +82,7 @@ TouchWatch::TouchWatch(QWidget *widget, std::function<void()> lost)
     : m_widget(widget)
     , m_lost(std::move(lost))
 {
+    BounceFilter::watch();
     QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -90,11 +95,27 @@ bool TouchWatch::isOutOfReach(const QWidget &widget)
 bool TouchWatch::eventFilter(QObject *watched, QEvent *event)
 {
     const QWidget *touched = m_widget;
-    if (touched && isLostBy(*watched, *event, *touched))
+    if (touched && (isLostBy(*watched, *event, *touched) || isSlide(*watched, *event)))
         end();
     else if (event->type() == QEvent::MouseButtonRelease && watched->isWindowType())
         endSoon();
     return false;
+}
+
+void TouchWatch::limitTo(const QPoint &place)
+{
+    m_place = place;
+}
+
+bool TouchWatch::isSlide(const QObject &object, const QEvent &event) const
+{
+    const bool is_told
+        = event.type() == QEvent::MouseMove || event.type() == QEvent::MouseButtonRelease;
+    if (!m_place || !is_told || !object.isWindowType())
+        return false;
+    const QPoint way = static_cast<const QMouseEvent &>(event).globalPos() - *m_place;
+    const QSize limit = pxSize(*ScalingInfo::inst(), QSizeF(DRAG_START_MM, DRAG_START_MM));
+    return std::abs(way.x()) > limit.width() || std::abs(way.y()) > limit.height();
 }
 
 // A touch that still goes on when the window has handled the release never gets it.

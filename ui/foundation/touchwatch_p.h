@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 namespace vexo::hox::qt::ui {
 
@@ -15,6 +16,9 @@ namespace vexo::hox::qt::ui {
 /// a word to the widget; another widget has grabbed the mouse; another button or a new press
 /// follows; or, whatever the reason, the widget does not see the release. It filters the events of
 /// the whole application, so it should live as long as the touch.
+///
+/// A list that its finger slides across takes a touch back only along its own direction; limitTo()
+/// is for what must not click after a slide across it.
 class TouchWatch : public QObject
 {
 public:
@@ -24,6 +28,8 @@ public:
     /// Whether no finger can touch \a widget now.
     static bool isOutOfReach(const QWidget &widget);
 
+    /// Beyond 5 mm of \a place, px of the screen, the touch is a slide and lost.
+    void limitTo(const QPoint &place);
     /// The finger has been lifted: the release comes at once or never.
     void endSoon();
 
@@ -33,11 +39,13 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
+    bool isSlide(const QObject &object, const QEvent &event) const;
     void end();
 
     const QPointer<QWidget> m_widget;
     const std::function<void()> m_lost;
     QBasicTimer m_soon;
+    std::optional<QPoint> m_place; // that it is limited to
 };
 
 } // namespace vexo::hox::qt::ui

@@ -2,6 +2,7 @@
 #include "ui/scrolling/vexoverticalscrollarea.h"
 
 #include "ui/foundation/press_p.h"
+#include "ui/foundation/tapdistance_p.h"
 #include "ui/foundation/touchwatch_p.h"
 #include "ui/sliders/vexoslider.h"
 
@@ -10,6 +11,8 @@
 #include <QPointer>
 #include <QScrollBar>
 #include <QScrollerProperties>
+
+#include <cmath>
 
 namespace vexo::hox::qt::ui {
 
@@ -36,6 +39,16 @@ void repaintAbove(const QWidget *widget, QRect area)
                 repaint(above);
         }
     }
+}
+
+// The scroller takes its pixels per metre from the screen; the panel's may have been told
+// otherwise.
+double stretchOfMetres(const QScroller &scroller)
+{
+    const double panel = double(ScalingInfo::inst()->mm2px_Y(1000));
+    const double screen = scroller.pixelPerMeter().y();
+    const bool is_same = screen <= 0 || std::abs(panel / screen - 1) < 0.02;
+    return is_same ? 1 : panel / screen;
 }
 
 } // namespace
@@ -118,16 +131,17 @@ void VexoVerticalScrollArea::scrollContentsBy(int dx, int dy)
 void VexoVerticalScrollArea::tuneScroller()
 {
     using Properties = QScrollerProperties;
+    const double stretch = stretchOfMetres(*m_scroller);
     Properties properties = m_scroller->scrollerProperties();
     properties.setScrollMetric(
         Properties::VerticalOvershootPolicy, QVariant::fromValue(Properties::OvershootAlwaysOff));
     properties.setScrollMetric(Properties::MousePressEventDelay, 0.15F);
-    properties.setScrollMetric(Properties::MinimumVelocity, 0.1);
-    properties.setScrollMetric(Properties::MaximumVelocity, 0.7);
+    properties.setScrollMetric(Properties::MinimumVelocity, 0.1 * stretch);
+    properties.setScrollMetric(Properties::MaximumVelocity, 0.7 * stretch);
     properties.setScrollMetric(Properties::DecelerationFactor, 0.5);
     properties.setScrollMetric(Properties::FrameRate, int(Properties::Fps20));
     properties.setScrollMetric(Properties::ScrollingCurve, int(QEasingCurve::Linear));
-    properties.setScrollMetric(Properties::DragStartDistance, 0.005);
+    properties.setScrollMetric(Properties::DragStartDistance, DRAG_START_MM / 1000 * stretch);
     properties.setScrollMetric(Properties::DragVelocitySmoothingFactor, 0.1);
     m_scroller->setScrollerProperties(properties);
 }

@@ -127,6 +127,7 @@ private:
     bool m_is_down = false;
     int m_pulses = 0;
     int m_taps = 0;
+    int m_lifted_ms = 0;
     int m_double_clicks = 0;
     QByteArrayList m_history;
 };
@@ -261,6 +262,8 @@ void RandomScreen::press(Target *target)
     const bool is_resting = isResting();
     if (is_resting && m_obstacle == None)
         reveal(*target);
+    if (virtualclock::ms() - m_lifted_ms <= 40)
+        virtualclock::pass(41); // so soon it would be a bounce, which counts for nothing
     const QPoint at = m_screen.placeOf(target->touched) - QPoint(random(4), random(4));
     const bool is_open = m_obstacle == None || m_obstacle == Disabled || m_obstacle == Hidden;
     Target *hit = is_open ? targetAt(at) : nullptr;
@@ -296,6 +299,7 @@ void RandomScreen::lift()
         ++m_taps;
     }
     m_finger->lift();
+    m_lifted_ms = virtualclock::ms();
     if (m_model.armed && m_model.is_unsure)
         m_model.armed->expected += qBound(0, m_model.armed->excess(), 1);
     m_model.end();

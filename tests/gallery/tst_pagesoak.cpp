@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "gallery/page.h"
+#include "gallery/pagelist.h"
+#include "support/testcase.h"
+
+#include <Finger>
+#include <Panel>
+#include <Soak>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QScrollArea>
+#include <QStackedWidget>
+
+#include <memory>
+
+using namespace vexo::hox::qt;
+
+class TestPageSoak : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void leavesNothingBehind_data();
+    void leavesNothingBehind();
+};
+
+void TestPageSoak::leavesNothingBehind_data()
+{
+    QTest::addColumn<int>("page");
+    for (int i = 0; i < pageList().size(); ++i)
+        QTest::newRow(qPrintable(pageList().at(i).name)) << i;
+}
+
+namespace {
+
+void useAndClose(QScrollArea *area, int index)
+{
+    const std::unique_ptr<Page> page(pageList().at(index).build());
+    area->setWidget(page.get());
+    QCoreApplication::processEvents();
+    uitest::Finger finger(area->window());
+    const auto buttons = page->findChildren<QAbstractButton *>();
+    for (int i = 0; i < qMin(3, buttons.size()); ++i)
+        finger.tap(buttons.at(i));
+    area->takeWidget();
+}
+
+} // namespace
+
+// HOXQ_SOAK_ROUNDS makes it longer.
+void TestPageSoak::leavesNothingBehind()
+{
+    QFETCH(int, page);
+    const int rounds = qMax(30, qEnvironmentVariableIntValue("HOXQ_SOAK_ROUNDS"));
+    ui::PanelOptions options;
+    options.px = QSize(800, 480);
+    options.mm = QSizeF(152, 91);
+    ui::Panel::setUp(*qApp, options);
+    QWidget window;
+    window.resize(*options.px);
+    QScrollArea area(&window);
+    area.setWidgetResizable(true);
+    area.resize(window.size());
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const uitest::SoakResult result = uitest::soak([&] { useAndClose(&area, page); }, rounds);
+    QVERIFY2(!result.isLeaking(), qPrintable(result.text()));
+}
+
+QTEST_MAIN(TestPageSoak)
+#include "tst_pagesoak.moc"

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "ui/foundation/bouncefilter_p.h"
+
+#include "ui/foundation/tapdistance_p.h"
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QPointer>
+
+#include <cstdlib>
+
+namespace vexo::hox::qt::ui {
+
+namespace {
+
+const ulong longest_ms = 40;
+const ulong shortest_ms = 4; // no panel reports as often; a double click of a test does
+
+} // namespace
+
+void BounceFilter::watch()
+{
+    static QPointer<BounceFilter> only_one;
+    QCoreApplication *application = QCoreApplication::instance();
+    if (!only_one)
+        only_one = new BounceFilter(application);
+    application->installEventFilter(only_one); // once; again puts it first
+}
+
+bool BounceFilter::eventFilter(QObject *watched, QEvent *event)
+{
+    if (!watched->isWindowType())
+        return false;
+    const bool was_swallowing = m_is_swallowing;
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        m_is_swallowing = isBounce(*static_cast<QMouseEvent *>(event));
+        return m_is_swallowing;
+    case QEvent::MouseMove:
+        return m_is_swallowing;
+    case QEvent::MouseButtonRelease:
+        noteLift(*static_cast<QMouseEvent *>(event));
+        m_is_swallowing = false;
+        return was_swallowing;
+    default:
+        return false;
+    }
+}
+
+void BounceFilter::timerEvent(QTimerEvent *)
+{
+    m_wait.stop();
+    QCoreApplication::instance()->removeEventFilter(this);
+}
+
+bool BounceFilter::isBounce(const QMouseEvent &press) const
+{
+    const ulong pause_ms = press.timestamp() - m_lift_ms;
+    const QPoint way = press.globalPos() - m_place;
+    const QSize reach = pxSize(*ScalingInfo::inst(), QSizeF(DRAG_START_MM, DRAG_START_MM));
+    return m_wait.isActive() && pause_ms >= shortest_ms && pause_ms <= longest_ms
+        && std::abs(way.x()) <= reach.width() && std::abs(way.y()) <= reach.height();
+}
+
+void BounceFilter::noteLift(const QMouseEvent &release)
+{
+    m_lift_ms = release.timestamp();
+    m_place = release.globalPos();
+    m_wait.start(int(longest_ms), this);
+}
+
+} // namespace vexo::hox::qt::ui
