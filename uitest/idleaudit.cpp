@@ -140,6 +140,7 @@ private:
     QHash<const QObject *, Ticks> m_ticks;
     QImage m_before;
     int m_sleeps = 0;
+    int m_rounds = 0; // with paints
 };
 
 IdleWatch::IdleWatch(QWidget *window)
@@ -188,12 +189,12 @@ void IdleWatch::sleep()
     sumUp();
 }
 
-// One without a widget may be for each window.
+// One without a widget may be for each window. A window has one for its repaints.
 void IdleWatch::countTick(const QObject *receiver)
 {
     QWidget *window = m_window;
     auto *widget = const_cast<QWidget *>(widgetOf(receiver));
-    if (!window || (widget && !window->isAncestorOf(widget)))
+    if (!window || receiver->isWindowType() || (widget && !window->isAncestorOf(widget)))
         return;
     Ticks &ticks = m_ticks[receiver];
     ticks.widget = widget ? widget : window;
@@ -258,8 +259,10 @@ void IdleWatch::sumUp()
         ++paints.times;
         countWaste(&paints, it.value());
     }
-    const QImage *image = m_round.isEmpty() ? nullptr : paintedImage(m_window);
-    if (image)
+    if (m_round.isEmpty())
+        return;
+    ++m_rounds;
+    if (const QImage *image = paintedImage(m_window))
         m_before = image->copy();
     m_round.clear();
 }
@@ -322,7 +325,7 @@ void IdleWatch::tellWakeUps(QWidget *window, int ms, QVector<Finding> *findings)
         declared += each.is_declared ? each.times : 0;
     }
     const int wake_ups = m_sleeps - 1; // the first sleep follows our own start
-    const int allowed = ticks + int(m_paints.size()) + least_ticks;
+    const int allowed = ticks + m_rounds + least_ticks;
     if (wake_ups > allowed)
         findings->append(warn(window, window->rect(), "idle-timer",
             QStringLiteral("woke up %1 times in %2 ms, %3 times for timers, %4 of them declared")
