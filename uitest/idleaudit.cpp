@@ -192,9 +192,11 @@ void IdleWatch::sleep()
 // One without a widget may be for each window. A window has one for its repaints.
 void IdleWatch::countTick(const QObject *receiver)
 {
+    if (receiver->isWindowType())
+        return;
     QWidget *window = m_window;
     auto *widget = const_cast<QWidget *>(widgetOf(receiver));
-    if (!window || receiver->isWindowType() || (widget && !window->isAncestorOf(widget)))
+    if (!window || (widget && !window->isAncestorOf(widget)))
         return;
     Ticks &ticks = m_ticks[receiver];
     ticks.widget = widget ? widget : window;

@@ -88,7 +88,7 @@ void TestPanelAuditText::cutTextsAreFound()
     QWidget box(&window);
     place(&box, 2, 32, 5, 6);
     const QWidget *in_box = addLabel(&box, "Night mode", 0, 0, 60, 6);
-    QLabel *lines = addLabel(&window, "Night mode of the display and the keys", 2, 42, 15, 6);
+    QLabel *lines = addLabel(&window, "Night mode of the display and the keys", 2, 42, 15, 4);
     lines->setWordWrap(true);
     lines->setAlignment(Qt::AlignTop);
     QLabel *squeezed = addLabel(&window, "Night mode", 2, 60, 60, 6);
