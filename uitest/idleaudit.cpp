@@ -18,7 +18,7 @@ namespace vexo::hox::qt::uitest {
 namespace {
 
 const double least_waste_mm2 = 100; // less costs no more than it does to find it
-const int least_ticks = 2; // once is no habit
+const int least_times = 2; // once is no habit
 
 double areaOf(const QRegion &px)
 {
@@ -285,7 +285,7 @@ void IdleWatch::tellPaints(const QWidget *window, int ms, QVector<Finding> *find
 {
     for (const Paints &paints : m_paints) {
         QWidget *widget = paints.widget;
-        if (!widget)
+        if (!widget || paints.times < least_times)
             continue;
         const QPoint corner = window->mapFrom(window->window(), QPoint(0, 0));
         const QRect px = paints.px.boundingRect().translated(corner);
@@ -307,7 +307,7 @@ void IdleWatch::tellTicks(const QWidget *window, int ms, QVector<Finding> *findi
 {
     for (const Ticks &ticks : m_ticks) {
         QWidget *widget = ticks.widget;
-        if (!widget || ticks.is_declared || ticks.times < least_ticks)
+        if (!widget || ticks.is_declared || ticks.times < least_times)
             continue;
         findings->append(warn(widget, placeIn(window, widget, widget->rect()), "idle-timer",
             QStringLiteral("%1 ticked %2 times in %3 ms")
@@ -327,7 +327,7 @@ void IdleWatch::tellWakeUps(QWidget *window, int ms, QVector<Finding> *findings)
         declared += each.is_declared ? each.times : 0;
     }
     const int wake_ups = m_sleeps - 1; // the first sleep follows our own start
-    const int allowed = ticks + m_rounds + least_ticks;
+    const int allowed = ticks + m_rounds + least_times;
     if (wake_ups > allowed)
         findings->append(warn(window, window->rect(), "idle-timer",
             QStringLiteral("woke up %1 times in %2 ms, %3 times for timers, %4 of them declared")

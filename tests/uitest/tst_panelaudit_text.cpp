@@ -96,7 +96,7 @@ void TestPanelAuditText::cutTextsAreFound()
     QLabel *hidden = addLabel(&window, "Night mode", 2, 70, 8, 6);
     hidden->hide();
     VexoPushButton push(&window);
-    push.setText(QStringLiteral("Restore all the settings of the display"));
+    push.setText(QStringLiteral("Displayeinstellungen"));
     place(&push, 100, 2, 10, 10);
     show(&window);
     const Findings findings = PanelAudit::texts(&window, 1);
