@@ -74,6 +74,7 @@ private Q_SLOTS:
     void longerTextsAreTried();
     void rightToLeftIsTried();
     void allIsRestored();
+    void scrolledPlacesAreRestored();
     void theWindowMayGo();
 };
 
@@ -277,6 +278,30 @@ void TestPanelAuditText::allIsRestored()
     QCOMPARE(window.minimumSize(), minimum);
     QTest::qWait(10);
     QCOMPARE(window.grab().toImage(), before);
+}
+
+// A content that becomes shorter takes the place along to which it was scrolled.
+void TestPanelAuditText::scrolledPlacesAreRestored()
+{
+    class Content : public QWidget
+    {
+    protected:
+        void changeEvent(QEvent *event) override
+        {
+            if (event->type() == QEvent::LayoutDirectionChange)
+                resize(100, isRightToLeft() ? 10 : 900);
+        }
+    };
+    QScrollArea area;
+    area.resize(200, 200);
+    auto *content = new Content;
+    content->resize(100, 900);
+    area.setWidget(content);
+    show(&area);
+    area.verticalScrollBar()->setValue(300);
+    PanelAudit::texts(&area, 1);
+    QCOMPARE(area.verticalScrollBar()->value(), 300);
+    QCOMPARE(content->y(), -300);
 }
 
 // An application may rebuild its screen when it is laid out.
