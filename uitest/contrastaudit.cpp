@@ -165,8 +165,7 @@ void Look::checkIcons(QVector<Finding> *findings)
     std::unique_ptr<const InkCanvas> marked; // made when it is needed
     const auto isSeen = [&](const QRect &px) {
         if (!marked)
-            marked = std::make_unique<InkCanvas>(
-                m_window, InkCanvas::MarkedIcons, m_region, icons);
+            marked = std::make_unique<InkCanvas>(m_window, InkCanvas::MarkedIcons, m_region, icons);
         return contrastBetween(*marked, without, px, 0, true).ratio > 0;
     };
     for (const int index : qAsConst(icons)) {

@@ -18,8 +18,8 @@ struct Contrast
     QRgb ground = 0;
 };
 
-/// The ratio between two pictures within \a px that a \a share of its pixels do not exceed; only of
-/// pixels that differ if \a differing is set.
+/// The ratio between two pictures of 32 bit within \a px that a \a share of its pixels do not
+/// exceed; only of pixels that differ if \a differing is set.
 Contrast contrastBetween(
     const QImage &ink, const QImage &ground, const QRect &px, double share, bool differing);
 

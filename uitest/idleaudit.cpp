@@ -18,7 +18,7 @@ namespace vexo::hox::qt::uitest {
 namespace {
 
 const double least_waste_mm2 = 100; // less costs no more than it does to find it
-const int least_ticks = 2; // once is no habit
+const int least_times = 2; // once is no habit
 
 double areaOf(const QRegion &px)
 {
@@ -140,6 +140,7 @@ private:
     QHash<const QObject *, Ticks> m_ticks;
     QImage m_before;
     int m_sleeps = 0;
+    int m_rounds = 0; // with paints
 };
 
 IdleWatch::IdleWatch(QWidget *window)
@@ -188,9 +189,11 @@ void IdleWatch::sleep()
     sumUp();
 }
 
-// One without a widget may be for each window.
+// One without a widget may be for each window. A window has one for its repaints.
 void IdleWatch::countTick(const QObject *receiver)
 {
+    if (receiver->isWindowType())
+        return;
     QWidget *window = m_window;
     auto *widget = const_cast<QWidget *>(widgetOf(receiver));
     if (!window || (widget && !window->isAncestorOf(widget)))
@@ -258,8 +261,10 @@ void IdleWatch::sumUp()
         ++paints.times;
         countWaste(&paints, it.value());
     }
-    const QImage *image = m_round.isEmpty() ? nullptr : paintedImage(m_window);
-    if (image)
+    if (m_round.isEmpty())
+        return;
+    ++m_rounds;
+    if (const QImage *image = paintedImage(m_window))
         m_before = image->copy();
     m_round.clear();
 }
@@ -280,7 +285,7 @@ void IdleWatch::tellPaints(const QWidget *window, int ms, QVector<Finding> *find
 {
     for (const Paints &paints : m_paints) {
         QWidget *widget = paints.widget;
-        if (!widget)
+        if (!widget || paints.times < least_times)
             continue;
         const QPoint corner = window->mapFrom(window->window(), QPoint(0, 0));
         const QRect px = paints.px.boundingRect().translated(corner);
@@ -302,7 +307,7 @@ void IdleWatch::tellTicks(const QWidget *window, int ms, QVector<Finding> *findi
 {
     for (const Ticks &ticks : m_ticks) {
         QWidget *widget = ticks.widget;
-        if (!widget || ticks.is_declared || ticks.times < least_ticks)
+        if (!widget || ticks.is_declared || ticks.times < least_times)
             continue;
         findings->append(warn(widget, placeIn(window, widget, widget->rect()), "idle-timer",
             QStringLiteral("%1 ticked %2 times in %3 ms")
@@ -322,7 +327,7 @@ void IdleWatch::tellWakeUps(QWidget *window, int ms, QVector<Finding> *findings)
         declared += each.is_declared ? each.times : 0;
     }
     const int wake_ups = m_sleeps - 1; // the first sleep follows our own start
-    const int allowed = ticks + int(m_paints.size()) + least_ticks;
+    const int allowed = ticks + m_rounds + least_times;
     if (wake_ups > allowed)
         findings->append(warn(window, window->rect(), "idle-timer",
             QStringLiteral("woke up %1 times in %2 ms, %3 times for timers, %4 of them declared")

@@ -275,7 +275,8 @@ const Known *known(const QWidget *widget)
         { &QAbstractItemView::staticMetaObject, items }, { &QTabBar::staticMetaObject, tabs },
         { &QMenuBar::staticMetaObject, entries<QMenuBar> },
         { &QMenu::staticMetaObject, entries<QMenu> }, { &QSplitterHandle::staticMetaObject, whole },
-        { &QSizeGrip::staticMetaObject, whole }, { &QTextEdit::staticMetaObject, editor<QTextEdit> },
+        { &QSizeGrip::staticMetaObject, whole },
+        { &QTextEdit::staticMetaObject, editor<QTextEdit> },
         { &QPlainTextEdit::staticMetaObject, editor<QPlainTextEdit> } };
     for (const Known &line : table) {
         if (line.base->cast(widget))

@@ -129,8 +129,7 @@ void FormPage::addSliders()
         ":/widgetimages/Icons_Round_Small/RoundButton_S_Minus_Active.svg", 0, 4);
     brightness->setMaxImage(":/widgetimages/Icons_Round_Small/RoundButton_S_Plus_Active.svg", 0, 4);
     addContainer(tiles, "Brightness", brightness)->setMmHeight(25); // as the one with a scale
-    addContainer(
-        tiles, "Volume, %", createSlider("Volume, %", Style::HorizontalWithScale, 40));
+    addContainer(tiles, "Volume, %", createSlider("Volume, %", Style::HorizontalWithScale, 40));
 }
 
 void FormPage::addControls()

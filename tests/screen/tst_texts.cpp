@@ -8,8 +8,11 @@
 #include "ui/text/vexolabel.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QImage>
 #include <QLabel>
+#include <QPainter>
+#include <QPdfWriter>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -66,6 +69,7 @@ private Q_SLOTS:
     void tooLongTextKeepsItsBeginning();
     void directionIsThatOfTheText_data();
     void directionIsThatOfTheText();
+    void textsStayTextsInAPdf();
 
 private:
     QTemporaryDir m_folder;
@@ -161,6 +165,27 @@ void TestTexts::directionIsThatOfTheText()
     QApplication::setLayoutDirection(Qt::LeftToRight);
     QVERIFY(later == expected);
     QVERIFY(picture(QChar(0x200f) + text) != expected);
+}
+
+// On a screen they are copied from pictures of them.
+void TestTexts::textsStayTextsInAPdf()
+{
+    VexoFunctionButton row;
+    row.setText(QStringLiteral("Night mode"));
+    VexoLabel label;
+    label.setText(QStringLiteral("Brightness"));
+    for (QWidget *widget : QWidgetList{ &row, &label }) {
+        widget->resize(400, 80);
+        widget->grab();
+        QBuffer pdf;
+        QVERIFY(pdf.open(QIODevice::WriteOnly));
+        {
+            QPdfWriter writer(&pdf);
+            QPainter painter(&writer);
+            widget->render(&painter);
+        }
+        QVERIFY2(pdf.data().contains("/BaseFont"), widget->metaObject()->className());
+    }
 }
 
 QTEST_MAIN(TestTexts)
