@@ -23,6 +23,9 @@ install(FILES ${forwards} ${kit_forwards} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/HoxqUi)
 install(FILES LICENSE NOTICES.md DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/hoxqui COMPONENT Runtime)
+# A root for fontconfig, whose configuration lies in it as in that of a system.
+install(FILES ui/resources/fontconfig/fonts.conf
+  DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/hoxqui/fontconfig/etc/fonts COMPONENT Runtime)
 install(EXPORT HoxqUi NAMESPACE Hoxq:: FILE HoxqUiTargets.cmake
   DESTINATION ${package_dir} COMPONENT Devel)
 configure_package_config_file(cmake/HoxqUiConfig.cmake.in HoxqUiConfig.cmake

@@ -23,6 +23,11 @@ foreach(name IN ITEMS tst_bundles tst_fontlifetime)
 endforeach()
 target_link_libraries(tst_bundles PRIVATE Qt5::Svg)
 target_link_libraries(tst_fontlifetime PRIVATE Qt5::Widgets)
+# The same where no font but the library's is to be found.
+add_test(NAME tst_panelfonts COMMAND tst_fontlifetime)
+set_tests_properties(tst_panelfonts PROPERTIES FIXTURES_REQUIRED installed
+  ENVIRONMENT "${HOXQ_TEST_ENVIRONMENT};FONTCONFIG_FILE=/etc/fonts/fonts.conf;FONTCONFIG_SYSROOT=${stage}/${CMAKE_INSTALL_DATAROOTDIR}/hoxqui/fontconfig"
+  FAIL_REGULAR_EXPRESSION "Fontconfig (warning|error)")
 # The library finds this program's qRegisterResourceData before the toolkit's.
 set_target_properties(tst_bundles PROPERTIES ENABLE_EXPORTS ON)
 
