@@ -39,6 +39,11 @@ QString stockStyleSheet();
 /// Bring fonts and stylesheet into the application; one definition of each per variant.
 void setUpFonts();
 void setUpSheets();
+inline void setUpPanel()
+{
+    setUpFonts();
+    setUpSheets();
+}
 
 /// Paints the whole window.
 Action fullRepaint(QWidget *window);
