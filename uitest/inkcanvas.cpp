@@ -10,6 +10,8 @@
 #include <private/qstatictext_p.h>
 #include <private/qtextengine_p.h>
 
+#include <algorithm>
+
 namespace vexo::hox::qt::uitest {
 
 namespace {
