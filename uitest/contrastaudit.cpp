@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QTabBar>
 
+#include <algorithm>
 #include <memory>
 
 namespace vexo::hox::qt::uitest {
@@ -69,7 +70,6 @@ private:
     bool isIcon(int index) const;
     bool isShown(const Ink &ink);
     bool isLarge(const Ink &ink) const;
-    double leastFor(const Ink &ink, bool is_large) const;
     void checkText(const Ink &ink, QVector<Finding> *findings);
     void checkIcons(QVector<Finding> *findings);
     void complain(const Ink &ink, const Contrast &contrast, double limit, const char *what,
@@ -130,11 +130,6 @@ bool Look::isShown(const Ink &ink)
     return contrastBetween(*m_marked, m_bare, ink.px & ink.clip, 0, true).ratio > 0;
 }
 
-double Look::leastFor(const Ink &ink, bool is_large) const
-{
-    return ink.kind == Ink::Icon ? icon_limit : is_large ? m_limits.error : m_limits.warning;
-}
-
 // A height in pt was cut to whole px.
 bool Look::isLarge(const Ink &ink) const
 {
@@ -145,7 +140,7 @@ bool Look::isLarge(const Ink &ink) const
 void Look::checkText(const Ink &ink, QVector<Finding> *findings)
 {
     const bool is_large = isLarge(ink);
-    const double limit = leastFor(ink, is_large);
+    const double limit = is_large ? m_limits.error : m_limits.warning;
     const Contrast contrast
         = contrastBetween(m_solid, m_bare, ink.px & ink.clip, worst_tenth, false);
     if (contrast.ratio < limit && isShown(ink))

@@ -10,6 +10,8 @@
 #include <private/qstatictext_p.h>
 #include <private/qtextengine_p.h>
 
+#include <algorithm>
+
 namespace vexo::hox::qt::uitest {
 
 namespace {
@@ -76,7 +78,7 @@ Ink InkEngine::inkAt(const QRectF &place) const
     QPaintDevice *device = painter()->device();
     if (device && device->devType() == QInternal::Widget)
         ink.widget = static_cast<QWidget *>(device);
-    ink.px = state()->matrix.mapRect(place).toAlignedRect();
+    ink.px = painter()->deviceTransform().mapRect(place).toAlignedRect();
     ink.clip = clipBoundingRect();
     return ink;
 }
@@ -93,7 +95,7 @@ bool InkEngine::drawsItself(const Ink &ink, int index)
     if (ink.kind == Ink::Icon && (is_about_texts || !m_canvas->m_those.contains(index)))
         return true;
     if (look == InkCanvas::SolidTexts)
-        fillPlace(ink, state()->pen.brush());
+        fillPlace(ink, painter()->pen().brush());
     else if (look == (ink.kind == Ink::Text ? InkCanvas::MarkedTexts : InkCanvas::MarkedIcons))
         fillPlace(ink, mark);
     return false;
@@ -102,7 +104,7 @@ bool InkEngine::drawsItself(const Ink &ink, int index)
 // All of its pixels, none by half.
 void InkEngine::fillPlace(const Ink &ink, const QBrush &brush)
 {
-    fillRect(state()->matrix.inverted().mapRect(QRectF(ink.px)), brush);
+    fillRect(painter()->deviceTransform().inverted().mapRect(QRectF(ink.px)), brush);
 }
 
 bool InkEngine::appendText(Ink ink, const QFont &font)
@@ -121,7 +123,8 @@ QRect InkEngine::drawnExtent(const QRect &px, const QPointF &at, const QTextItem
     QImage letters(area.size(), QImage::Format_ARGB32_Premultiplied);
     letters.fill(Qt::transparent);
     QPainter pen(&letters);
-    pen.setTransform(state()->matrix * QTransform::fromTranslate(-area.x(), -area.y()));
+    pen.setTransform(
+        painter()->deviceTransform() * QTransform::fromTranslate(-area.x(), -area.y()));
     pen.setFont(text.font());
     pen.drawTextItem(at, text);
     pen.end();

@@ -67,7 +67,9 @@ public:
     /// finger reaches, mm. That is where a press gets to it: what lies above it and what its
     /// parents cut off is taken away, but not what can be scrolled into sight. Of sliders, spin
     /// boxes, tabs and lists each part counts that reacts by itself, of a row with a check box that
-    /// toggles with it only the row. A size that was cut to whole px counts as meant.
+    /// toggles with it only the row. Of classes that the audit does not know those count that take
+    /// the focus at a click or have a signal clicked(), pressed() or tapped(), unless they hold
+    /// others that do. A size that was cut to whole px counts as meant.
     ///
     /// The margin in which an EasyAccessButton takes the lift of a finger does not make it larger,
     /// since a press must begin on it: it makes a warning of an error where size and margin

@@ -15,6 +15,8 @@
 #include <QTabBar>
 #include <QTextEdit>
 
+#include <algorithm>
+
 namespace vexo::hox::qt::uitest {
 
 namespace {
