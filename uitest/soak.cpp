@@ -16,6 +16,7 @@ namespace {
 
 const int looks = 10;
 const int steps = looks / 2 * 3; // one long, of two, and one short in turn
+const int least_warmup = 50;
 const double byte_error = 16;
 const double count_error = 0.05;
 
@@ -32,7 +33,7 @@ void run(const std::function<void()> &round, int rounds)
 SoakGrowth measure(const std::function<void()> &round, int rounds)
 {
     const ObjectCounter counter;
-    run(round, qMax(10, rounds / 10));
+    run(round, qMax(least_warmup, rounds / 10));
     QPixmapCache::clear();
     QVector<QPointF> heap, objects, cache, handles;
     int passed = 0;
@@ -102,7 +103,7 @@ SoakResult soak(const std::function<void()> &round, int rounds)
         return SoakResult();
     const int measured = qMax(2, (rounds + steps - 1) / steps) * steps;
     SoakResult result;
-    result.floor = measure(openToolkitsOwn, qMax(2, measured / 4 / steps) * steps);
+    result.floor = measure(openToolkitsOwn, measured);
     result.growth = measure(round, measured);
     result.rounds = measured;
     return result;
