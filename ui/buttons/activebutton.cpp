@@ -251,7 +251,10 @@ void ActiveButton::showSteadily(const QString &state, const QIcon &icon)
     m_mode = Mode::Steady;
     m_one_shot_timer.stop();
     m_inverse_icon_state = state;
-    setIcon(icon);
+    if (icon.cacheKey() != this->icon().cacheKey())
+        setIcon(icon); // the toolkit lays out all that lies in the same layout anew
+    else
+        update();
     m_state = state;
 }
 
