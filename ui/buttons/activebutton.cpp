@@ -258,7 +258,10 @@ void ActiveButton::showSteadily(const QString &state, const QIcon &icon)
 {
     endOneShot();
     m_inverse_icon_state = state;
-    setIcon(icon);
+    if (icon.cacheKey() != this->icon().cacheKey())
+        setIcon(icon); // the toolkit lays out all that lies in the same layout anew
+    else
+        update();
     m_state = state;
 }
 

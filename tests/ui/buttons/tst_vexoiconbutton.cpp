@@ -9,8 +9,11 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QVBoxLayout>
 
 #include <array>
 
@@ -59,6 +62,7 @@ private Q_SLOTS:
     void showsTheIconOfItsLook();
     void paintSetsTheStateThatDiffers();
     void paintsSettle();
+    void firstPaintLaysNothingOut();
     void tickRepaintsOnlyWhatBlinks();
     void easyAccessClicksBesideTheButton_data();
     void easyAccessClicksBesideTheButton();
@@ -155,6 +159,44 @@ void TestVexoIconButton::paintsSettle()
         button.setEnabled(false);
         QVERIFY(settles());
     }
+}
+
+/// In a long list each button that came into sight would have the whole list laid out anew.
+void TestVexoIconButton::firstPaintLaysNothingOut()
+{
+    class Requests : public QObject
+    {
+    public:
+        int count = 0;
+
+    protected:
+        bool eventFilter(QObject * /*watched*/, QEvent *event) override
+        {
+            count += event->type() == QEvent::LayoutRequest;
+            return false;
+        }
+    };
+    QScrollArea list;
+    auto *content = new QWidget;
+    auto *column = new QVBoxLayout(content);
+    VexoIconButton *button = nullptr;
+    for (int i = 0; i < 20; ++i) {
+        button = new VexoIconButton;
+        button->addIcon(DEFAULT, m_files.svg(Qt::red));
+        column->addWidget(button);
+    }
+    list.setWidget(content);
+    list.resize(100, 200);
+    list.show();
+    PaintCounter paints;
+    paints.watch(button);
+    QVERIFY(QTest::qWaitForWindowExposed(&list));
+    QCOMPARE(paints.take(button), 0); // it lies below what is seen
+    Requests requests;
+    content->installEventFilter(&requests);
+    list.verticalScrollBar()->setValue(list.verticalScrollBar()->maximum());
+    QVERIFY(paints.take(button) > 0);
+    QCOMPARE(requests.count, 0);
 }
 
 void TestVexoIconButton::tickRepaintsOnlyWhatBlinks()
