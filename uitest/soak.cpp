@@ -5,7 +5,6 @@
 
 #include <QCoreApplication>
 #include <QLineEdit>
-#include <QPixmapCache>
 #include <QPushButton>
 #include <QStringList>
 #include <QVBoxLayout>
@@ -16,7 +15,7 @@ namespace {
 
 const int looks = 10;
 const int steps = looks / 2 * 3; // one long, of two, and one short in turn
-const int least_warmup = 50;
+const int least_warmup = 20;
 const double byte_error = 16;
 const double count_error = 0.05;
 
@@ -34,7 +33,7 @@ SoakGrowth measure(const std::function<void()> &round, int rounds)
 {
     const ObjectCounter counter;
     run(round, qMax(least_warmup, rounds / 10));
-    QPixmapCache::clear();
+    emptyPixmapCache();
     QVector<QPointF> heap, objects, cache, handles;
     int passed = 0;
     for (int i = 0; i < looks; ++i) {
@@ -43,7 +42,7 @@ SoakGrowth measure(const std::function<void()> &round, int rounds)
         run(round, step);
         passed += step;
         const double with_cache = Holdings::now().heap_bytes;
-        QPixmapCache::clear();
+        emptyPixmapCache();
         const Holdings holdings = Holdings::now();
         heap.append({ double(passed), holdings.heap_bytes });
         objects.append({ double(passed), holdings.objects });

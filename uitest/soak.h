@@ -32,7 +32,7 @@ struct HOXQUITEST_EXPORT SoakResult
     QString text() const;
 };
 
-/// Runs \a round for \a rounds times, after a tenth as many to warm up, at least 50, and says what
+/// Runs \a round for \a rounds times, after a tenth as many to warm up, at least 20, and says what
 /// each leaves behind: the median slope between ten looks, so that a hash that grows once is no
 /// leak. After each round what is posted is handled and what was deleted later is deleted. At each
 /// look the pixmap cache is emptied. The rounds are rounded up to a multiple of 15, from 30 on. GUI

