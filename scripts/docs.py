@@ -183,7 +183,8 @@ def read_header(path):
 def headers():
     paths = [path for folder in ("ui", "util", "uitest") for path in Path(folder).glob("**/*.h")]
     paths += Path("system").glob("*.h")
-    return sorted(path for path in paths if not re.search("_(p|export)\\.h$", path.name))
+    return sorted(path for path in paths
+                  if not re.search("_(p|export)\\.h$", path.name) and "plugin" not in path.parts)
 
 
 def read_table():
@@ -264,7 +265,19 @@ def origin(entry, classes):
     return f"Inherits {' and '.join(bases)}. {header}"
 
 
-def page_of(entry, classes, shown_on):
+def companions(entry, classes, rows):
+    """What stands in the same header and has no page of its own."""
+    return [other for other in classes.values()
+            if other.header == entry.header and other.name not in rows]
+
+
+def companion_text(entry, classes):
+    blocks = [f"## {entry.name}", markdown(entry.comment, classes, entry.name)]
+    blocks += [text for text in parts(entry, classes).values() if text]
+    return "\n\n".join(blocks)
+
+
+def page_of(entry, classes, shown_on, rows):
     blocks = [NOTICE.format("the header and the snippet") + f"# {entry.name}",
               markdown(entry.comment, classes, entry.name), origin(entry, classes)]
     if shown_on != "-":
@@ -272,6 +285,7 @@ def page_of(entry, classes, shown_on):
                       f"In the gallery: `scripts/gallery --page {shown_on}`.")
     blocks.append(f"## Example\n\n```cpp\n{snippet(entry)}```")
     blocks += [f"## {title}\n\n{text}" for title, text in parts(entry, classes).items() if text]
+    blocks += [companion_text(other, classes) for other in companions(entry, classes, rows)]
     return "\n\n".join(blocks) + "\n"
 
 
@@ -340,7 +354,10 @@ def image_list():
 
 def faults(classes, rows):
     """What is missing for the pages to be written."""
+    described = {classes[name].header for name in rows if name in classes}
     for name in sorted(classes.keys() | rows.keys()):
+        if name not in rows and classes[name].header in described:
+            continue
         if name not in rows:
             yield f"{TABLE}: no line for {name}"
         elif name not in classes:
@@ -393,7 +410,7 @@ def main(mode):
     rows = read_table()
     findings = list(faults(classes, rows))
     if not findings:
-        pages = {PAGES / f"{name}.md": page_of(classes[name], classes, page)
+        pages = {PAGES / f"{name}.md": page_of(classes[name], classes, page, rows)
                  for name, (need, page) in rows.items()}
         pages[PAGES / "README.md"] = index(rows)
         pages |= {path: with_code(path) for path in BY_HAND if path != IMAGE_LIST}

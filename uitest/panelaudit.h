@@ -19,7 +19,7 @@ struct HOXQUITEST_EXPORT Finding
         Error ///< some users cannot use it
     };
 
-    Severity severity = Warning;
+    Severity severity = Warning; ///< how bad it is
     QString rule; ///< such as "touch-size"
     QPointer<QWidget> widget; ///< null once it was deleted
     QString where; ///< its path from the window, in words

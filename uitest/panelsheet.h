@@ -53,6 +53,7 @@ public:
     /// Panels without a size are left out.
     explicit PanelSheet(const QVector<PanelKind> &panels);
 
+    /// In the order of the sheet.
     QVector<PanelKind> panels() const { return m_panels; }
 
     /// The screen on one panel, in its own pixels. ScalingInfo has the scale of that panel

@@ -18,14 +18,15 @@ struct HOXQUITEST_EXPORT SoakGrowth
     double handles = 0; ///< open files, sockets and pipes
 };
 
-/// What soak() measured.
+/// What soak() measured: a function that runs a round of using a screen over and over, and looks at
+/// what the process holds.
 struct HOXQUITEST_EXPORT SoakResult
 {
     SoakGrowth growth; ///< of the round that was asked for
     SoakGrowth floor; ///< of a window of the toolkit's own widgets, opened and closed
     int rounds = 0; ///< that were measured; 0 if there was no round to run
 
-    /// Whether anything grows by more than the toolkit's own share and the error of measuring: 16
+    /// Whether anything grows by more than the toolkit's own share and the error of measuring: 40
     /// bytes of heap or cache, a twentieth of an object or handle.
     bool isLeaking() const;
     /// One sentence that says what grew, with figures per round.

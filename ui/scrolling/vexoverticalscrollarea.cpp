@@ -32,7 +32,8 @@ void repaintAbove(const QWidget *widget, QRect area)
     for (; !widget->isWindow(); widget = widget->parentWidget()) {
         area.translate(widget->pos());
         const QObjectList &siblings = widget->parentWidget()->children();
-        for (int i = siblings.size() - 1; siblings.at(i) != widget; --i) {
+        // A parent that is being deleted does not list all of them any more.
+        for (int i = siblings.size() - 1; i >= 0 && siblings.at(i) != widget; --i) {
             auto *above = qobject_cast<QWidget *>(siblings.at(i));
             const bool is_there = above && !above->isWindow() && above->isVisible();
             if (is_there && above->geometry().intersects(area))
