@@ -49,6 +49,7 @@ private Q_SLOTS:
     void fetchesMoreAtTheEnd();
     void factoryMakesRowsOfItsOwn();
     void survivesWhatIsTakenAway();
+    void goesWithAPageAndItsModel();
 };
 
 void TestRowList::makesFewWidgets_data()
@@ -308,6 +309,30 @@ void TestRowList::survivesWhatIsTakenAway()
     const std::unique_ptr<RowList> hidden = std::make_unique<RowList>();
     hidden->setModel(&model);
     model.remove(0, 90);
+}
+
+// The model goes while the page still has its children, which it does not list any more.
+void TestRowList::goesWithAPageAndItsModel()
+{
+    struct Page : QWidget
+    {
+        RowModel model{ 100 };
+    };
+    QWidget window;
+    window.resize(300, 300);
+    auto *ground = new QWidget(&window);
+    auto *page = new Page;
+    page->setParent(ground);
+    auto *list = new RowList(page);
+    list->setModel(&page->model);
+    for (QWidget *widget : QVector<QWidget *>{ ground, page, list })
+        widget->resize(300, 300);
+    window.show();
+    settle();
+    list->scrollTo(page->model.index(50, 0));
+    settle();
+    delete ground;
+    settle();
 }
 
 QTEST_MAIN(TestRowList)
