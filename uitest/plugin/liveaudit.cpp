@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QWidget>
 
+#include <cmath>
 #include <stdexcept>
 
 using vexo::hox::qt::uitest::PanelAudit;
@@ -23,13 +24,15 @@ const int rest_ms = 500; // without anything new on the screen
 /// A red line around a widget, which touches go through.
 class Frame : public QWidget
 {
+    Q_OBJECT
+
 public:
     Frame(QWidget *window, const QRect &px)
         : QWidget(window)
     {
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setAttribute(Qt::WA_NoSystemBackground);
-        setGeometry(px.adjusted(-2, -2, 2, 2));
+        setGeometry(px.adjusted(-2, -2, 2, 2) & window->rect());
         show();
         raise();
     }
@@ -57,10 +60,13 @@ QString severityOf(const vexo::hox::qt::uitest::Finding &finding)
 
 QByteArray jsonOf(const vexo::hox::qt::uitest::Finding &finding)
 {
+    const auto rounded = [](double mm) { return std::round(mm * 10) / 10; };
     const QRectF &mm = finding.mm;
     const QJsonObject object{ { QStringLiteral("severity"), severityOf(finding) },
         { QStringLiteral("rule"), finding.rule }, { QStringLiteral("where"), finding.where },
-        { QStringLiteral("mm"), QJsonArray{ mm.x(), mm.y(), mm.width(), mm.height() } },
+        { QStringLiteral("mm"),
+            QJsonArray{
+                rounded(mm.x()), rounded(mm.y()), rounded(mm.width()), rounded(mm.height()) } },
         { QStringLiteral("text"), finding.text } };
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
@@ -116,9 +122,8 @@ void LiveAudit::timerEvent(QTimerEvent *)
 void LiveAudit::audit(QWidget *window)
 {
     m_is_auditing = true;
-    for (const QPointer<QWidget> &frame : qAsConst(m_frames))
-        delete frame;
-    m_frames.clear();
+    const auto frames = window->findChildren<Frame *>();
+    qDeleteAll(frames);
     try {
         const QVector<Finding> findings = PanelAudit::all(window, 0);
         for (const Finding &finding : findings)
@@ -154,6 +159,8 @@ void LiveAudit::frame(const QVector<Finding> &findings)
             continue;
         framed.insert(widget);
         QWidget *window = widget->window();
-        m_frames.append(new Frame(window, QRect(widget->mapTo(window, QPoint()), widget->size())));
+        new Frame(window, QRect(widget->mapTo(window, QPoint()), widget->size())); // owned by it
     }
 }
+
+#include "liveaudit.moc"

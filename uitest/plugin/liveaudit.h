@@ -37,7 +37,6 @@ private:
     QBasicTimer m_timer;
     QSet<QWidget *> m_due; // windows; compared only
     QSet<QString> m_told;
-    QVector<QPointer<QWidget>> m_frames;
     QFile m_file;
     bool m_has_frames = false;
     bool m_is_auditing = false;
