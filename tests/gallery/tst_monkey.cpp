@@ -100,7 +100,7 @@ QRect wrongPixelsAtRest(QWidget &window)
     QRect wrong;
     for (int i = 0; i < 10; ++i) {
         virtualclock::pass(3000);
-        wrong = wrongPixels(window);
+        wrong = wrongPixels(window, 2);
         if (wrong.isEmpty())
             break;
         usleep(20000);
