@@ -66,7 +66,7 @@ protected:
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
-        painter.setPen(QPen(VexoColors::C5, mmX(0.2), Qt::DashLine));
+        painter.setPen(QPen(VexoColors::C5, mmX(0.2)));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
 };
@@ -218,7 +218,7 @@ void MeasuredButtonPage::addEasyAccess()
     TileLayout *tiles = createTiles();
     tiles->addLayout(createRow(new MarginOutline(button, margin_px)));
     tiles->addWidget(createText("A finger that slips off the button still clicks when it is lifted "
-                                "inside the dashed outline."));
+                                "inside the outline."));
     addBlock(tiles);
 }
 
