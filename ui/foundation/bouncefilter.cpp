@@ -20,11 +20,12 @@ const ulong shortest_ms = 4; // no panel reports as often; a double click of a t
 
 void BounceFilter::watch()
 {
-    static QPointer<BounceFilter> only_one;
+    static QPointer<BounceFilter> only_one; // goes with the application
+    if (only_one)
+        return;
     QCoreApplication *application = QCoreApplication::instance();
-    if (!only_one)
-        only_one = new BounceFilter(application);
-    application->installEventFilter(only_one); // once; again puts it first
+    only_one = new BounceFilter(application);
+    application->installEventFilter(only_one);
 }
 
 bool BounceFilter::eventFilter(QObject *watched, QEvent *event)
@@ -48,26 +49,19 @@ bool BounceFilter::eventFilter(QObject *watched, QEvent *event)
     }
 }
 
-void BounceFilter::timerEvent(QTimerEvent *)
-{
-    m_wait.stop();
-    QCoreApplication::instance()->removeEventFilter(this);
-}
-
 bool BounceFilter::isBounce(const QMouseEvent &press) const
 {
     const ulong pause_ms = press.timestamp() - m_lift_ms;
     const QPoint way = press.globalPos() - m_place;
     const QSize reach = pxSize(*ScalingInfo::inst(), QSizeF(DRAG_START_MM, DRAG_START_MM));
-    return m_wait.isActive() && pause_ms >= shortest_ms && pause_ms <= longest_ms
-        && std::abs(way.x()) <= reach.width() && std::abs(way.y()) <= reach.height();
+    return pause_ms >= shortest_ms && pause_ms <= longest_ms && std::abs(way.x()) <= reach.width()
+        && std::abs(way.y()) <= reach.height();
 }
 
 void BounceFilter::noteLift(const QMouseEvent &release)
 {
     m_lift_ms = release.timestamp();
     m_place = release.globalPos();
-    m_wait.start(int(longest_ms), this);
 }
 
 } // namespace vexo::hox::qt::ui
