@@ -179,6 +179,13 @@ void VexoHorizontalTextIconButton::change(QColor *color, const QColor &to)
     update();
 }
 
+// Whatever its state is, nothing of what lies below the row is seen.
+bool VexoHorizontalTextIconButton::coversAll() const
+{
+    return m_default_background_color.alpha() == 255 && m_clicked_background_color.alpha() == 255
+        && m_inactive_background_color.alpha() == 255;
+}
+
 VexoHorizontalTextIconButton::Look VexoHorizontalTextIconButton::lookOfNow() const
 {
     if (!isEnabled())

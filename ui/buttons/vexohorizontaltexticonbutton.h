@@ -12,6 +12,7 @@
 
 namespace vexo::hox::qt::ui {
 
+class OpaqueRows;
 class ScalingInfo;
 class TextBlock;
 
@@ -97,6 +98,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    friend class OpaqueRows; // asks coversAll()
+
     struct Look
     {
         QColor ink;
@@ -107,6 +110,7 @@ private:
     void setImage(QPixmap *image, const QPixmap &to);
     void change(QColor *color, const QColor &to);
     Look lookOfNow() const;
+    bool coversAll() const;
 
     const ScalingInfo *const m_scaling;
     QFont m_font;

@@ -2,6 +2,7 @@
 #include "ui/scrolling/opaquerows_p.h"
 
 #include "ui/buttons/vexofunctionbutton.h"
+#include "ui/buttons/vexohorizontaltexticonbutton.h"
 #include "ui/text/vexolabel.h"
 #include "ui/text/vexoruler.h"
 
@@ -67,6 +68,8 @@ bool OpaqueRows::isOpaque(const QWidget &widget)
     if (!widget.isVisible() || !widget.mask().isEmpty() || widget.graphicsEffect())
         return false;
     if (const auto *row = qobject_cast<const VexoFunctionButton *>(&widget))
+        return row->coversAll();
+    if (const auto *row = qobject_cast<const VexoHorizontalTextIconButton *>(&widget))
         return row->coversAll();
     if (const auto *ruler = qobject_cast<const VexoRuler *>(&widget))
         return ruler->coversAll();
