@@ -98,6 +98,8 @@ void TestRowList::scrollStepPaintsOnlyWhatComes()
     RowModel model;
     model.insert(0, RowModel::entries(1000, type));
     ListScreen screen(&model);
+    screen.setStyleSheet(QStringLiteral("QWidget { background: #f0f0f0; }")); // lets the list shine
+    settle();
     PaintCounter paints;
     QWidget *const row = screen.list->rowAt(model.index(4));
     paints.watch(row);
