@@ -4,6 +4,7 @@
 #include "ui/foundation/scalinginfo.h"
 #include "uitest/reach_p.h"
 #include "uitest/touchinput_p.h"
+#include "uitest/widgetwalk_p.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -30,10 +31,8 @@ QPointF pxOf(const QPointF &mm)
 
 QPointF centreOf(const QWidget *widget)
 {
-    const auto *scaling = ui::ScalingInfo::inst();
-    return QPointF(double(scaling->px2mm_X(float(widget->width()))),
-               double(scaling->px2mm_Y(float(widget->height()))))
-        / 2;
+    const QSizeF mm = widget ? mmOf(widget->size()) : QSizeF();
+    return QPointF(mm.width(), mm.height()) / 2;
 }
 
 double measure(double mm)
@@ -87,7 +86,7 @@ Finger &Finger::setWiggle(double mm)
 
 void Finger::tap(QWidget *target)
 {
-    touch(target, target ? centreOf(target) : QPointF(), Way());
+    touch(target, centreOf(target), Way());
 }
 
 void Finger::tap(QWidget *target, const QPointF &mm)
@@ -97,7 +96,7 @@ void Finger::tap(QWidget *target, const QPointF &mm)
 
 void Finger::hold(QWidget *target, int ms)
 {
-    touch(target, target ? centreOf(target) : QPointF(), { QPointF(), ms, 0, true });
+    touch(target, centreOf(target), { QPointF(), ms, 0, true });
 }
 
 void Finger::slide(QWidget *target, const QPointF &from_mm, const QPointF &by_mm, int ms)
@@ -107,12 +106,12 @@ void Finger::slide(QWidget *target, const QPointF &from_mm, const QPointF &by_mm
 
 void Finger::flick(QWidget *target, const QPointF &by_mm, int ms)
 {
-    touch(target, target ? centreOf(target) : QPointF(), { by_mm, ms, 0, true });
+    touch(target, centreOf(target), { by_mm, ms, 0, true });
 }
 
 void Finger::slideOff(QWidget *target, Qt::Edge edge, double mm)
 {
-    const QPointF centre = target ? centreOf(target) : QPointF();
+    const QPointF centre = centreOf(target);
     const bool is_level = edge == Qt::LeftEdge || edge == Qt::RightEdge;
     const double way = (is_level ? centre.x() : centre.y()) + mm;
     const double signed_way = edge == Qt::LeftEdge || edge == Qt::TopEdge ? -way : way;
@@ -127,9 +126,7 @@ void Finger::touch(QWidget *target, const QPointF &from_mm, const Way &way)
                         .arg(QLatin1String(target ? "window on the screen" : "target"));
         return;
     }
-    const QPointF in_target = pxOf(from_mm);
-    const QPoint corner = m_window->mapFromGlobal(target->mapToGlobal(QPoint(0, 0)));
-    const QPointF from = corner + in_target;
+    const QPointF from = placeIn(m_window, target, target->rect()).topLeft() + pxOf(from_mm);
     m_problem = hindrance(m_window, target, QPoint(int(from.x()), int(from.y())));
     TouchInput input(m_window->windowHandle());
     TouchInput::pause(pause_ms);

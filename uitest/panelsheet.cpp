@@ -118,10 +118,11 @@ QImage PanelSheet::pictureOn(const PanelKind &panel, const Create &create)
     return picture;
 }
 
-QImage PanelSheet::sheet(const Create &create, double px_per_mm) const
+QImage PanelSheet::sheet(const Create &create, double wanted_px_per_mm) const
 {
+    const double px_per_mm = qBound(0.1, wanted_px_per_mm, 40.0); // NaN as well
     const QVector<QRectF> places = uitest::places(m_panels);
-    const QSizeF size = places.last().size() * qBound(0.1, px_per_mm, 40.0);
+    const QSizeF size = places.last().size() * px_per_mm;
     QImage sheet(size.toSize(), QImage::Format_RGB32);
     sheet.fill(QColor(0xdd, 0xdd, 0xdd));
     QPainter painter(&sheet);

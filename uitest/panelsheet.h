@@ -59,7 +59,8 @@ public:
     /// The screen on one panel, in its own pixels. ScalingInfo has the scale of that panel
     /// meanwhile, and afterwards what it had before.
     static QImage pictureOn(const PanelKind &panel, const Create &create);
-    /// The screen on all panels, \a px_per_mm px to a mm of each, with name and size below.
+    /// The screen on all panels, \a px_per_mm px to a mm of each (0.1 to 40), with name and size
+    /// below.
     QImage sheet(const Create &create, double px_per_mm = 4) const;
 
     /// \a is beside the picture in the file \a reference. Without that file, or when the sizes

@@ -20,6 +20,7 @@ namespace vexo::hox::qt::uitest {
 namespace {
 
 std::atomic<int> objects{ 0 };
+int counters = 0;
 quintptr former_add = 0; // of a debugger, which goes on
 quintptr former_remove = 0;
 
@@ -62,6 +63,8 @@ void emptyPixmapCache()
 
 ObjectCounter::ObjectCounter()
 {
+    if (counters++ > 0)
+        return; // in a round of another soak, which goes on counting
     objects = 0;
     former_add = qtHookData[QHooks::AddQObject];
     former_remove = qtHookData[QHooks::RemoveQObject];
@@ -71,6 +74,8 @@ ObjectCounter::ObjectCounter()
 
 ObjectCounter::~ObjectCounter()
 {
+    if (--counters > 0)
+        return;
     qtHookData[QHooks::AddQObject] = former_add;
     qtHookData[QHooks::RemoveQObject] = former_remove;
 }

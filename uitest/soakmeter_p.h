@@ -10,7 +10,7 @@ namespace vexo::hox::qt::uitest {
 struct Holdings
 {
     double heap_bytes;
-    double objects; // since there is an ObjectCounter
+    double objects; // since the first ObjectCounter that lives
     double handles;
 
     static Holdings now();

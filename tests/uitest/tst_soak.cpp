@@ -111,6 +111,10 @@ void TestSoak::countsTheRounds()
     QCOMPARE(soak([&] { ++rounds; }, 3).rounds, 30);
     QCOMPARE(rounds, 50); // 20 to warm up
     QVERIFY(!soak(nullptr).isLeaking());
+    const SoakResult nested = soak([] { soak([] { kept_objects.append(new QObject); }, 30); }, 30);
+    QVERIFY2(nested.growth.objects >= 50, qPrintable(nested.text())); // of each inner one
+    qDeleteAll(kept_objects);
+    kept_objects.clear();
 }
 
 QTEST_MAIN(TestSoak)

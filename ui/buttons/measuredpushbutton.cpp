@@ -82,7 +82,10 @@ void MeasuredPushButton::mouseReleaseEvent(QMouseEvent *event)
         stopMeasuring();
     const QPointer<MeasuredPushButton> self(this);
     // A tool button notes afterwards that its menu part is not pressed, also if a slot deleted it.
-    isDown() ? QAbstractButton::mouseReleaseEvent(event) : QToolButton::mouseReleaseEvent(event);
+    if (isDown())
+        QAbstractButton::mouseReleaseEvent(event);
+    else
+        QToolButton::mouseReleaseEvent(event);
     if (self && is_released)
         mouseReleaseEvent(elapsed);
     if (self && is_released)

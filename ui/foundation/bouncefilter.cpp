@@ -7,8 +7,6 @@
 #include <QMouseEvent>
 #include <QPointer>
 
-#include <cstdlib>
-
 namespace vexo::hox::qt::ui {
 
 namespace {
@@ -52,10 +50,8 @@ bool BounceFilter::eventFilter(QObject *watched, QEvent *event)
 bool BounceFilter::isBounce(const QMouseEvent &press) const
 {
     const ulong pause_ms = press.timestamp() - m_lift_ms;
-    const QPoint way = press.globalPos() - m_place;
-    const QSize reach = pxSize(*ScalingInfo::inst(), QSizeF(DRAG_START_MM, DRAG_START_MM));
-    return pause_ms >= shortest_ms && pause_ms <= longest_ms && std::abs(way.x()) <= reach.width()
-        && std::abs(way.y()) <= reach.height();
+    return pause_ms >= shortest_ms && pause_ms <= longest_ms
+        && !leadsBeyondDragStart(press.globalPos() - m_place);
 }
 
 void BounceFilter::noteLift(const QMouseEvent &release)

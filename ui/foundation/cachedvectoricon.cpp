@@ -11,11 +11,12 @@ namespace vexo::hox::qt::ui {
 
 namespace {
 
-// NaN fails the comparison and is refused like a negative size.
-void refuseNegative(double first, double second, const char *text)
+// NaN fails the comparison and is refused like a negative size. So is each without a screen.
+void refuseUnusable(double first, double second, const char *text)
 {
     if (!(first >= 0 && second >= 0))
         throw std::out_of_range(text);
+    ScalingInfo::inst();
 }
 
 void addRenderings(QIcon *icon, ImageFile *file, const QSize &px)
@@ -94,8 +95,7 @@ void CachedVectorIcon::setFilenameOfImageToCache(const QString &file, const QSiz
 
 void CachedVectorIcon::setMmWidth(float mm)
 {
-    refuseNegative(double(mm), 0, "Negative width is impossible!");
-    ScalingInfo::inst(); // may throw as well
+    refuseUnusable(double(mm), 0, "Negative width is impossible!");
     m_must_relayout = true;
     if (mm == m_mm_width)
         return;
@@ -106,8 +106,7 @@ void CachedVectorIcon::setMmWidth(float mm)
 
 void CachedVectorIcon::setMmHeight(float mm)
 {
-    refuseNegative(0, double(mm), "Negative height is impossible!");
-    ScalingInfo::inst(); // may throw as well
+    refuseUnusable(0, double(mm), "Negative height is impossible!");
     m_must_relayout = true;
     if (mm == m_mm_height)
         return;
@@ -118,8 +117,7 @@ void CachedVectorIcon::setMmHeight(float mm)
 
 void CachedVectorIcon::setMmSize(const QSizeF &mm)
 {
-    refuseNegative(mm.width(), mm.height(), "Negative measurements are impossible!");
-    ScalingInfo::inst(); // may throw as well
+    refuseUnusable(mm.width(), mm.height(), "Negative measurements are impossible!");
     m_must_relayout = true;
     if (double(m_mm_width) == mm.width() && double(m_mm_height) == mm.height())
         return;
@@ -130,8 +128,7 @@ void CachedVectorIcon::setMmSize(const QSizeF &mm)
 
 void CachedVectorIcon::setPxSize(const QSize &px)
 {
-    refuseNegative(px.width(), px.height(), "Negative measurements are impossible!");
-    ScalingInfo::inst(); // may throw as well
+    refuseUnusable(px.width(), px.height(), "Negative measurements are impossible!");
     m_must_relayout = true;
     const double width = px.width();
     const double height = px.height();

@@ -13,6 +13,18 @@ namespace vexo::hox::qt::ui {
 /// From here on a list takes a finger that is dragged across it, mm.
 constexpr double DRAG_START_MM = 5;
 
+/// Whether \a way_px leads farther than \a limit_px, to either side.
+inline bool leadsBeyond(const QPoint &way_px, const QSize &limit_px)
+{
+    return std::abs(way_px.x()) > limit_px.width() || std::abs(way_px.y()) > limit_px.height();
+}
+
+/// Whether a list would take a finger that has gone \a way_px.
+inline bool leadsBeyondDragStart(const QPoint &way_px)
+{
+    return leadsBeyond(way_px, pxSize(*ScalingInfo::inst(), QSizeF(DRAG_START_MM, DRAG_START_MM)));
+}
+
 /// How far a finger may wander in x and y for a tap.
 class TapDistance
 {
@@ -34,11 +46,7 @@ public:
         m_mm = 0;
     }
 
-    bool isExceededBy(const QPoint &way_px) const
-    {
-        const QSize limit = this->limit();
-        return std::abs(way_px.x()) > limit.width() || std::abs(way_px.y()) > limit.height();
-    }
+    bool isExceededBy(const QPoint &way_px) const { return leadsBeyond(way_px, limit()); }
 
 private:
     // To each side, px.

@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QMouseEvent>
 
-#include <cstdlib>
 #include <utility>
 
 namespace vexo::hox::qt::ui {
@@ -111,11 +110,8 @@ bool TouchWatch::isSlide(const QObject &object, const QEvent &event) const
 {
     const bool is_told
         = event.type() == QEvent::MouseMove || event.type() == QEvent::MouseButtonRelease;
-    if (!m_place || !is_told || !object.isWindowType())
-        return false;
-    const QPoint way = static_cast<const QMouseEvent &>(event).globalPos() - *m_place;
-    const QSize limit = pxSize(*ScalingInfo::inst(), QSizeF(DRAG_START_MM, DRAG_START_MM));
-    return std::abs(way.x()) > limit.width() || std::abs(way.y()) > limit.height();
+    return m_place && is_told && object.isWindowType()
+        && leadsBeyondDragStart(static_cast<const QMouseEvent &>(event).globalPos() - *m_place);
 }
 
 // A touch that still goes on when the window has handled the release never gets it.

@@ -5,10 +5,7 @@
 
 #include <QBasicTimer>
 #include <QFile>
-#include <QHash>
-#include <QPointer>
 #include <QSet>
-#include <QVector>
 
 /// Audits each window of the application 500 ms after something was shown in it, and tells each
 /// finding once: as a line of the log channel hoxq.audit, or as an object of JSON on a line of a
