@@ -6,28 +6,9 @@
 #include "ui/foundation/quietly_p.h"
 
 #include <QEvent>
-#include <QPixmapCache>
 #include <QPointer>
 
 namespace vexo::hox::qt::ui {
-
-namespace {
-
-// Buttons that share a rendering share this one as well.
-QPixmap inverted(const QPixmap &pixmap)
-{
-    const QString key = QStringLiteral("hoxq_inverse_%1").arg(pixmap.cacheKey());
-    QPixmap inverse;
-    if (QPixmapCache::find(key, &inverse))
-        return inverse;
-    QImage image = pixmap.toImage();
-    image.invertPixels(QImage::InvertRgb);
-    inverse = QPixmap::fromImage(image);
-    QPixmapCache::insert(key, inverse);
-    return inverse;
-}
-
-} // namespace
 
 const char *ActiveButton::DEFAULT_STATE_NAME = "DEFAULT";
 const char *ActiveButton::CLICKED_STATE_NAME = "CLICKED";

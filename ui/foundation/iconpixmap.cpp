@@ -6,6 +6,7 @@
 
 #include <QGuiApplication>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QStyle>
 #include <QStyleOption>
 
@@ -77,6 +78,19 @@ QPixmap iconPixmap(const QIcon &icon, const QSize &px, double ratio)
     QPixmap pixmap = plainPixmap(icon, asked);
     pixmap.setDevicePixelRatio(shownRatio(pixmap.size(), px, asked, ratio));
     return pixmap;
+}
+
+QPixmap inverted(const QPixmap &pixmap)
+{
+    const QString key = QStringLiteral("hoxq_inverse_%1").arg(pixmap.cacheKey());
+    QPixmap inverse;
+    if (QPixmapCache::find(key, &inverse))
+        return inverse;
+    QImage image = pixmap.toImage();
+    image.invertPixels(QImage::InvertRgb);
+    inverse = QPixmap::fromImage(image);
+    QPixmapCache::insert(key, inverse);
+    return inverse;
 }
 
 void drawIconPixmap(

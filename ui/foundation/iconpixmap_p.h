@@ -26,6 +26,9 @@ QSize sharpSize(const QSize &px, double ratio);
 /// Qt::AA_UseHighDpiPixmaps does not matter.
 QPixmap iconPixmap(const QIcon &icon, const QSize &px, double ratio);
 
+/// \a pixmap for a dark ground; one for all who ask for that of the same rendering.
+QPixmap inverted(const QPixmap &pixmap);
+
 /// QStyle::drawItemPixmap(), but at ratios that are not whole the pixmap begins on a whole pixel of
 /// the screen: between two of them one is left out.
 void drawIconPixmap(QPainter *painter, const QStyle &style, const QRect &area, int alignment,

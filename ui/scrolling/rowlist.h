@@ -25,7 +25,8 @@ class VexoVerticalButtonScrollArea;
 ///   Qt::DecorationRole a TextIconRow, any other an ActionRow.
 /// - Qt::DisplayRole: the text.
 /// - Of a TextIconRow, SecondTextRole: the text at the right, and Qt::DecorationRole: the image, as
-///   the name of a file, drawn 8 mm high, or as a QPixmap.
+///   the name of a file, drawn 8 mm high, or as a QPixmap. A file's is inverted while the row is
+///   pressed; both are dimmed while it is disabled.
 /// - Qt::CheckStateRole: checked or not. A tap of a row that is Qt::ItemIsUserCheckable writes it
 ///   with setData(), as Qt::Checked except on a CheckboxRow, which toggles. The row then shows what
 ///   the model answers; that a choice unchecks another one is up to the model.

@@ -4,6 +4,7 @@
 #include "ui/buttons/vexofunctionbutton.h"
 #include "ui/buttons/vexohorizontaltexticonbutton.h"
 #include "ui/foundation/cachedvectoricon.h"
+#include "ui/foundation/iconpixmap_p.h"
 #include "ui/scrolling/rowlist.h"
 
 namespace vexo::hox::qt::ui {
@@ -38,14 +39,22 @@ QPixmap imageOf(const QModelIndex &index)
     return CachedVectorIcon(file, VexoFunctionButton::ICON_SIZE).toPixmap();
 }
 
+QPixmap dimmed(const QPixmap &image)
+{
+    QPixmap dim = QIcon(image).pixmap(image.size(), QIcon::Disabled);
+    dim.setDevicePixelRatio(image.devicePixelRatio());
+    return dim;
+}
+
 void showTextIcon(TextIconButton *row, const QModelIndex &index)
 {
     row->setLeftSideText(index.data().toString());
     row->setRightSideText(index.data(RowList::SecondTextRole).toString());
     const QPixmap image = imageOf(index);
-    for (auto set : { &TextIconButton::setDefaultImage, &TextIconButton::setClickedImage,
-             &TextIconButton::setInactiveImage })
-        (row->*set)(image);
+    const bool is_drawing = index.data(Qt::DecorationRole).userType() != QMetaType::QPixmap;
+    row->setDefaultImage(image);
+    row->setClickedImage(is_drawing && !image.isNull() ? inverted(image) : image);
+    row->setInactiveImage(dimmed(image));
 }
 
 void showText(VexoFunctionButton *row, const QModelIndex &index)

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void whatIsSeenStays_data();
     void whatIsSeenStays();
     void rowsShowWhatTheModelSays();
+    void imageShowsOnEachGround();
     void scrollsToAnIndex();
     void showsTheChildrenOfAnIndex();
     void fetchesMoreAtTheEnd();
@@ -195,6 +196,34 @@ void TestRowList::rowsShowWhatTheModelSays()
     screen.scroll(50 * row_px);
     for (int i = 50; i < 60; ++i)
         QVERIFY(row(i)->isEnabled());
+}
+
+// The darkest and the lightest of the right end differ, whatever the row's state.
+void TestRowList::imageShowsOnEachGround()
+{
+    QStandardItemModel model;
+    model.appendRow(new QStandardItem(QStringLiteral("text")));
+    model.item(0)->setData(QStringLiteral(":/VexoIconGeneralEnter"), Qt::DecorationRole);
+    ListScreen screen(&model);
+    auto *row = qobject_cast<QAbstractButton *>(screen.list->rowAt(model.index(0, 0)));
+    const auto spread = [&] {
+        const QImage end = row->grab(QRect(370, 0, 30, row->height())).toImage();
+        int darkest = 255;
+        int lightest = 0;
+        for (int i = 0; i < end.width() * end.height(); ++i) {
+            const int gray = qGray(end.pixel(i % end.width(), i / end.width()));
+            darkest = qMin(darkest, gray);
+            lightest = qMax(lightest, gray);
+        }
+        return lightest - darkest;
+    };
+    const int usual = spread();
+    QVERIFY2(usual > 150, qPrintable(QString::number(usual)));
+    row->setDown(true);
+    QVERIFY2(spread() > 80, qPrintable(QString::number(spread())));
+    row->setDown(false);
+    model.item(0)->setEnabled(false);
+    QVERIFY2(spread() < usual - 30, qPrintable(QString::number(spread())));
 }
 
 void TestRowList::scrollsToAnIndex()
