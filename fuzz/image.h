@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "fuzz/target.h"
-#include "ui/foundation/imagefile_p.h"
+#include "ui/files/imagefile_p.h"
 
 #include <QPainter>
 

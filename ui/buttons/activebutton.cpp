@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/buttons/activebutton.h"
 
-#include "ui/foundation/iconpixmap_p.h"
-#include "ui/foundation/imagefile_p.h"
+#include "ui/files/imagefile_p.h"
 #include "ui/foundation/quietly_p.h"
+#include "ui/painting/iconpixmap_p.h"
 
 #include <QEvent>
 #include <QPointer>

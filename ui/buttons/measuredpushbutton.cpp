@@ -2,8 +2,8 @@
 #include "ui/buttons/measuredpushbutton.h"
 
 #include "ui/buttons/tone_p.h"
-#include "ui/foundation/press_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
+#include "ui/touch/press_p.h"
 
 #include <QMouseEvent>
 #include <QPointer>

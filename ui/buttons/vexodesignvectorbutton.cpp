@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/buttons/vexodesignvectorbutton.h"
 
-#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/painting/iconpixmap_p.h"
 
 #include <QFontMetrics>
 #include <QPainter>

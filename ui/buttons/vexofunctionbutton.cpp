@@ -1,22 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "ui/buttons/vexofunctionbutton.h"
 
-#include "ui/buttons/rowaccessible_p.h"
-#include "ui/buttons/rowlabel_p.h"
-#include "ui/buttons/rowlayout_p.h"
+#include "ui/buttons/row/rowaccessible_p.h"
+#include "ui/buttons/row/rowlabel_p.h"
+#include "ui/buttons/row/rowlayout_p.h"
 #include "ui/buttons/tone_p.h"
 #include "ui/buttons/vexocheckbox.h"
 #include "ui/buttons/vexoiconbutton.h"
 #include "ui/buttons/vexoradiobutton.h"
+#include "ui/files/imagefile_p.h"
 #include "ui/foundation/cachedvectoricon.h"
-#include "ui/foundation/iconpixmap_p.h"
-#include "ui/foundation/imagefile_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/plainlabel_p.h"
-#include "ui/foundation/press_p.h"
 #include "ui/foundation/quietly_p.h"
 #include "ui/foundation/shownpart_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
+#include "ui/painting/iconpixmap_p.h"
+#include "ui/touch/press_p.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>

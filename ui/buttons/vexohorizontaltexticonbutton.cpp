@@ -2,10 +2,10 @@
 #include "ui/buttons/vexohorizontaltexticonbutton.h"
 
 #include "ui/foundation/accessible_p.h"
-#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/panelfont_p.h"
-#include "ui/foundation/press_p.h"
-#include "ui/foundation/textblock_p.h"
+#include "ui/painting/iconpixmap_p.h"
+#include "ui/painting/textblock_p.h"
+#include "ui/touch/press_p.h"
 
 #include <QPainter>
 #include <QStyle>

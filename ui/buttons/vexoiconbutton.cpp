@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/buttons/vexoiconbutton.h"
 
-#include "ui/buttons/styledbackground_p.h"
-#include "ui/foundation/iconpixmap_p.h"
-#include "ui/foundation/press_p.h"
+#include "ui/painting/iconpixmap_p.h"
+#include "ui/painting/styledbackground_p.h"
+#include "ui/touch/press_p.h"
 
 #include <QMouseEvent>
 #include <QPainter>

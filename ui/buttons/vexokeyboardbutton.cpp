@@ -2,9 +2,9 @@
 #include "ui/buttons/vexokeyboardbutton.h"
 
 #include "ui/foundation/cachedvectoricon.h"
-#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/panelfont_p.h"
-#include "ui/foundation/textblock_p.h"
+#include "ui/painting/iconpixmap_p.h"
+#include "ui/painting/textblock_p.h"
 
 #include <QGuiApplication>
 #include <QPainterPath>

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "ui/buttons/vexopushbutton.h"
 
-#include "ui/buttons/styledbackground_p.h"
 #include "ui/buttons/tone_p.h"
 #include "ui/foundation/accessible_p.h"
-#include "ui/foundation/endsprint_p.h"
-#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/panelfont_p.h"
-#include "ui/foundation/press_p.h"
-#include "ui/foundation/textblock_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
+#include "ui/painting/endsprint_p.h"
+#include "ui/painting/iconpixmap_p.h"
+#include "ui/painting/styledbackground_p.h"
+#include "ui/painting/textblock_p.h"
+#include "ui/touch/press_p.h"
 
 #include <QDataStream>
 #include <QFontMetrics>

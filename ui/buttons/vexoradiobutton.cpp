@@ -2,7 +2,7 @@
 #include "ui/buttons/vexoradiobutton.h"
 
 #include "ui/buttons/tone_p.h"
-#include "ui/foundation/press_p.h"
+#include "ui/touch/press_p.h"
 
 #include <QMouseEvent>
 

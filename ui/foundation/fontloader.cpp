@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/foundation/fontloader.h"
 
-#include "ui/foundation/inputfile_p.h"
-#include "ui/foundation/loadedbytes_p.h"
+#include "ui/files/inputfile_p.h"
+#include "ui/files/loadedbytes_p.h"
 #include "ui/foundation/panelfont_p.h"
 
 #include <QApplication>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/foundation/vexostylesheet.h"
 
-#include "ui/foundation/cssguard_p.h"
-#include "ui/foundation/inputfile_p.h"
+#include "ui/files/cssguard_p.h"
+#include "ui/files/inputfile_p.h"
 #include "ui/foundation/sheetchange_p.h"
 
 #include <QApplication>

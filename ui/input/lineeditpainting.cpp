@@ -4,11 +4,11 @@
 
 #include "ui/foundation/pixels_p.h"
 #include "ui/input/composedtext_p.h"
-#include "ui/input/fieldframe_p.h"
 #include "ui/input/placeholder_p.h"
-#include "ui/input/secretdots_p.h"
 #include "ui/input/shakemotion_p.h"
-#include "ui/input/textrun_p.h"
+#include "ui/painting/fieldframe_p.h"
+#include "ui/painting/secretdots_p.h"
+#include "ui/painting/textrun_p.h"
 
 #include <QLabel>
 #include <QPaintEvent>

@@ -3,19 +3,19 @@
 
 #include "ui/buttons/vexofeedbackdelegator.h"
 #include "ui/buttons/vexoiconbutton.h"
-#include "ui/foundation/iconpixmap_p.h"
-#include "ui/foundation/imagefile_p.h"
+#include "ui/files/imagefile_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/plainlabel_p.h"
-#include "ui/foundation/press_p.h"
 #include "ui/input/composedtext_p.h"
-#include "ui/input/fieldframe_p.h"
 #include "ui/input/lineeditaccessible_p.h"
-#include "ui/input/secretdots_p.h"
 #include "ui/input/secrettext_p.h"
 #include "ui/input/shakemotion_p.h"
 #include "ui/input/sidewidget_p.h"
-#include "ui/input/textrun_p.h"
+#include "ui/painting/fieldframe_p.h"
+#include "ui/painting/iconpixmap_p.h"
+#include "ui/painting/secretdots_p.h"
+#include "ui/painting/textrun_p.h"
+#include "ui/touch/press_p.h"
 
 #include <QLabel>
 #include <QMouseEvent>

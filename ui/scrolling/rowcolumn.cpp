@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/scrolling/rowcolumn_p.h"
 
-#include "ui/foundation/press_p.h"
 #include "ui/scrolling/opaquerows_p.h"
 #include "ui/scrolling/rowlistaccessible_p.h"
 #include "ui/scrolling/rowlistrow_p.h"
+#include "ui/touch/press_p.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -4,7 +4,7 @@
 #include "ui/buttons/vexofunctionbutton.h"
 #include "ui/buttons/vexohorizontaltexticonbutton.h"
 #include "ui/foundation/cachedvectoricon.h"
-#include "ui/foundation/iconpixmap_p.h"
+#include "ui/painting/iconpixmap_p.h"
 #include "ui/scrolling/rowlist.h"
 
 namespace vexo::hox::qt::ui {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ui/scrolling/vexoverticalbuttonscrollarea.h"
 
-#include "ui/foundation/imagefile_p.h"
-#include "ui/foundation/press_p.h"
+#include "ui/files/imagefile_p.h"
 #include "ui/foundation/tightlayout_p.h"
 #include "ui/scrolling/vexoverticalscrollarea.h"
 #include "ui/scrolling/vexoverticalscrollcontent.h"
+#include "ui/touch/press_p.h"
 
 #include <QPushButton>
 #include <QScrollBar>

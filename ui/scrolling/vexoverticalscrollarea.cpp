@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/scrolling/vexoverticalscrollarea.h"
 
-#include "ui/foundation/press_p.h"
 #include "ui/foundation/tapdistance_p.h"
-#include "ui/foundation/touchwatch_p.h"
 #include "ui/sliders/vexoslider.h"
+#include "ui/touch/press_p.h"
+#include "ui/touch/touchwatch_p.h"
 
 #include <QEasingCurve>
 #include <QMouseEvent>

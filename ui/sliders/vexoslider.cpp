@@ -2,9 +2,9 @@
 #include "ui/sliders/vexoslider.h"
 
 #include "ui/buttons/tone_p.h"
-#include "ui/foundation/press_p.h"
 #include "ui/foundation/quietly_p.h"
 #include "ui/sliders/slideraccessible_p.h"
+#include "ui/touch/press_p.h"
 
 #include <QPointer>
 #include <QSignalBlocker>

@@ -3,10 +3,10 @@
 
 #include "ui/foundation/accessible_p.h"
 #include "ui/foundation/cachedvectoricon.h"
-#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/tightlayout_p.h"
+#include "ui/painting/iconpixmap_p.h"
 #include "ui/sliders/vexoslider.h"
 #include "ui/text/scaledisplaywidget.h"
 

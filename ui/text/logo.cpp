@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/text/logo_p.h"
 
-#include "ui/foundation/imagefile_p.h"
+#include "ui/files/imagefile_p.h"
 #include "ui/foundation/scalinginfo.h"
 
 #include <QPainter>

@@ -2,10 +2,10 @@
 #include "ui/text/vexoimageheadline.h"
 
 #include "ui/foundation/cachedvectoricon.h"
-#include "ui/foundation/iconpixmap_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/tightlayout_p.h"
+#include "ui/painting/iconpixmap_p.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -3,8 +3,8 @@
 
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/plainlabel_p.h"
-#include "ui/foundation/textblock_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
+#include "ui/painting/textblock_p.h"
 
 #include <QPainter>
 

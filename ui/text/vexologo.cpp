@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/text/vexologo.h"
 
-#include "ui/foundation/imagefile_p.h"
+#include "ui/files/imagefile_p.h"
 #include "ui/text/logo_p.h"
 
 namespace vexo::hox::qt::ui {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/text/vexologolabel.h"
 
-#include "ui/foundation/iconpixmap_p.h"
-#include "ui/foundation/imagefile_p.h"
+#include "ui/files/imagefile_p.h"
 #include "ui/foundation/plainlabel_p.h"
+#include "ui/painting/iconpixmap_p.h"
 #include "ui/text/logo_p.h"
 
 #include <QPainter>

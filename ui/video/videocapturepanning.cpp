@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/video/videocapturepanning.h"
 
-#include "ui/foundation/press_p.h"
 #include "ui/foundation/scalinginfo.h"
+#include "ui/touch/press_p.h"
 
 #include <QMouseEvent>
 #include <QMoveEvent>
