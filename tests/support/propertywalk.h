@@ -17,7 +17,7 @@ struct WalkedClass
     std::function<QWidget *(QWidget *parent)> make;
 };
 
-/// Every exported widget class. A new class adds its line here.
+/// Every widget class of the public interface.
 const std::vector<WalkedClass> &walkedClasses();
 
 /// A value for \a property that is not \a value; another one for each \a step. Invalid if the type
