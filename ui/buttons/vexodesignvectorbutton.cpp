@@ -98,7 +98,7 @@ void VexoDesignVectorButton::setIgnoreBackgroundDarkRendering(bool ignore)
 void VexoDesignVectorButton::setMmHeight(double mm)
 {
     m_mm_height = mm;
-    setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+    fixHeight(this, *m_scaling, mm);
     calculateTextPosition();
 }
 

@@ -12,9 +12,9 @@
 #include "ui/foundation/cachedvectoricon.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/plainlabel_p.h"
-#include "ui/foundation/quietly_p.h"
 #include "ui/foundation/shownpart_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
+#include "ui/foundation/withoutrepaint_p.h"
 #include "ui/painting/iconpixmap_p.h"
 #include "ui/touch/press_p.h"
 
@@ -84,7 +84,7 @@ void changeChild(QWidget *child, const QRegion &painted, Change change)
     const QRect shown = child->geometry() & shownPart(*child->parentWidget());
     const bool is_painted = painted.rectCount() == 1 && painted.boundingRect().contains(shown);
     if (shown.isEmpty() || is_painted)
-        quietly(child, change);
+        withoutRepaint(child, change);
     else
         change();
 }

@@ -115,7 +115,7 @@ void VexoHorizontalTextIconButton::setMmIndent(double mm)
 void VexoHorizontalTextIconButton::setMmHeight(double mm)
 {
     m_mm_height = mm;
-    setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+    fixHeight(this, *m_scaling, mm);
 }
 
 void VexoHorizontalTextIconButton::setLeftSideTextPercentWidth(double percent)

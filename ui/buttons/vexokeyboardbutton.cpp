@@ -104,7 +104,7 @@ void VexoKeyboardButton::setButtonTextFontSizeInPt(double pt)
 void VexoKeyboardButton::setHeightInMm(double mm)
 {
     m_height_mm = mm;
-    setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+    fixHeight(this, *m_scaling, mm);
 }
 
 void VexoKeyboardButton::setCommonIconSizeMM(const QSizeF &mm)

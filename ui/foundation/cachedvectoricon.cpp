@@ -11,10 +11,10 @@ namespace vexo::hox::qt::ui {
 
 namespace {
 
-// NaN fails the comparison and is refused like a negative size. So is each without a screen.
+// Each size is refused without a screen.
 void refuseUnusable(double first, double second, const char *text)
 {
-    if (!(first >= 0 && second >= 0))
+    if (!isMeasure(first) || !isMeasure(second))
         throw std::out_of_range(text);
     ScalingInfo::inst();
 }
@@ -232,7 +232,7 @@ void CachedVectorIcon::fillMissingMm(Dimension filled)
 
 QSize CachedVectorIcon::pxSize() const
 {
-    return QSize(truncated(m_px_width), truncated(m_px_height));
+    return truncated(QSizeF(m_px_width, m_px_height));
 }
 
 void CachedVectorIcon::log(const char *line) const

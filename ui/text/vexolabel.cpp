@@ -61,7 +61,7 @@ void VexoLabel::setMmIndent(double mm)
 void VexoLabel::setMmHeight(double mm)
 {
     m_mm_height = mm;
-    setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+    fixHeight(this, *m_scaling, mm);
 }
 
 void VexoLabel::setTextAlignment(Qt::Alignment alignment)

@@ -65,31 +65,31 @@ void VexoLabeledContainer::setPtFontSize(double pt)
 void VexoLabeledContainer::setBottomMarginMm(double mm)
 {
     m_mm_bottom_margin = mm;
-    m_bottom_spacer->setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+    fixHeight(m_bottom_spacer, *m_scaling, mm);
 }
 
 void VexoLabeledContainer::setTopMarginMm(double mm)
 {
     m_mm_top_margin = mm;
-    m_top_spacer->setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+    fixHeight(m_top_spacer, *m_scaling, mm);
 }
 
 void VexoLabeledContainer::setLeftMarginMm(double mm)
 {
     m_mm_left_margin = mm;
-    m_left_spacer->setFixedWidth(widgetPx(pxX(*m_scaling, mm)));
+    fixWidth(m_left_spacer, *m_scaling, mm);
 }
 
 void VexoLabeledContainer::setRightMarginMm(double mm)
 {
     m_mm_right_margin = mm;
-    m_right_spacer->setFixedWidth(widgetPx(pxX(*m_scaling, mm)));
+    fixWidth(m_right_spacer, *m_scaling, mm);
 }
 
 void VexoLabeledContainer::setMmHeight(double mm)
 {
     m_mm_height = mm;
-    setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+    fixHeight(this, *m_scaling, mm);
 }
 
 void VexoLabeledContainer::setWidget(QWidget *widget)
