@@ -7,6 +7,14 @@ install(FILES system/vexologging.h ${PROJECT_BINARY_DIR}/system/hoxqsystem_expor
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui/system COMPONENT Devel)
 install(FILES ${PROJECT_BINARY_DIR}/ui/hoxqui_export.h ${PROJECT_BINARY_DIR}/ui/ui_updatepage.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui/ui COMPONENT Devel)
+if(TARGET hoxqpanel)
+  install(TARGETS hoxqpanel EXPORT HoxqUi
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime NAMELINK_COMPONENT Devel)
+  install(DIRECTORY panel DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui COMPONENT Devel
+    FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE)
+  install(FILES ${PROJECT_BINARY_DIR}/panel/hoxqpanel_export.h
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui/panel COMPONENT Devel)
+endif()
 if(TARGET hoxquitest) # no panel needs it
   install(TARGETS hoxquitest EXPORT HoxqUi
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Devel)
@@ -17,7 +25,7 @@ if(TARGET hoxquitest) # no panel needs it
   install(FILES ${PROJECT_BINARY_DIR}/uitest/hoxquitest_export.h
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui/uitest COMPONENT Devel)
 endif()
-foreach(library system ui util uitest)
+foreach(library system ui util panel uitest)
   get_property(forwards GLOBAL PROPERTY HOXQ_FORWARDS_${library})
   install(FILES ${forwards} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui COMPONENT Devel)
 endforeach()
@@ -38,9 +46,11 @@ install(FILES ${PROJECT_BINARY_DIR}/HoxqUiConfig.cmake ${PROJECT_BINARY_DIR}/Hox
 # Relative to its own folder, so that the installed tree can be moved.
 file(RELATIVE_PATH up_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 set(pkgconfig_files hoxqui.pc)
-if(TARGET hoxquitest)
-  list(APPEND pkgconfig_files hoxquitest.pc)
-endif()
+foreach(name hoxqpanel hoxquitest)
+  if(TARGET ${name})
+    list(APPEND pkgconfig_files ${name}.pc)
+  endif()
+endforeach()
 foreach(file IN LISTS pkgconfig_files)
   configure_file(cmake/${file}.in ${file} @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/${file}

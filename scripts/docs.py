@@ -186,7 +186,7 @@ def read_header(path):
 
 
 def headers():
-    paths = [path for folder in ("ui", "util", "uitest") for path in Path(folder).glob("**/*.h")]
+    paths = [path for folder in ("ui", "util", "panel", "uitest") for path in Path(folder).glob("**/*.h")]
     paths += Path("system").glob("*.h")
     return sorted(path for path in paths
                   if not re.search("_(p|export)\\.h$", path.name) and "plugin" not in path.parts)

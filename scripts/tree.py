@@ -15,7 +15,7 @@ INCLUDE = re.compile(r'^#include "ui/([\w/]+)/\w+\.h"', re.M)
 
 def public_classes():
     rows = {}
-    for library in ("ui", "util", "system", "uitest"):
+    for library in ("ui", "util", "system", "panel", "uitest"):
         for found in LINE.finditer(Path(library, "CMakeLists.txt").read_text()):
             described = re.search(r"DESCRIBES (\w+)", found["more"])
             name = described[1] if described else found["name"]

@@ -32,7 +32,7 @@ set_tests_properties(tst_panelfonts PROPERTIES FIXTURES_REQUIRED installed
 set_target_properties(tst_bundles PROPERTIES ENABLE_EXPORTS ON)
 
 # The names of the forwarding headers, with blanks between.
-foreach(library system ui util uitest)
+foreach(library system ui util panel uitest)
   get_property(classes GLOBAL PROPERTY HOXQ_CLASSES_${library})
   string(REPLACE ";" " " HOXQ_CLASSES_${library} "${classes}")
 endforeach()
@@ -51,6 +51,7 @@ target_compile_definitions(packagesupport PUBLIC
   HOXQ_SOURCE="${PROJECT_SOURCE_DIR}" HOXQ_CONSUMER="${CMAKE_CURRENT_SOURCE_DIR}/consumer"
   HOXQ_STAGE="${stage}" HOXQ_LIBDIR="${CMAKE_INSTALL_LIBDIR}" 
   HOXQ_SYSTEM_CLASSES="${HOXQ_CLASSES_system}" HOXQ_KIT_CLASSES="${HOXQ_CLASSES_uitest}"
+  HOXQ_PANEL_CLASSES="${HOXQ_CLASSES_panel}"
   HOXQ_CLASSES="${HOXQ_CLASSES_ui} ${HOXQ_CLASSES_util}"
   HOXQ_VERSION="${PROJECT_VERSION}"
   HOXQ_CMAKE="${CMAKE_COMMAND}" HOXQ_GENERATOR="${CMAKE_GENERATOR}"

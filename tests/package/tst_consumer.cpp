@@ -119,7 +119,7 @@ void TestConsumer::laterMajorVersionIsRefused()
 void TestConsumer::everyClassHasAForwardingHeader()
 {
     QStringList classes
-        = QStringLiteral(HOXQ_SYSTEM_CLASSES " " HOXQ_CLASSES " " HOXQ_KIT_CLASSES " Ui_UpdatePage")
+        = QStringLiteral(HOXQ_SYSTEM_CLASSES " " HOXQ_CLASSES " " HOXQ_PANEL_CLASSES " " HOXQ_KIT_CLASSES " Ui_UpdatePage")
               .split(QLatin1Char(' '));
     classes.sort();
     QCOMPARE(QDir(QStringLiteral(HOXQ_STAGE "/include/hoxqui")).entryList(QDir::Files), classes);

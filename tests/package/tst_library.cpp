@@ -25,7 +25,7 @@ QString demangled(const QByteArray &symbol)
 QString ownerOf(const QString &symbol)
 {
     static const QRegularExpression ours(QStringLiteral(
-        "^(?:[a-z -]+ (?:for|to) )?vexo::(?:hox::qt::(?:ui|uitest|system)|util)::(\\w+)(.*)"));
+        "^(?:[a-z -]+ (?:for|to) )?vexo::(?:hox::qt::(?:ui|uitest|panel|system)|util)::(\\w+)(.*)"));
     const QRegularExpressionMatch match = ours.match(symbol);
     const bool is_function = match.captured(2).startsWith(QLatin1Char('('));
     const bool is_of_kit = symbol.startsWith(QLatin1String("vexo::hox::qt::uitest::"));
@@ -97,6 +97,8 @@ void TestLibrary::exportsItsPublicClassesAndNothingElse_data()
     QTest::addColumn<QStringList>("interface");
     QTest::newRow("libhoxqui.so") << ui;
     QTest::newRow("libhoxqsystem.so") << QStringList(QStringLiteral(HOXQ_SYSTEM_CLASSES));
+    QTest::newRow("libhoxqpanel.so")
+        << QStringLiteral(HOXQ_PANEL_CLASSES).split(QLatin1Char(' '));
     for (const char *companion : { "SoakResult", "TouchLimits", "soak" }) // in headers of others
         kit.append(QLatin1String(companion));
     QVERIFY(kit.removeOne(QStringLiteral("Soak")));
@@ -158,6 +160,7 @@ void TestLibrary::hasItsVersionAndFindsItsNeighbour_data()
     QTest::addColumn<QString>("run_path");
     QTest::newRow("libhoxqui.so") << QStringLiteral("[$ORIGIN]");
     QTest::newRow("libhoxqsystem.so") << QString();
+    QTest::newRow("libhoxqpanel.so") << QStringLiteral("[$ORIGIN]");
     QTest::newRow("libhoxquitest.so") << QStringLiteral("[$ORIGIN]");
 }
 
