@@ -10,6 +10,7 @@
 #include "ui/buttons/vexoradiobutton.h"
 #include "ui/files/imagefile_p.h"
 #include "ui/foundation/cachedvectoricon.h"
+#include "ui/foundation/coverrule_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/quietly_p.h"
@@ -105,6 +106,8 @@ VexoFunctionButton::VexoFunctionButton(QWidget *parent, const VexoFunctionButton
     , m_button_type(type)
 {
     qRegisterMetaType<VexoFunctionButtonType>("VexoFunctionButtonType");
+    static const CoverRule cover_rule(staticMetaObject,
+        [](const QWidget &row) { return static_cast<const VexoFunctionButton &>(row).coversAll(); });
     makeRowsAccessible();
     setAttribute(Qt::WA_StyledBackground);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);

@@ -16,7 +16,6 @@ class QSpacerItem;
 
 namespace vexo::hox::qt::ui {
 
-class OpaqueRows;
 class RowLabel;
 class RowLayout;
 class ScalingInfo;
@@ -149,8 +148,6 @@ private Q_SLOTS:
     void tickAgreementClicked();
 
 private:
-    friend class OpaqueRows; // asks coversAll()
-
     void tellChecked();
     void setupLabel();
     void setupRightWidget();

@@ -2,6 +2,7 @@
 #include "ui/buttons/vexohorizontaltexticonbutton.h"
 
 #include "ui/foundation/accessible_p.h"
+#include "ui/foundation/coverrule_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/painting/iconpixmap_p.h"
 #include "ui/painting/textblock_p.h"
@@ -19,6 +20,9 @@ VexoHorizontalTextIconButton::VexoHorizontalTextIconButton(QWidget *parent)
     , m_left_text(std::make_unique<TextBlock>(QTextOption::NoWrap))
     , m_right_text(std::make_unique<TextBlock>(QTextOption::NoWrap))
 {
+    static const CoverRule cover_rule(staticMetaObject, [](const QWidget &row) {
+        return static_cast<const VexoHorizontalTextIconButton &>(row).coversAll();
+    });
     setupUi();
 }
 

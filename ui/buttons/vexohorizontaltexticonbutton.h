@@ -12,7 +12,6 @@
 
 namespace vexo::hox::qt::ui {
 
-class OpaqueRows;
 class ScalingInfo;
 class TextBlock;
 
@@ -98,8 +97,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    friend class OpaqueRows; // asks coversAll()
-
     struct Look
     {
         QColor ink;
