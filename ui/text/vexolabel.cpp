@@ -82,10 +82,7 @@ void VexoLabel::setFontWeight(int weight)
 
 QWidget *VexoLabel::addVisibleBuddy(QWidget *buddy)
 {
-    m_visible_buddies->add(buddy);
-    if (buddy)
-        buddy->setVisible(false);
-    return buddy;
+    return m_visible_buddies->addHidden(buddy);
 }
 
 void VexoLabel::clearVisibleBuddies()
