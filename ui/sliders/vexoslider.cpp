@@ -2,6 +2,7 @@
 #include "ui/sliders/vexoslider.h"
 
 #include "ui/buttons/tone_p.h"
+#include "ui/foundation/accessible_p.h"
 #include "ui/foundation/quietly_p.h"
 #include "ui/sliders/slideraccessible_p.h"
 #include "ui/touch/press_p.h"
@@ -26,7 +27,7 @@ int saturated(qint64 number)
 VexoSlider::VexoSlider(QWidget *parent)
     : QSlider(parent)
 {
-    makeSlidersAccessible();
+    installAccessible<VexoSlider, SliderAccessible>();
     setPageStep(0); // a press on the groove does not page
     connect(this, &QAbstractSlider::valueChanged, this, &VexoSlider::onValueChanged);
     connectTone(this, &QAbstractSlider::sliderPressed);
