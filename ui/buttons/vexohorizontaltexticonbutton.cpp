@@ -73,32 +73,32 @@ void VexoHorizontalTextIconButton::setInactiveImage(const QPixmap &image)
 
 void VexoHorizontalTextIconButton::setDefaultTextColor(const QColor &color)
 {
-    change(&m_default_text_color, color);
+    setColor(&m_default_text_color, color);
 }
 
 void VexoHorizontalTextIconButton::setClickedTextColor(const QColor &color)
 {
-    change(&m_clicked_text_color, color);
+    setColor(&m_clicked_text_color, color);
 }
 
 void VexoHorizontalTextIconButton::setInactiveTextColor(const QColor &color)
 {
-    change(&m_inactive_text_color, color);
+    setColor(&m_inactive_text_color, color);
 }
 
 void VexoHorizontalTextIconButton::setDefaultBackgroundColor(const QColor &color)
 {
-    change(&m_default_background_color, color);
+    setColor(&m_default_background_color, color);
 }
 
 void VexoHorizontalTextIconButton::setClickedBackgroundColor(const QColor &color)
 {
-    change(&m_clicked_background_color, color);
+    setColor(&m_clicked_background_color, color);
 }
 
 void VexoHorizontalTextIconButton::setInactiveBackgroundColor(const QColor &color)
 {
-    change(&m_inactive_background_color, color);
+    setColor(&m_inactive_background_color, color);
 }
 
 void VexoHorizontalTextIconButton::setPtFontSize(int pt)
@@ -177,7 +177,7 @@ void VexoHorizontalTextIconButton::setImage(QPixmap *image, const QPixmap &to)
     update();
 }
 
-void VexoHorizontalTextIconButton::change(QColor *color, const QColor &to)
+void VexoHorizontalTextIconButton::setColor(QColor *color, const QColor &to)
 {
     *color = to;
     update();

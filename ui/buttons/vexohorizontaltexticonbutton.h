@@ -105,7 +105,7 @@ private:
     };
 
     void setImage(QPixmap *image, const QPixmap &to);
-    void change(QColor *color, const QColor &to);
+    void setColor(QColor *color, const QColor &to);
     Look lookOfNow() const;
     bool coversAll() const;
 
