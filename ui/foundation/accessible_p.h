@@ -38,4 +38,20 @@ void installAccessible()
     Q_UNUSED(remover)
 }
 
+/// What installAccessible() asks for a \a Widget; a class derived from it may have another.
+template <typename Widget, typename Interface>
+QAccessibleInterface *createAccessible(const QString &class_name, QObject *object)
+{
+    const bool may_be = class_name == QLatin1String(Widget::staticMetaObject.className());
+    auto *widget = may_be ? dynamic_cast<Widget *>(object) : nullptr;
+    return widget ? new Interface(widget) : nullptr;
+}
+
+/// From now on assistive technology sees each \a Widget by an \a Interface.
+template <typename Widget, typename Interface>
+void installAccessible()
+{
+    installAccessible<createAccessible<Widget, Interface>>();
+}
+
 } // namespace vexo::hox::qt::ui

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/buttons/row/rowlabel_p.h"
 
+#include "ui/buttons/row/changeinpaint_p.h"
 #include "ui/foundation/plainlabel_p.h"
 
 #include <QEvent>
@@ -127,17 +128,21 @@ int RowLabel::lineHeight() const
     return int(std::ceil(QFontMetricsF(font()).height())) + aroundText().height();
 }
 
-QColor RowLabel::ink() const
+void RowLabel::setFontWeight(int weight)
 {
-    return palette().color(QPalette::ButtonText);
+    QFont font = this->font();
+    font.setWeight(weight);
+    setFont(font);
 }
 
-void RowLabel::setInk(const QColor &ink)
+void RowLabel::setInk(const QColor &ink, const QRegion &painted)
 {
+    if (this->ink() == ink)
+        return;
     QPalette colors;
     colors.setBrush(QPalette::ButtonText, ink);
     m_is_inking = true;
-    setPalette(colors);
+    changeInPaint(this, painted, [&] { setPalette(colors); });
     m_is_inking = false;
 }
 
@@ -213,6 +218,11 @@ QPaintDevice *RowLabel::redirected(QPoint *offset) const
         return QLabel::redirected(offset);
     *offset = QPoint();
     return m_print_image;
+}
+
+QColor RowLabel::ink() const
+{
+    return palette().color(QPalette::ButtonText);
 }
 
 RowLabel::Look RowLabel::lookOfNow(const QColor &ground) const

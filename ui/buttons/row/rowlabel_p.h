@@ -30,9 +30,10 @@ public:
     bool isSurelyOneLine(int width_px) const;
     /// px, with margins, of a text of which that is true.
     int lineHeight() const;
-    QColor ink() const;
-    /// Replaces the label's palette by the application's with this text colour.
-    void setInk(const QColor &ink);
+    void setFontWeight(int weight);
+    /// Replaces the label's palette by the application's with this text colour, if it is another
+    /// one. In a paint of the row of \a painted.
+    void setInk(const QColor &ink, const QRegion &painted);
     /// Called by the row in each paint, before it has a painter: the label lies on \a ground.
     void prepare(const QColor &ground);
 
@@ -68,6 +69,7 @@ private:
         int average_letter = 0;
     };
 
+    QColor ink() const;
     Look lookOfNow(const QColor &ground) const;
     Print print(const QColor &ground);
     void paintAnew(QPaintEvent *event);
