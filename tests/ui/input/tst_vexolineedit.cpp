@@ -3,14 +3,12 @@
 #include "support/paintcounter.h"
 #include "support/panelscale.h"
 #include "support/testcase.h"
-#include "ui/input/placeholder_p.h"
 
 #include <FontLoader>
 #include <VexoFeedbackDelegator>
 #include <VexoIconButton>
 #include <VexoLineEdit>
 
-#include <QAccessible>
 #include <QMetaProperty>
 #include <QPaintEvent>
 #include <QSignalSpy>
@@ -106,8 +104,7 @@ private Q_SLOTS:
     void dotsStandForCharacters();
     void textStartsBehindMarginAndIcon();
     void cursorStandsBehindTheText();
-    void placeholderCountsDown();
-    void senselessValuesDoNoHarm();
+    void underscoresAreAPlaceholder();
     void changeRepaintsOnceAndShows();
     void blinkRepaintsWhatItChanges_data();
     void blinkRepaintsWhatItChanges();
@@ -118,7 +115,6 @@ private Q_SLOTS:
     void trailingButtonDeletes();
     void trailingButtonRingsWhatItsFieldRings();
     void mayBeDeletedInItsSignals();
-    void tellsNoSecret();
 };
 
 void TestVexoLineEdit::heightFollowsFromTheMillimetres()
@@ -220,53 +216,14 @@ void TestVexoLineEdit::cursorStandsBehindTheText()
     QVERIFY(boxOf(field.picture(), CURSOR).isEmpty());
 }
 
-void TestVexoLineEdit::placeholderCountsDown()
+void TestVexoLineEdit::underscoresAreAPlaceholder()
 {
-    const auto left = [](const char *placeholder, int typed, bool spaced) {
-        return placeholderRest(QString::fromUtf8(placeholder), typed, spaced);
-    };
-    QCOMPARE(left("____", 0, true), QStringLiteral("_ _ _ _"));
-    QCOMPARE(left("____", 2, true), QStringLiteral("_ _"));
-    QCOMPARE(left("____", 3, true), QStringLiteral("_"));
-    QCOMPARE(left("____", 4, true), QString());
-    QCOMPARE(left("____", 9, true), QString());
-    QCOMPARE(left("____", 2, false), QStringLiteral("__"));
-    QCOMPARE(left("\U0001F130b", 1, false), QStringLiteral("b")); // half a pair is not shown
     VexoLineEdit field;
     field.setUnderscores(4);
     field.setUnderscores(-1);
     QCOMPARE(field.placeholderText(), QStringLiteral("____"));
     field.setPlaceholderText(QStringLiteral("____"));
     QCOMPARE(field.property("m_underscores"), QVariant(0));
-}
-
-void TestVexoLineEdit::senselessValuesDoNoHarm()
-{
-    const double values[] = { qQNaN(), qInf(), -qInf(), 1e300, -1e9, -1, 0, 1e9 };
-    const QMetaObject &meta = VexoLineEdit::staticMetaObject;
-    QImage image(400, 60, QImage::Format_ARGB32_Premultiplied);
-    VexoLineEdit endless;
-    endless.setText(QString(10000, QLatin1Char('a')));
-    endless.render(&image);
-    for (const double value : values) {
-        for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
-            const QMetaProperty property = meta.property(i);
-            const bool is_refused = qstrcmp(property.name(), "m_mm_trailing_icon_size") == 0;
-            VexoLineEdit field;
-            field.setText(QStringLiteral("a\nb"));
-            field.enableLeadingLabelAction();
-            field.setCursorState(true);
-            if (property.userType() == QMetaType::Double)
-                property.write(&field, value);
-            else if (property.userType() == QMetaType::Int)
-                property.write(&field, value < 0 ? INT_MIN : INT_MAX);
-            else if (property.userType() == QMetaType::QSizeF && !is_refused)
-                property.write(&field, QSizeF(value, value));
-            field.render(&image);
-            field.setDrawPasswordSecured(true);
-            field.render(&image);
-        }
-    }
 }
 
 /// Nothing that a paint keeps may outlive a change.
@@ -490,32 +447,6 @@ void TestVexoLineEdit::mayBeDeletedInItsSignals()
         QTest::mouseClick(by_button ? button : field.data(), Qt::LeftButton);
         QVERIFY(!field);
     }
-    VexoLineEdit field;
-    field.enableTrailingButtonAction();
-    delete field.findChild<QObject *>(QStringLiteral("trailingAction")); // takes the button along
-    field.setTrailingIcon(QIcon());
-    field.resize(200, 20);
-}
-
-void TestVexoLineEdit::tellsNoSecret()
-{
-    const QString secret = QStringLiteral("geheim");
-    VexoLineEdit field;
-    field.setText(secret);
-    field.setPlaceholderText(QStringLiteral("Password"));
-    QAccessibleInterface *told = QAccessible::queryAccessibleInterface(&field);
-    QCOMPARE(told->role(), QAccessible::EditableText);
-    QCOMPARE(told->text(QAccessible::Value), secret);
-    QCOMPARE(told->textInterface()->text(0, 3), QStringLiteral("geh"));
-    QVERIFY(!told->state().passwordEdit);
-    field.setDrawPasswordSecured(true);
-    QVERIFY(told->state().passwordEdit);
-    QCOMPARE(told->text(QAccessible::Value), QStringLiteral("******"));
-    QCOMPARE(told->text(QAccessible::Description), QStringLiteral("Password"));
-    QVERIFY(!told->textInterface()); // changes are reported, with their text, where there is one
-    QCOMPARE(field.text(), secret);
-    told->editableTextInterface()->replaceText(0, 2, QStringLiteral("x"));
-    QCOMPARE(field.text(), QStringLiteral("xheim"));
 }
 
 QTEST_MAIN(TestVexoLineEdit)
