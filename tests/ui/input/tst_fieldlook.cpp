@@ -5,12 +5,7 @@
 
 #include <QTest>
 
-#include <functional>
-
 using namespace vexo::hox::qt::ui;
-
-using Change = std::function<void(FieldLook &)>;
-Q_DECLARE_METATYPE(Change)
 
 class TestFieldLook : public TestCase
 {
@@ -25,7 +20,7 @@ private Q_SLOTS:
 namespace {
 
 /// 400 px wide; a text leaves 30 px for a corner, 7 px of margin and 5 px before the cursor.
-FieldLook lookWith(const Change &change)
+FieldLook wideLook()
 {
     FieldLook look;
     look.size = QSize(400, 60);
@@ -33,7 +28,6 @@ FieldLook lookWith(const Change &change)
     look.corner = 30;
     look.indent = 5;
     look.cursor.setWidth(4);
-    change(look);
     return look;
 }
 
@@ -41,33 +35,36 @@ FieldLook lookWith(const Change &change)
 
 void TestFieldLook::textLeavesRoom_data()
 {
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<bool>("has_placeholder"); // 20 px wide
-    QTest::addColumn<bool>("is_from_middle");
-    QTest::addColumn<double>("left");
-    const auto centered = [](FieldLook &look) { look.is_centered = true; };
-    const auto beside_icon = [](FieldLook &look) { look.icon_end = 50; };
-    const auto blinking = [](FieldLook &look) { look.is_centered = look.has_cursor = true; };
-    const auto moved = [](FieldLook &look) { look.offset = 3; };
-    QTest::newRow("plain") << Change([](FieldLook &) {}) << true << false << 37.0;
-    QTest::newRow("offset") << Change(moved) << false << false << 40.0;
-    QTest::newRow("icon") << Change(beside_icon) << false << false << 50.0;
-    QTest::newRow("centred") << Change(centered) << false << true << 200.0;
-    QTest::newRow("centred with cursor") << Change(blinking) << false << true << 196.0;
-    QTest::newRow("centred with placeholder") << Change(centered) << true << true << 188.0;
-    QTest::newRow("centred with both") << Change(blinking) << true << true << 184.0;
+    QTest::addColumn<bool>("is_centered");
+    QTest::addColumn<bool>("has_cursor");
+    QTest::addColumn<int>("icon_end"); // px, 0: there is none
+    QTest::addColumn<int>("placeholder"); // px, 0: there is none
+    QTest::addColumn<double>("x"); // of its left edge or its middle
+    QTest::newRow("plain") << false << true << 0 << 20 << 40.0;
+    QTest::newRow("icon") << false << true << 50 << 20 << 53.0;
+    QTest::newRow("centred") << true << false << 50 << 0 << 200.0;
+    QTest::newRow("centred with cursor") << true << true << 0 << 0 << 196.0;
+    QTest::newRow("centred with placeholder") << true << false << 0 << 20 << 188.0;
+    QTest::newRow("centred with both") << true << true << 0 << 20 << 184.0;
 }
 
 void TestFieldLook::textLeavesRoom()
 {
-    QFETCH(Change, change);
-    QFETCH(bool, has_placeholder);
-    QFETCH(bool, is_from_middle);
-    const FieldLook look = lookWith(change);
+    QFETCH(bool, is_centered);
+    QFETCH(bool, has_cursor);
+    QFETCH(int, icon_end);
+    QFETCH(int, placeholder);
+    FieldLook look = wideLook();
+    look.offset = 3;
+    look.is_centered = is_centered;
+    look.has_cursor = has_cursor;
+    if (icon_end > 0)
+        look.icon_end = icon_end;
     TextRun run;
     run.set(QStringLiteral("123"), QFont());
-    const QRectF rect = look.textRect(run, has_placeholder ? std::optional<int>(20) : std::nullopt);
-    QTEST(rect.left() + (is_from_middle ? run.advance() / 2 : 0), "left");
+    const QRectF rect
+        = look.textRect(run, placeholder > 0 ? std::make_optional(placeholder) : std::nullopt);
+    QTEST(rect.left() + (look.is_centered ? run.advance() / 2 : 0), "x");
     QCOMPARE(rect.top(), 11.0);
     QCOMPARE(rect.height(), 38.0);
     QCOMPARE(look.cursorX(rect), int(rect.left()) + run.advance() + 5);
@@ -75,7 +72,7 @@ void TestFieldLook::textLeavesRoom()
 
 void TestFieldLook::tooLongKeepsItsBeginning()
 {
-    const FieldLook look = lookWith([](FieldLook &) {});
+    const FieldLook look = wideLook();
     TextRun run;
     run.set(QString(200, QLatin1Char('W')), QFont());
     QCOMPARE(look.textRect(run, {}).left(), 37.0);

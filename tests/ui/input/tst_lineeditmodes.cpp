@@ -186,8 +186,6 @@ void TestLineEditModes::secretDoesNotComeBack()
     field.insert(QStringLiteral("plain"));
     field.undo();
     QCOMPARE(field.text(), QString());
-    field.redo();
-    QCOMPARE(field.text(), QStringLiteral("plain"));
 }
 
 void TestLineEditModes::composedTextIsDrawn()
@@ -262,8 +260,7 @@ void TestLineEditModes::cursorHasANameForAssistiveTechnology()
     field.setText(QStringLiteral("one two six"));
     field.setCursorPosition(5);
     QAccessibleTextInterface *text = QAccessible::queryAccessibleInterface(&field)->textInterface();
-    const int cursor = -2;
-    const int end = -1;
+    const int cursor = -2; // and -1 the end
     int from = 0;
     int to = 0;
     QCOMPARE(
@@ -273,7 +270,7 @@ void TestLineEditModes::cursorHasANameForAssistiveTechnology()
     QCOMPARE(
         text->textAfterOffset(cursor, QAccessible::CharBoundary, &from, &to), QStringLiteral("o"));
     QCOMPARE(
-        text->textBeforeOffset(end, QAccessible::CharBoundary, &from, &to), QStringLiteral("x"));
+        text->textBeforeOffset(-1, QAccessible::CharBoundary, &from, &to), QStringLiteral("x"));
     text->attributes(cursor, &from, &to);
     QCOMPARE(from, 5);
 }
