@@ -20,7 +20,7 @@ void connectTone(const Sender *sender, Signal pressed,
 inline void ringSoon(VexoFeedbackDelegator *delegator)
 {
     if (delegator)
-        QMetaObject::invokeMethod(delegator, &VexoFeedbackDelegator::tone, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(delegator, "tone", Qt::QueuedConnection);
 }
 
 } // namespace vexo::hox::qt::ui

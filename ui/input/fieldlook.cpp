@@ -14,11 +14,12 @@ Qt::Alignment FieldLook::alignment() const
 QRectF FieldLook::textRect(const TextRun &run, std::optional<int> placeholder_width) const
 {
     const double inset = corner + margin.x();
+    const int middle = size.width() / 2 - run.advance() / 2;
     double left = (icon_end ? *icon_end : inset) + offset;
     if (is_centered) {
         const int behind_cursor = has_cursor ? (cursor.width() + indent) / 2 : 0;
         const int behind_text = placeholder_width ? (indent + *placeholder_width) / 2 : 0;
-        left = size.width() / 2 - run.advance() / 2 - behind_cursor - behind_text;
+        left = middle - behind_cursor - behind_text;
     } else if (run.isTurned()) {
         left = qMin(left, size.width() - inset - run.advance());
     }

@@ -34,8 +34,7 @@ void FieldText::compose(const QInputMethodEvent &event, int cursor)
     m_composed = event.preeditString();
     m_composed_at = cursor;
     m_formats.clear();
-    const QList<QInputMethodEvent::Attribute> attributes = event.attributes();
-    for (const QInputMethodEvent::Attribute &attribute : attributes) {
+    for (const QInputMethodEvent::Attribute &attribute : event.attributes()) {
         const QTextFormat format = qvariant_cast<QTextFormat>(attribute.value);
         if (attribute.type == QInputMethodEvent::TextFormat && format.isCharFormat())
             m_formats += { cursor + attribute.start, attribute.length, format.toCharFormat() };

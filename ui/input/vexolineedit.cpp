@@ -17,6 +17,8 @@
 #include <QMouseEvent>
 #include <QWidgetAction>
 
+#include <utility>
+
 namespace vexo::hox::qt::ui {
 
 VexoLineEdit::VexoLineEdit(QWidget *parent)
@@ -238,7 +240,7 @@ void VexoLineEdit::mouseDoubleClickEvent(QMouseEvent *event)
 // The toolkit calls this one by its name, so it has to be hidden as well.
 QVariant VexoLineEdit::inputMethodQuery(Qt::InputMethodQuery query, QVariant argument) const
 {
-    const QVariant answer = QLineEdit::inputMethodQuery(query, argument);
+    const QVariant answer = QLineEdit::inputMethodQuery(query, std::move(argument));
     return isSecret() ? masked(*this, query, answer) : answer;
 }
 
