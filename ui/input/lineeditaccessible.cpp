@@ -17,6 +17,8 @@ class LineEditAccessible : public QAccessibleWidget,
                            public QAccessibleEditableTextInterface
 {
 public:
+    using Boundary = QAccessible::TextBoundaryType;
+
     explicit LineEditAccessible(VexoLineEdit *field)
         : QAccessibleWidget(field, QAccessible::EditableText)
     {
@@ -27,7 +29,12 @@ public:
     void setText(QAccessible::Text kind, const QString &text) override;
     QAccessible::State state() const override;
 
-    void selection(int index, int *start, int *end) const override;
+    void selection(int index, int *start, int *end) const override
+    {
+        const bool has_selection = index == 0 && field()->hasSelectedText();
+        *start = has_selection ? field()->selectionStart() : 0;
+        *end = has_selection ? field()->selectionEnd() : 0;
+    }
     int selectionCount() const override { return field()->hasSelectedText() ? 1 : 0; }
     void addSelection(int start, int end) override { setSelection(0, start, end); }
     void removeSelection(int) override { field()->deselect(); }
@@ -37,18 +44,34 @@ public:
     }
     int cursorPosition() const override { return field()->cursorPosition(); }
     void setCursorPosition(int position) override { field()->setCursorPosition(position); }
-    QString text(int start, int end) const override;
+    QString text(int start, int end) const override
+    {
+        return isSecret() || start > end ? QString() : field()->text().mid(start, end - start);
+    }
+    QString textBeforeOffset(int offset, Boundary boundary, int *start, int *end) const override
+    {
+        return QAccessibleTextInterface::textBeforeOffset(resolved(offset), boundary, start, end);
+    }
+    QString textAfterOffset(int offset, Boundary boundary, int *start, int *end) const override
+    {
+        return QAccessibleTextInterface::textAfterOffset(resolved(offset), boundary, start, end);
+    }
+    QString textAtOffset(int offset, Boundary boundary, int *start, int *end) const override
+    {
+        return QAccessibleTextInterface::textAtOffset(resolved(offset), boundary, start, end);
+    }
     int characterCount() const override { return field()->text().size(); }
     QRect characterRect(int) const override { return rect(); }
-    QString textBeforeOffset(
-        int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const override;
-    QString textAfterOffset(
-        int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const override;
-    QString textAtOffset(
-        int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const override;
-    int offsetAtPoint(const QPoint &point) const override;
+    int offsetAtPoint(const QPoint &point) const override
+    {
+        return field()->cursorPositionAt(field()->mapFromGlobal(point));
+    }
     void scrollToSubstring(int start, int) override { field()->setCursorPosition(start); }
-    QString attributes(int offset, int *start, int *end) const override;
+    QString attributes(int offset, int *start, int *end) const override
+    {
+        *start = *end = resolved(offset);
+        return QString();
+    }
 
     void deleteText(int start, int end) override { replaceText(start, end, QString()); }
     void insertText(int offset, const QString &text) override { replaceText(offset, offset, text); }
@@ -88,7 +111,7 @@ QString LineEditAccessible::text(QAccessible::Text kind) const
 void LineEditAccessible::setText(QAccessible::Text kind, const QString &text)
 {
     if (kind == QAccessible::Value)
-        replaceText(0, field()->text().size(), text);
+        replaceText(0, characterCount(), text);
     else
         QAccessibleWidget::setText(kind, text);
 }
@@ -103,36 +126,6 @@ QAccessible::State LineEditAccessible::state() const
     return state;
 }
 
-void LineEditAccessible::selection(int index, int *start, int *end) const
-{
-    const bool has_selection = index == 0 && field()->hasSelectedText();
-    *start = has_selection ? field()->selectionStart() : 0;
-    *end = has_selection ? field()->selectionEnd() : 0;
-}
-
-QString LineEditAccessible::text(int start, int end) const
-{
-    return isSecret() || start > end ? QString() : field()->text().mid(start, end - start);
-}
-
-QString LineEditAccessible::textBeforeOffset(
-    int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const
-{
-    return QAccessibleTextInterface::textBeforeOffset(resolved(offset), boundary, start, end);
-}
-
-QString LineEditAccessible::textAfterOffset(
-    int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const
-{
-    return QAccessibleTextInterface::textAfterOffset(resolved(offset), boundary, start, end);
-}
-
-QString LineEditAccessible::textAtOffset(
-    int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const
-{
-    return QAccessibleTextInterface::textAtOffset(resolved(offset), boundary, start, end);
-}
-
 // Two offsets are names: of the end of the text, and of the cursor.
 int LineEditAccessible::resolved(int offset) const
 {
@@ -141,18 +134,6 @@ int LineEditAccessible::resolved(int offset) const
     if (offset == end_name)
         return characterCount();
     return offset == cursor_name ? cursorPosition() : offset;
-}
-
-int LineEditAccessible::offsetAtPoint(const QPoint &point) const
-{
-    return field()->cursorPositionAt(field()->mapFromGlobal(point));
-}
-
-QString LineEditAccessible::attributes(int offset, int *start, int *end) const
-{
-    *start = resolved(offset);
-    *end = *start;
-    return QString();
 }
 
 void LineEditAccessible::replaceText(int start, int end, const QString &text)
