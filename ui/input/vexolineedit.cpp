@@ -3,6 +3,7 @@
 
 #include "ui/buttons/tone_p.h"
 #include "ui/buttons/vexoiconbutton.h"
+#include "ui/foundation/accessible_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/input/cursorblink_p.h"
 #include "ui/input/fieldcontent_p.h"
@@ -30,7 +31,7 @@ VexoLineEdit::VexoLineEdit(QWidget *parent)
     , m_frame(std::make_unique<FieldFrame>())
     , m_content(std::make_unique<FieldContent>())
 {
-    makeLineEditsAccessible();
+    installAccessible<VexoLineEdit, LineEditAccessible>();
     connect(m_cursor_timer, &QTimer::timeout, this, &VexoLineEdit::onCursorTimeout);
     connect(this, &QLineEdit::textChanged, this, [this] {
         if (isSecret())
@@ -162,7 +163,7 @@ void VexoLineEdit::setMmMargin(const QSizeF &mm)
 
 void VexoLineEdit::setPtFontSize(double pt)
 {
-    if (!(pt >= 0)) // NaN too
+    if (!isMeasure(pt))
         return;
     m_pt_font_size = pt;
     setPtSize(m_font, pt);
@@ -212,8 +213,10 @@ void VexoLineEdit::mousePressEvent(QMouseEvent *event)
 {
     if (!event || !Press::begin(this, event))
         return;
-    ringSoon(m_tone_delegator);
+    const QPointer<VexoLineEdit> self(this);
     QLineEdit::mousePressEvent(event);
+    if (self)
+        ringSoon(m_tone_delegator);
 }
 
 void VexoLineEdit::mouseReleaseEvent(QMouseEvent *event)
@@ -233,8 +236,10 @@ void VexoLineEdit::mouseDoubleClickEvent(QMouseEvent *event)
 {
     if (!event || !Press::begin(this, event))
         return;
-    ringSoon(m_tone_delegator);
+    const QPointer<VexoLineEdit> self(this);
     QLineEdit::mouseDoubleClickEvent(event);
+    if (self)
+        ringSoon(m_tone_delegator);
 }
 
 // The toolkit calls this one by its name, so it has to be hidden as well.
@@ -267,7 +272,7 @@ void VexoLineEdit::onShakeAnimationStep()
 
 void VexoLineEdit::takeMeasure(double *member, double mm)
 {
-    if (!(mm >= 0)) // NaN too
+    if (!isMeasure(mm))
         return;
     *member = mm;
     applyMeasures();
