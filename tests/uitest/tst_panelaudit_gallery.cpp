@@ -13,7 +13,6 @@
 
 using namespace auditing;
 using namespace vexo::hox::qt::ui;
-using vexo::hox::qt::uitest::PanelAudit;
 
 namespace {
 
