@@ -7,7 +7,6 @@
 #include "gallery/widgets/busysign.h"
 #include "support/paintcounter.h"
 #include "support/panelscale.h"
-#include "support/testcase.h"
 #include "support/touch.h"
 #include "support/virtualclock.h"
 
@@ -24,16 +23,11 @@
 using namespace vexo::hox::qt::ui;
 
 /// The pages with a camera picture, a busy animation and a running update.
-class TestScreens : public TestCase
+class TestScreens : public VirtualTimeTestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        TestCase::initTestCase();
-        virtualclock::start();
-    }
     void fingerPansTheVideo();
     void doubleTapZooms();
     void playingRepaintsThePictureOnly();

@@ -62,7 +62,7 @@ class TestTexts : public TestCase
 
 private Q_SLOTS:
     void initTestCase();
-    void markupOpensNoFile_data();
+    void markupOpensNoFile_data() { addWalkedClasses(); }
     void markupOpensNoFile();
     void applicationMayAskForMarkup();
     void tooLongTextKeepsItsBeginning_data();
@@ -87,20 +87,12 @@ void TestTexts::initTestCase()
     m_markup = QStringLiteral("Anna <img src='%1'>").arg(file);
 }
 
-void TestTexts::markupOpensNoFile_data()
-{
-    QTest::addColumn<int>("index");
-    const auto &classes = walkedClasses();
-    for (size_t i = 0; i < classes.size(); ++i)
-        QTest::newRow(classes[i].name) << int(i);
-}
-
 // Also of the parts that an application finds by their names.
 void TestTexts::markupOpensNoFile()
 {
-    QFETCH(int, index);
+    QFETCH(const WalkedClass *, walked);
     QWidget window;
-    QWidget *widget = walkedClasses()[size_t(index)].make(&window);
+    QWidget *widget = walked->make(&window);
     if (auto *row = qobject_cast<VexoFunctionButton *>(widget))
         row->setButtonType(VexoFunctionButton::ActionType);
     if (auto *decoration = qobject_cast<VexoSliderDecoration *>(widget))

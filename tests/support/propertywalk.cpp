@@ -41,6 +41,7 @@
 #include <QPointF>
 #include <QSizeF>
 #include <QStringListModel>
+#include <QTest>
 #include <QVariant>
 
 using namespace vexo::hox::qt::ui;
@@ -113,6 +114,13 @@ const std::vector<WalkedClass> &walkedClasses()
         { "VideoCapturePanning", make<VideoCapturePanning> },
     };
     return classes;
+}
+
+void addWalkedClasses()
+{
+    QTest::addColumn<const WalkedClass *>("walked");
+    for (const WalkedClass &walked : walkedClasses())
+        QTest::newRow(walked.name) << &walked;
 }
 
 namespace {

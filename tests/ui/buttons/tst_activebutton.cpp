@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "support/colorbutton.h"
-#include "support/testcase.h"
 #include "support/virtualclock.h"
 
 #include <ActiveButton>
@@ -91,16 +90,11 @@ public:
 
 } // namespace
 
-class TestActiveButton : public TestCase
+class TestActiveButton : public VirtualTimeTestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        TestCase::initTestCase();
-        virtualclock::start();
-    }
     void generatedIconInvertsColoursAndKeepsAlpha();
     void hooksAreCalledThroughTheVirtualTable();
     void toggleIsReportedOnce_data();

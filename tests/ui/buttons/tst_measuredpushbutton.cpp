@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "support/testcase.h"
 #include "support/virtualclock.h"
 
 #include <MeasuredPushButton>
@@ -83,7 +82,7 @@ void runLoop(int count, int interval_ms)
 
 } // namespace
 
-class TestMeasuredPushButton : public TestCase
+class TestMeasuredPushButton : public VirtualTimeTestCase
 {
     Q_OBJECT
 
@@ -91,16 +90,10 @@ public Q_SLOTS:
     void countPulse() { ++m_pulses; }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        TestCase::initTestCase();
-        virtualclock::start();
-    }
     void init();
     void shortPressIsReportedAfterTheClick();
     void longPressIsReportedWhileHeldAndAtTheRelease();
     void releaseOffTheButtonIsMeasuredToo();
-    void otherMouseButtonsAreNotMeasured();
     void hookReceivesTheDurationInsteadOfTheSignal();
     void pulsesWhileHeld();
     void pulseConnectionsAddUp();
@@ -109,10 +102,7 @@ private Q_SLOTS:
     void endedPressIsSilent_data();
     void endedPressIsSilent();
     void dialogInASlotReportsNoLongPress();
-    void mayBeDeletedInItsSignals_data();
-    void mayBeDeletedInItsSignals();
     void ringsTheDelegatorOfItsConstruction();
-    void buddiesFollowTheButton();
 
 private:
     int m_pulses = 0;
@@ -163,19 +153,6 @@ void TestMeasuredPushButton::releaseOffTheButtonIsMeasuredToo()
     QApplication::sendEvent(&button, &away);
     QTest::mouseRelease(&button, Qt::LeftButton, {}, QPoint(150, 25));
     QCOMPARE(log.text(), QByteArray("pressed; released; delayed; short"));
-}
-
-void TestMeasuredPushButton::otherMouseButtonsAreNotMeasured()
-{
-    MeasuredPushButton button;
-    const Log log(&button);
-    QTest::mouseClick(&button, Qt::RightButton);
-    QCOMPARE(log.text(), QByteArray());
-    press(&button);
-    QTest::mouseClick(&button, Qt::RightButton); // ends the press
-    QVERIFY(!button.isDown());
-    release(&button);
-    QCOMPARE(log.text(), QByteArray("pressed"));
 }
 
 void TestMeasuredPushButton::hookReceivesTheDurationInsteadOfTheSignal()
@@ -309,52 +286,6 @@ void TestMeasuredPushButton::dialogInASlotReportsNoLongPress()
     QCOMPARE(log.text(), QByteArray("pressed; released; clicked; delayed; short"));
 }
 
-void TestMeasuredPushButton::mayBeDeletedInItsSignals_data()
-{
-    QTest::addColumn<QByteArray>("signal");
-    QTest::addColumn<bool>("held");
-    QTest::newRow("pressed") << QByteArray(SIGNAL(pressed())) << false;
-    QTest::newRow("released") << QByteArray(SIGNAL(released())) << false;
-    QTest::newRow("clicked") << QByteArray(SIGNAL(clicked())) << false;
-    QTest::newRow("pressedDelayed") << QByteArray(SIGNAL(pressedDelayed(uint))) << false;
-    QTest::newRow("short") << QByteArray(SIGNAL(keyPressHandling(uint, bool, bool))) << false;
-    QTest::newRow("long") << QByteArray(SIGNAL(keyPressHandling(uint, bool, bool))) << true;
-}
-
-/// Deletes its button at once.
-class Killer : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit Killer(QWidget *victim)
-        : m_victim(victim)
-    {
-    }
-    bool isDone() const { return !m_victim; }
-
-public Q_SLOTS:
-    void kill() { delete m_victim; }
-
-private:
-    QPointer<QWidget> m_victim;
-};
-
-void TestMeasuredPushButton::mayBeDeletedInItsSignals()
-{
-    QFETCH(QByteArray, signal);
-    QFETCH(bool, held);
-    const QPointer<MeasuredPushButton> button = new MeasuredPushButton;
-    Killer killer(button);
-    connect(button, signal, &killer, SLOT(kill()));
-    press(button);
-    if (held)
-        runLoop(1, 310);
-    if (button)
-        release(button);
-    QVERIFY(killer.isDone());
-}
-
 void TestMeasuredPushButton::ringsTheDelegatorOfItsConstruction()
 {
     MeasuredPushButton silent;
@@ -375,26 +306,6 @@ void TestMeasuredPushButton::ringsTheDelegatorOfItsConstruction()
     VexoFeedbackDelegator::tone_delegator = installed.get();
     installed.reset();
     QVERIFY(!VexoFeedbackDelegator::tone_delegator);
-}
-
-void TestMeasuredPushButton::buddiesFollowTheButton()
-{
-    QWidget window;
-    MeasuredPushButton button(&window);
-    auto *label = new QWidget(&window);
-    button.addVisibleBuddy(label);
-    QVERIFY(label->testAttribute(Qt::WA_WState_ExplicitShowHide) == false);
-    button.hide();
-    QVERIFY(label->isHidden());
-    button.show();
-    QVERIFY(!label->isHidden());
-    delete label;
-    button.hide();
-    QWidget other(&window);
-    button.addVisibleBuddy(&other);
-    button.clearVisibleBuddies();
-    button.show();
-    QVERIFY(!other.testAttribute(Qt::WA_WState_ExplicitShowHide));
 }
 
 QTEST_MAIN(TestMeasuredPushButton)

@@ -2,12 +2,19 @@
 #include "support/testcase.h"
 #include "ui/foundation/visiblebuddies_p.h"
 
+#include <MeasuredPushButton>
+#include <VexoFunctionButton>
+#include <VexoLabel>
+#include <VexoLabeledContainer>
+#include <VexoPushButton>
+
+#include <QPointer>
 #include <QTest>
 
 #include <functional>
 #include <memory>
 
-using vexo::hox::qt::ui::VisibleBuddies;
+using namespace vexo::hox::qt::ui;
 
 /// Calls back on each setVisible() and keeps the order of the calls.
 class Buddy : public QWidget
@@ -34,6 +41,50 @@ private:
     const QString m_name;
 };
 
+/// Deletes a widget at the last that it hears of being hidden, still in setVisible().
+class Deleter : public QObject
+{
+public:
+    explicit Deleter(QWidget *widget) { widget->installEventFilter(this); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::HideToParent)
+            return false;
+        delete watched;
+        return true;
+    }
+};
+
+/// Whether a buddy is seen (+) or hidden (-): added, the owner shown, hidden, shown; no buddy any
+/// more, the owner hidden; one again, the owner deleted while it is hidden.
+template <typename Owner>
+QByteArray storyOfABuddy()
+{
+    QWidget window;
+    const QPointer<Owner> owner = new Owner(&window);
+    QWidget buddy(&window);
+    QByteArray story;
+    const auto note = [&] { story += buddy.isVisible() ? '+' : '-'; };
+    window.show();
+    owner->addVisibleBuddy(nullptr);
+    owner->addVisibleBuddy(&buddy);
+    note();
+    for (const bool is_shown : { true, false, true }) {
+        owner->setVisible(is_shown);
+        note();
+    }
+    owner->clearVisibleBuddies();
+    owner->hide();
+    note();
+    owner->addVisibleBuddy(&buddy);
+    owner->show();
+    const Deleter deleter(owner);
+    owner->hide();
+    note();
+    return owner ? "still there" : story;
+}
+
 class TestVisibleBuddies : public TestCase
 {
     Q_OBJECT
@@ -43,6 +94,7 @@ private Q_SLOTS:
     void listMayChangeDuringARound();
     void ownerMayGoDuringARound();
     void mutualBuddiesMakeOneRound();
+    void followEachOwner();
 };
 
 void TestVisibleBuddies::followsInTheOrderOfAdding()
@@ -119,6 +171,19 @@ void TestVisibleBuddies::mutualBuddiesMakeOneRound()
     QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("l+ r+ l+"));
     left.setVisible(false);
     QVERIFY(left.isHidden() && right.isHidden());
+}
+
+void TestVisibleBuddies::followEachOwner()
+{
+    QCOMPARE(storyOfABuddy<MeasuredPushButton>(), QByteArray("++-+++"));
+    QCOMPARE(storyOfABuddy<VexoPushButton>(), QByteArray("++-+++"));
+    // These hide it when it is added.
+    QCOMPARE(storyOfABuddy<VexoFunctionButton>(), QByteArray("-+-+++"));
+    QCOMPARE(storyOfABuddy<VexoLabel>(), QByteArray("-+-+++"));
+    QCOMPARE(storyOfABuddy<VexoLabeledContainer>(), QByteArray("-+-+++"));
+    QWidget buddy;
+    QCOMPARE(VexoLabel().addVisibleBuddy(&buddy), &buddy);
+    QCOMPARE(VexoLabeledContainer().addVisibleBuddy(&buddy), &buddy);
 }
 
 QTEST_MAIN(TestVisibleBuddies)

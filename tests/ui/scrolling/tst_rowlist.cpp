@@ -2,7 +2,6 @@
 #include "support/listscreen.h"
 #include "support/paintcounter.h"
 #include "support/rowmodel.h"
-#include "support/testcase.h"
 #include "support/virtualclock.h"
 
 #include <VexoHorizontalTextIconButton>
@@ -28,16 +27,11 @@ using ModelChange = std::function<void(RowModel &)>;
 
 Q_DECLARE_METATYPE(ModelChange)
 
-class TestRowList : public TestCase
+class TestRowList : public VirtualTimeTestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        TestCase::initTestCase();
-        virtualclock::start();
-    }
     void makesFewWidgets_data();
     void makesFewWidgets();
     void scrollStepPaintsOnlyWhatComes_data();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/listscreen.h"
 #include "support/rowmodel.h"
-#include "support/testcase.h"
 #include "support/touchscreen.h"
 
 #include <VexoRuler>
@@ -29,16 +28,11 @@ using Slot = std::function<void(ListScreen &, std::unique_ptr<RowModel> &)>;
 Q_DECLARE_METATYPE(Slot)
 
 /// Fingers, keys and assistive technology on a RowList.
-class TestRowListInput : public TestCase
+class TestRowListInput : public VirtualTimeTestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        TestCase::initTestCase();
-        virtualclock::start();
-    }
     void flickGoesOnWhileRowsCome();
     void tapWritesTheModel_data();
     void tapWritesTheModel();

@@ -2,7 +2,6 @@
 #include "support/onscreen.h"
 #include "support/paintcounter.h"
 #include "support/panelscale.h"
-#include "support/testcase.h"
 #include "support/virtualclock.h"
 
 #include <VexoFunctionButton>
@@ -176,16 +175,11 @@ bool comesToRest(List &list)
 
 Q_DECLARE_METATYPE(std::function<void(RowList &)>)
 
-class TestVexoVerticalScrollArea : public TestCase
+class TestVexoVerticalScrollArea : public VirtualTimeTestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        TestCase::initTestCase();
-        virtualclock::start();
-    }
     void tellsATapFromAScroll_data();
     void tellsATapFromAScroll();
     void slidersDoNotStopASwipe_data();

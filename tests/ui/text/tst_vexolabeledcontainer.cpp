@@ -44,7 +44,6 @@ private Q_SLOTS:
     void wrapsALabel();
     void swapsAndRemoves();
     void namesItsPayload();
-    void buddiesFollow();
 };
 
 void TestVexoLabeledContainer::isMeasuredInMillimetres()
@@ -163,23 +162,6 @@ void TestVexoLabeledContainer::namesItsPayload()
     container.swapWidget(&first, &button);
     QCOMPARE(first.accessibleName() + button.accessibleName(), QString());
     container.removeWidget();
-}
-
-void TestVexoLabeledContainer::buddiesFollow()
-{
-    QWidget window;
-    VexoLabeledContainer container(&window);
-    QWidget buddy(&window);
-    window.show();
-    QCOMPARE(container.addVisibleBuddy(&buddy), &buddy);
-    QCOMPARE(container.addVisibleBuddy(nullptr), nullptr);
-    container.show();
-    QVERIFY(buddy.isVisible());
-    container.hide();
-    QVERIFY(buddy.isHidden());
-    container.clearVisibleBuddies();
-    container.show();
-    QVERIFY(buddy.isHidden());
 }
 
 QTEST_MAIN(TestVexoLabeledContainer)

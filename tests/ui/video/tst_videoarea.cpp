@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "support/panelscale.h"
-#include "support/testcase.h"
 #include "support/virtualclock.h"
 
 #include <VideoArea>
@@ -16,16 +15,11 @@
 using namespace vexo::hox::qt::ui;
 
 /// VideoArea and VideoCapturePanning.
-class TestVideoArea : public TestCase
+class TestVideoArea : public VirtualTimeTestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        TestCase::initTestCase();
-        virtualclock::start();
-    }
     void tellsWhatIsVisible_data();
     void tellsWhatIsVisible();
     void tellsEachMoveAndResize();
