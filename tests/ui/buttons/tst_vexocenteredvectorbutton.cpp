@@ -24,12 +24,12 @@ private Q_SLOTS:
     void negativeIconSizeChangesNothing();
 
 private:
+    const PanelScale m_scale{ 10, 20 };
     IconFiles m_files;
 };
 
 void TestVexoCenteredVectorButton::measuresPlaceTheIcon()
 {
-    const PanelScale scale(10, 20);
     VexoCenteredVectorButton tile;
     const auto icon = [&] { return boxOf(tile.grab().toImage(), Qt::magenta); };
     tile.setIconPath(m_files.svg(Qt::red));
@@ -57,7 +57,6 @@ void TestVexoCenteredVectorButton::measuresPlaceTheIcon()
 
 void TestVexoCenteredVectorButton::fontsKeepTheirWeights()
 {
-    const PanelScale scale(10, 20);
     VexoCenteredVectorButton tile;
     tile.setTextFontSizeInPt(12);
     tile.setText(QStringLiteral("Camera"));

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "support/iconfiles.h"
-#include "support/paintcounter.h"
 #include "support/panelscale.h"
 #include "support/testcase.h"
 
@@ -59,7 +58,6 @@ private Q_SLOTS:
     void darkLook_data();
     void darkLook();
     void cutsLongTextsAtTheEdge();
-    void repaintsOnceForEachProperty();
 
 private:
     IconFiles m_files;
@@ -240,12 +238,6 @@ void TestVexoDesignVectorButton::cutsLongTextsAtTheEdge()
     QVERIFY(words_line.right() > 790 && words_subline.right() > 790); // no ellipsis
     QCOMPARE(words_line.bottom(), line.bottom()); // no second line
     QCOMPARE(words_subline.bottom(), subline.bottom());
-}
-
-void TestVexoDesignVectorButton::repaintsOnceForEachProperty()
-{
-    VexoDesignVectorButton tile;
-    QCOMPARE(propertiesWithoutOneRepaint(&tile), QByteArrayList());
 }
 
 QTEST_MAIN(TestVexoDesignVectorButton)

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "support/iconfiles.h"
-#include "support/paintcounter.h"
 #include "support/panelscale.h"
 #include "support/testcase.h"
 
@@ -35,7 +34,9 @@ private Q_SLOTS:
     void columnsFollowThePercents();
     void looksFollowTheState();
     void imageServesStatesWithoutOne();
-    void changeRepaintsOnceOrNot();
+
+private:
+    const PanelScale m_scale{ 10, 20 };
 };
 
 void TestVexoHorizontalTextIconButton::columnsFollowThePercents_data()
@@ -52,7 +53,6 @@ void TestVexoHorizontalTextIconButton::columnsFollowThePercents_data()
 void TestVexoHorizontalTextIconButton::columnsFollowThePercents()
 {
     QFETCH(QVector<double>, given);
-    const PanelScale scale(10, 20);
     const QString text(10000, QLatin1Char('M'));
     QFont font; // a line below the whole text shows where it begins and ends
     font.setUnderline(true);
@@ -81,7 +81,6 @@ void TestVexoHorizontalTextIconButton::columnsFollowThePercents()
 
 void TestVexoHorizontalTextIconButton::looksFollowTheState()
 {
-    const PanelScale scale(10, 20);
     VexoHorizontalTextIconButton row;
     row.resize(400, 200);
     row.setLeftSideText(QStringLiteral("M"));
@@ -111,14 +110,6 @@ void TestVexoHorizontalTextIconButton::imageServesStatesWithoutOne()
     QVERIFY(!inkOf(&row, Qt::green).isEmpty());
     row.setEnabled(false);
     QVERIFY(!inkOf(&row, Qt::red).isEmpty());
-}
-
-void TestVexoHorizontalTextIconButton::changeRepaintsOnceOrNot()
-{
-    VexoHorizontalTextIconButton row;
-    QCOMPARE(propertiesWithoutOneRepaint(&row),
-        (QByteArrayList{
-            "mm_height", "left_side_text_percent_width", "right_side_text_percent_width" }));
 }
 
 QTEST_MAIN(TestVexoHorizontalTextIconButton)

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "support/iconfiles.h"
-#include "support/paintcounter.h"
 #include "support/panelscale.h"
 #include "support/testcase.h"
 
 #include <VexoKeyboardButton>
 
 #include <QApplication>
-#include <QMetaProperty>
 #include <QTest>
 
 using namespace vexo::hox::qt::ui;
@@ -60,7 +58,6 @@ private Q_SLOTS:
     void labelLeavesItsIconSeen();
     void directionIsThatOfTheApplication();
     void heightIsFixed();
-    void changeRepaintsOnceAndShows();
 
 private:
     IconFiles m_files;
@@ -225,31 +222,6 @@ void TestVexoKeyboardButton::heightIsFixed()
     QCOMPARE(key.maximumHeight(), 159);
     key.setHeightInMm(-1);
     QCOMPARE(key.maximumHeight(), 0);
-}
-
-/// Nothing that a paint keeps may outlive a change.
-void TestVexoKeyboardButton::changeRepaintsOnceAndShows()
-{
-    VexoKeyboardButton key;
-    QCOMPARE(
-        propertiesWithoutOneRepaint(&key), QByteArrayList{ "height_in_mm" }); // a height it has
-    const QMetaObject &meta = VexoKeyboardButton::staticMetaObject;
-    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
-        const QMetaProperty property = meta.property(i);
-        VexoKeyboardButton painted;
-        VexoKeyboardButton fresh;
-        for (VexoKeyboardButton *each : { &painted, &fresh }) {
-            dress(each);
-            each->setText(QStringLiteral("H"));
-        }
-        picture(&painted);
-        const QVariant old = property.read(&fresh);
-        const bool is_number = old.userType() == QMetaType::Double;
-        const QVariant value = is_number ? old.toDouble() * 2 : QVariant(QColor(Qt::darkCyan));
-        for (VexoKeyboardButton *each : { &painted, &fresh })
-            QVERIFY(property.write(each, old.userType() == QMetaType::Bool ? false : value));
-        QVERIFY2(picture(&painted) == picture(&fresh), property.name());
-    }
 }
 
 QTEST_MAIN(TestVexoKeyboardButton)

@@ -16,7 +16,6 @@ class TestVexoHorizontalLabelWidget : public TestCase
 private Q_SLOTS:
     void columnsStandSideBySide();
     void colorsAreAStylesheet();
-    void wildNumbersAreHarmless();
 };
 
 void TestVexoHorizontalLabelWidget::columnsStandSideBySide()
@@ -48,19 +47,6 @@ void TestVexoHorizontalLabelWidget::colorsAreAStylesheet()
         label->setStyleSheet(QString());
         row.setTextColor(QColor(1, 2, 3)); // as before, but not on the label
         QVERIFY(!label->styleSheet().isEmpty());
-    }
-}
-
-void TestVexoHorizontalLabelWidget::wildNumbersAreHarmless()
-{
-    for (const double wild : { qQNaN(), qInf(), -1.0 }) {
-        VexoHorizontalLabelWidget row;
-        row.setLeftLabelText(QString(10000, QLatin1Char('x')));
-        row.setMmIndent(wild);
-        row.setLeftLabelMmWidth(wild);
-        row.setMmHeight(wild);
-        row.setPtFontSize(std::numeric_limits<int>::max());
-        row.grab(QRect(0, 0, 40, 40));
     }
 }
 

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "support/paintcounter.h"
 #include "support/panelscale.h"
 #include "support/testcase.h"
 
@@ -20,7 +19,6 @@ private Q_SLOTS:
     void isAsThePainterDrawsIt_data();
     void isAsThePainterDrawsIt();
     void measuresArePhysical();
-    void changeRepaintsOnce();
 };
 
 void TestVexoLabel::isAsThePainterDrawsIt_data()
@@ -79,14 +77,6 @@ void TestVexoLabel::measuresArePhysical()
     label.setMmIndent(2.09);
     QCOMPARE(label.indent(), 20);
     QCOMPARE(label.mmIndent(), double(20.9F / 10.0F));
-}
-
-void TestVexoLabel::changeRepaintsOnce()
-{
-    VexoLabel label;
-    // Font and height are those it has; a new alignment waits for the next paint.
-    QCOMPARE(propertiesWithoutOneRepaint(&label),
-        (QByteArrayList{ "pt_font_size", "height_in_mm", "text_alignment" }));
 }
 
 QTEST_MAIN(TestVexoLabel)

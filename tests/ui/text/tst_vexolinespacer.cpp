@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "support/iconfiles.h"
-#include "support/paintcounter.h"
 #include "support/panelscale.h"
 #include "support/testcase.h"
 
@@ -39,7 +38,6 @@ void TestVexoLineSpacer::drawsBothLinesSideBySide()
     QFETCH(QList<int>, px);
     const PanelScale scale(10, 20);
     VexoLineSpacer spacer;
-    QCOMPARE(propertiesWithoutOneRepaint(&spacer), QByteArrayList());
     spacer.resize(40, 40);
     spacer.setDarkColor(Qt::red);
     spacer.setLightColor(Qt::blue);

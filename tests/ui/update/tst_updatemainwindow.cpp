@@ -19,11 +19,13 @@ class TestUpdateMainWindow : public TestCase
 private Q_SLOTS:
     void isHiddenAndOfPhysicalSize();
     void pageIsCentred();
+
+private:
+    const PanelScale m_scale{ 10, 20 };
 };
 
 void TestUpdateMainWindow::isHiddenAndOfPhysicalSize()
 {
-    const PanelScale scale(10, 20);
     const UpdateMainWindow window(nullptr, 152.0F, 95.09F);
     QVERIFY(window.isHidden());
     QCOMPARE(window.minimumSize(), QSize(1520, 1901));
@@ -38,7 +40,6 @@ void TestUpdateMainWindow::isHiddenAndOfPhysicalSize()
 
 void TestUpdateMainWindow::pageIsCentred()
 {
-    const PanelScale scale(10, 20);
     UpdatePage page;
     const auto *logo = page.findChild<QLabel *>(QStringLiteral("VexoIconLabel"));
     const auto *text = page.findChild<QLabel *>(QStringLiteral("VexoSubTextLabel"));
