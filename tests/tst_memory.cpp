@@ -4,7 +4,6 @@
 
 #include <QFile>
 #include <QRegularExpression>
-#include <QTest>
 #include <VexoLineEdit>
 #include <VexoPushButton>
 

@@ -5,9 +5,6 @@
 #include "support/testcase.h"
 
 #include <QColor>
-#include <QTest>
-
-#include <memory>
 
 /// One sound property of each kind and three faulty ones: shows that the walk finds faults.
 class Sample : public QWidget

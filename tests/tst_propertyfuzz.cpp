@@ -12,7 +12,6 @@
 #include <QPixmap>
 #include <QPointF>
 #include <QRandomGenerator>
-#include <QTest>
 
 #include <limits>
 #include <stdexcept>

@@ -5,10 +5,7 @@
 #include <QIcon>
 #include <QImage>
 #include <QPluginLoader>
-#include <QTest>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
-
-#include <memory>
 
 /// The plugin's entries, one for each widget class.
 class TestDesignerPlugin : public TestCase

@@ -7,8 +7,6 @@
 
 #include <VexoColors>
 
-#include <QLabel>
-#include <QTest>
 #include <QWindow>
 
 #include <cmath>

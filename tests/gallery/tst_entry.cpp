@@ -9,9 +9,6 @@
 #include <VexoIconButton>
 #include <VexoLineEdit>
 
-#include <QLabel>
-#include <QLayout>
-
 using vexo::hox::qt::ui::VexoIconButton;
 using vexo::hox::qt::ui::VexoLineEdit;
 

@@ -2,8 +2,6 @@
 #include "gallery/keys.h"
 #include "support/testcase.h"
 
-#include <QSignalSpy>
-
 class TestKeyboard : public TestCase
 {
     Q_OBJECT

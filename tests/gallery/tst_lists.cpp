@@ -9,9 +9,7 @@
 #include <VexoPushButton>
 #include <VexoRadioButton>
 
-#include <QApplication>
 #include <QPushButton>
-#include <QTest>
 
 using namespace vexo::hox::qt::ui;
 

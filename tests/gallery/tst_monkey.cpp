@@ -9,7 +9,6 @@
 #include <Panel>
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QRandomGenerator>
 #include <QStackedWidget>
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/expose.h"
 #include "gallery/pages/busyanimationpage.h"
-#include "gallery/pages/headlinespage.h"
 #include "gallery/pages/updatewindowpage.h"
 #include "gallery/pages/videopage.h"
 #include "gallery/widgets/busysign.h"
@@ -14,8 +13,6 @@
 #include <VexoColors>
 #include <VideoCapturePanning>
 
-#include <QLabel>
-#include <QLayout>
 #include <QWindow>
 
 #include <unistd.h>
@@ -33,7 +30,6 @@ private Q_SLOTS:
     void playingRepaintsThePictureOnly();
     void signsTurnUntilThePageIsLeft();
     void updateWindowCoversItsWindow();
-    void restingPagesPaintNothing();
 
 private:
     const PanelScale m_scale{ 8, 5 };
@@ -179,26 +175,6 @@ void TestScreens::updateWindowCoversItsWindow()
     touch(window->centralWidget());
     QVERIFY(happensSoon([&] { return !window; }));
     click(page, QStringLiteral("Open")); // and goes with its page
-}
-
-void TestScreens::restingPagesPaintNothing()
-{
-    HeadlinesPage headlines;
-    VideoPage video;
-    BusyAnimationPage busy;
-    UpdateWindowPage update;
-    const QVector<Page *> pages{ &headlines, &video, &busy, &update };
-    for (Page *page : pages)
-        expose(page);
-    PaintCounter paints;
-    paints.take(&update);
-    for (Page *page : pages) {
-        const auto children = page->findChildren<QWidget *>();
-        for (QWidget *child : children)
-            paints.watch(child);
-    }
-    virtualclock::pass(600); // longer than the longest step
-    QCOMPARE(paints.painted(), 0);
 }
 
 QTEST_MAIN(TestScreens)

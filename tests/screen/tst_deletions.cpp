@@ -13,7 +13,6 @@
 #include <QAction>
 #include <QMetaProperty>
 #include <QPointer>
-#include <QSignalSpy>
 
 using namespace vexo::hox::qt::ui;
 

@@ -8,12 +8,9 @@
 #include "ui/scrolling/vexoverticalscrollarea.h"
 #include "ui/scrolling/vexoverticalscrollcontent.h"
 
-#include <QLayout>
 #include <QPixmapCache>
 #include <QScopeGuard>
 #include <QScrollBar>
-
-#include <functional>
 
 #include <malloc.h>
 

@@ -20,14 +20,8 @@
 #include <VexoPushButton>
 #include <VexoSliderDecoration>
 
-#include <QApplication>
-#include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 #include <QSvgRenderer>
-#include <QTest>
-
-#include <functional>
 
 using namespace vexo::hox::qt::ui;
 

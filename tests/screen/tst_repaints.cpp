@@ -11,7 +11,6 @@
 #include "ui/text/vexoruler.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QScopeGuard>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -122,10 +121,10 @@ QString Crowd::change()
     const int kind = number(8);
     if (kind == 0) {
         const auto move = [this] { m_notice->move(number(260), number(200)); };
-        return makeOne({ { "notice hidden or shown",
-                             [this] { m_notice->setVisible(m_notice->isHidden()); } },
-            { "notice raised", [this] { m_notice->raise(); } }, { "notice moved", move },
-            { "notice moved", move } });
+        return makeOne(
+            { { "notice hidden or shown", [this] { m_notice->setVisible(m_notice->isHidden()); } },
+                { "notice raised", [this] { m_notice->raise(); } }, { "notice moved", move },
+                { "notice moved", move } });
     }
     if (kind < 4 && m_area) {
         // The toolkit moves pixels that are not yet painted anew, also those of its own widgets.
@@ -143,7 +142,8 @@ QString Crowd::change()
     return makeOne({
         { "delete", [=] { m_members.removeOne(member), delete member; } },
         { "hide or show", [=] { member->setVisible(member->isHidden()); } },
-        { "move", [=] { member->move(member->pos() + QPoint(number(21), number(21)) - QPoint(9, 9)); } },
+        { "move",
+            [=] { member->move(member->pos() + QPoint(number(21), number(21)) - QPoint(9, 9)); } },
         { "lay out", [=] { m_content->layout()->activate(); } },
         { "update", [=] { member->update(); } },
         { "enable", [=] { member->setEnabled(!member->isEnabled()); } },
@@ -235,8 +235,7 @@ QString Restyled::change()
         return changeApplication();
     QWidget *member = m_members.at(number(m_members.size()));
     return makeOne({
-        { "sheet of a widget",
-            [=] { member->setStyleSheet(SHEETS.at(number(SHEETS.size()))); } },
+        { "sheet of a widget", [=] { member->setStyleSheet(SHEETS.at(number(SHEETS.size()))); } },
         { "palette of a widget", [=] { member->setPalette(anyPalette()); } },
         { "direction of a widget", [=] { member->setLayoutDirection(anyDirection()); } },
         { "enabled or disabled", [=] { member->setEnabled(!member->isEnabled()); } },

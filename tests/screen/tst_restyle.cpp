@@ -10,17 +10,11 @@
 #include "ui/text/vexolabeledcontainer.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QFile>
-#include <QLabel>
-#include <QPainter>
 #include <QScopeGuard>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QVBoxLayout>
-
-#include <functional>
-#include <memory>
 
 using namespace vexo::hox::qt::ui;
 

@@ -7,16 +7,10 @@
 #include "ui/sliders/vexosliderdecoration.h"
 #include "ui/text/vexolabel.h"
 
-#include <QApplication>
 #include <QBuffer>
 #include <QImage>
-#include <QLabel>
-#include <QPainter>
 #include <QPdfWriter>
 #include <QTemporaryDir>
-#include <QTest>
-
-#include <functional>
 
 using namespace vexo::hox::qt::ui;
 

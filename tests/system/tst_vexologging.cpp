@@ -4,7 +4,6 @@
 #include <VexoLogging>
 
 #include <QLoggingCategory>
-#include <QTest>
 #include <QThread>
 
 #include <thread>

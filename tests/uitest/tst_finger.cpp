@@ -12,11 +12,9 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QSignalSpy>
 #include <QVBoxLayout>
 
 #include <cmath>
-#include <functional>
 
 using namespace vexo::hox::qt::ui;
 using vexo::hox::qt::uitest::Finger;

@@ -13,13 +13,9 @@
 #include <VexoVerticalScrollArea>
 #include <VexoVerticalScrollContent>
 
-#include <QApplication>
 #include <QRandomGenerator>
 #include <QScrollBar>
 #include <QScroller>
-#include <QSignalSpy>
-
-#include <memory>
 
 using namespace vexo::hox::qt::ui;
 using vexo::hox::qt::uitest::Finger;

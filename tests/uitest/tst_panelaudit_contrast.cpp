@@ -10,11 +10,8 @@
 
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QLabel>
 #include <QListWidget>
-#include <QPainter>
 #include <QRadioButton>
-#include <QSignalSpy>
 #include <QToolButton>
 
 using namespace auditing;

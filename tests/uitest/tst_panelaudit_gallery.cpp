@@ -6,7 +6,6 @@
 
 #include <Panel>
 
-#include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QRegularExpression>

@@ -5,10 +5,7 @@
 #include <VexoLineEdit>
 #include <VexoPushButton>
 
-#include <QApplication>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPointer>
 #include <QTimer>
 

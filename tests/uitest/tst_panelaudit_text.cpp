@@ -8,16 +8,11 @@
 #include <VexoPushButton>
 
 #include <QBoxLayout>
-#include <QLabel>
-#include <QPainter>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QSignalSpy>
 #include <QTabBar>
-
-#include <functional>
 
 using namespace auditing;
 using namespace vexo::hox::qt::ui;

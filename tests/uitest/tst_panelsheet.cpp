@@ -5,7 +5,6 @@
 #include <PanelSheet>
 #include <ScalingInfo>
 
-#include <QPainter>
 #include <QTemporaryDir>
 #include <QWidget>
 

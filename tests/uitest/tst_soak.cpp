@@ -5,7 +5,6 @@
 #include <VexoLineEdit>
 
 #include <QFile>
-#include <QLabel>
 #include <QPixmapCache>
 
 using namespace vexo::hox::qt::uitest;

@@ -8,11 +8,6 @@
 #include <QButtonGroup>
 #include <QLoggingCategory>
 #include <QRandomGenerator>
-#include <QSignalSpy>
-#include <QTest>
-
-#include <functional>
-#include <memory>
 
 using namespace vexo::hox::qt::ui;
 

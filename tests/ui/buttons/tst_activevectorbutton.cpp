@@ -8,7 +8,6 @@
 
 #include <QBoxLayout>
 #include <QPointer>
-#include <QTest>
 
 #include <stdexcept>
 

@@ -4,10 +4,6 @@
 
 #include <MeasuredPushButton>
 
-#include <QTest>
-
-#include <memory>
-
 using namespace vexo::hox::qt::ui;
 
 namespace {

@@ -6,10 +6,6 @@
 #include <VexoCenteredVectorButton>
 #include <VexoIconButton>
 
-#include <QLabel>
-#include <QLayout>
-#include <QTest>
-
 #include <stdexcept>
 
 using namespace vexo::hox::qt::ui;

@@ -6,7 +6,6 @@
 #include <VexoDesignVectorButton>
 
 #include <QFontMetrics>
-#include <QTest>
 
 using namespace vexo::hox::qt::ui;
 

@@ -5,8 +5,6 @@
 
 #include <VexoHorizontalTextIconButton>
 
-#include <QTest>
-
 using namespace vexo::hox::qt::ui;
 
 namespace {

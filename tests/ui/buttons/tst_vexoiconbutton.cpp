@@ -9,7 +9,6 @@
 
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTest>
 #include <QVBoxLayout>
 
 #include <array>

@@ -5,9 +5,6 @@
 
 #include <VexoKeyboardButton>
 
-#include <QApplication>
-#include <QTest>
-
 using namespace vexo::hox::qt::ui;
 
 namespace {

@@ -9,9 +9,7 @@
 #include <VexoIconButton>
 #include <VexoNumericButton>
 
-#include <QLabel>
 #include <QMouseEvent>
-#include <QTest>
 #include <QTimer>
 
 #include <limits>

@@ -12,9 +12,6 @@
 #include <QDir>
 #include <QImageWriter>
 #include <QLoggingCategory>
-#include <QTest>
-
-#include <memory>
 
 #include <sys/resource.h>
 #include <sys/stat.h>

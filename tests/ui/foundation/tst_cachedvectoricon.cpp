@@ -8,7 +8,6 @@
 #include <QDir>
 #include <QProcess>
 #include <QResource>
-#include <QTest>
 
 #include <stdexcept>
 

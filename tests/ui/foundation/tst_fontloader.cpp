@@ -4,7 +4,6 @@
 
 #include <FontLoader>
 
-#include <QApplication>
 #include <QDir>
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -13,7 +12,6 @@
 #include <QRawFont>
 #include <QResource>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <algorithm>
 

@@ -15,11 +15,9 @@
 #include <VexoSliderDecoration>
 
 #include <QScreen>
-#include <QSignalSpy>
 #include <QStackedWidget>
 #include <QStyleFactory>
 #include <QStyleOptionSlider>
-#include <QTest>
 
 #include <cmath>
 #include <limits>

@@ -4,8 +4,6 @@
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/pixels_p.h"
 
-#include <QTest>
-
 #include <limits>
 
 using namespace vexo::hox::qt::ui;

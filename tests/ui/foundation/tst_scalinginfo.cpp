@@ -4,8 +4,6 @@
 
 #include <ScalingInfo>
 
-#include <QTest>
-
 #include <limits>
 #include <stdexcept>
 

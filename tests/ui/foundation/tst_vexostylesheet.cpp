@@ -4,10 +4,8 @@
 
 #include <VexoStylesheet>
 
-#include <QApplication>
 #include <QDir>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <sys/stat.h>
 

@@ -9,10 +9,6 @@
 #include <VexoPushButton>
 
 #include <QPointer>
-#include <QTest>
-
-#include <functional>
-#include <memory>
 
 using namespace vexo::hox::qt::ui;
 

@@ -12,8 +12,6 @@
 #include <QStandardItemModel>
 
 #include <climits>
-#include <functional>
-#include <memory>
 
 using namespace vexo::hox::qt::ui;
 

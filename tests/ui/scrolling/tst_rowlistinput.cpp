@@ -11,8 +11,6 @@
 #include <QPushButton>
 #include <QStandardItemModel>
 
-#include <memory>
-
 using namespace vexo::hox::qt::ui;
 
 namespace {

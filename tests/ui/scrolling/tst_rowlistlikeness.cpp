@@ -9,8 +9,6 @@
 #include <VexoStylesheet>
 #include <VexoVerticalScrollContent>
 
-#include <QApplication>
-#include <QLayout>
 #include <QScrollBar>
 
 using namespace vexo::hox::qt::ui;

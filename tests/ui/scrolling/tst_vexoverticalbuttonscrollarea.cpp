@@ -6,9 +6,6 @@
 
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTest>
-
-#include <memory>
 
 using namespace vexo::hox::qt::ui;
 

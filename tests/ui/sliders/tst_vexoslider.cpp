@@ -6,9 +6,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <QAccessible>
-#include <QSignalSpy>
 #include <QStyleOptionSlider>
-#include <QTest>
 
 #include <limits>
 

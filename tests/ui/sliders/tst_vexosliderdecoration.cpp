@@ -8,9 +8,7 @@
 #include <VexoSlider>
 #include <VexoSliderDecoration>
 
-#include <QApplication>
 #include <QGridLayout>
-#include <QLabel>
 
 #include <stdexcept>
 

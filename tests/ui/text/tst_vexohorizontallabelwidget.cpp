@@ -4,9 +4,6 @@
 
 #include <VexoHorizontalLabelWidget>
 
-#include <QLabel>
-#include <QTest>
-
 using namespace vexo::hox::qt::ui;
 
 class TestVexoHorizontalLabelWidget : public TestCase

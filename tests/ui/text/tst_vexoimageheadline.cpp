@@ -5,10 +5,6 @@
 
 #include <VexoImageHeadline>
 
-#include <QLabel>
-#include <QLayout>
-#include <QTest>
-
 #include <stdexcept>
 
 using namespace vexo::hox::qt::ui;

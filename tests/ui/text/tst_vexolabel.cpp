@@ -6,8 +6,6 @@
 #include <VexoLabel>
 
 #include <QAccessible>
-#include <QPainter>
-#include <QTest>
 
 using namespace vexo::hox::qt::ui;
 

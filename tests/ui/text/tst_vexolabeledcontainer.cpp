@@ -7,12 +7,7 @@
 #include <VexoSlider>
 #include <VexoSliderDecoration>
 
-#include <QLabel>
-#include <QLayout>
 #include <QPushButton>
-#include <QTest>
-
-#include <memory>
 
 using namespace vexo::hox::qt::ui;
 

@@ -5,8 +5,6 @@
 
 #include <VexoLineSpacer>
 
-#include <QTest>
-
 using namespace vexo::hox::qt::ui;
 
 class TestVexoLineSpacer : public TestCase

@@ -5,8 +5,6 @@
 
 #include <VexoLogo>
 
-#include <QTest>
-
 #include <sys/stat.h>
 
 #include <thread>

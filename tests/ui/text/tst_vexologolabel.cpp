@@ -5,8 +5,6 @@
 
 #include <VexoLogoLabel>
 
-#include <QTest>
-
 using namespace vexo::hox::qt::ui;
 
 class TestVexoLogoLabel : public TestCase

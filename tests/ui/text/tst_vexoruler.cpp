@@ -4,8 +4,6 @@
 
 #include <VexoRuler>
 
-#include <QTest>
-
 using namespace vexo::hox::qt::ui;
 
 namespace {

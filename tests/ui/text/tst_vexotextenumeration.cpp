@@ -4,9 +4,6 @@
 
 #include <VexoTextEnumeration>
 
-#include <QLabel>
-#include <QTest>
-
 using namespace vexo::hox::qt::ui;
 
 class TestVexoTextEnumeration : public TestCase

@@ -9,7 +9,6 @@
 #include <QAbstractEventDispatcher>
 
 #include <algorithm>
-#include <memory>
 
 using vexo::hox::qt::ui::VexoIconButton;
 using vexo::hox::qt::ui::VexoNumericButton;

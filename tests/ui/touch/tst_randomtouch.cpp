@@ -7,8 +7,6 @@
 #include <QAbstractButton>
 #include <QRandomGenerator>
 
-#include <memory>
-
 using vexo::hox::qt::ui::VexoSlider;
 using vexo::hox::qt::ui::VexoVerticalScrollArea;
 

@@ -5,8 +5,6 @@
 
 #include <RotationPixmap>
 
-#include <QSignalSpy>
-#include <QTest>
 #include <QTimer>
 
 #include <sys/stat.h>

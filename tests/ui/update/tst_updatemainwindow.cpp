@@ -5,10 +5,6 @@
 #include <UpdateMainWindow>
 #include <UpdatePage>
 
-#include <QLabel>
-#include <QLayout>
-#include <QTest>
-
 using namespace vexo::hox::qt::ui;
 
 /// UpdateMainWindow and UpdatePage.

@@ -8,8 +8,6 @@
 #include <QLoggingCategory>
 #include <QPointer>
 #include <QScrollBar>
-#include <QSignalSpy>
-#include <QTest>
 #include <QWindow>
 
 using namespace vexo::hox::qt::ui;
