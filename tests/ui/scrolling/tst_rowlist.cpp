@@ -19,7 +19,7 @@ namespace {
 
 const int row_px = ListScreen::row_px;
 
-using ModelChange = std::function<void(RowModel &)>;
+using ModelChange = void (*)(RowModel &model);
 
 } // namespace
 
@@ -114,27 +114,23 @@ void TestRowList::whatIsSeenStays_data()
 {
     QTest::addColumn<ModelChange>("change");
     QTest::addColumn<QString>("top"); // row 50 is, when nothing has changed
-    const auto row = [](const char *name, const ModelChange &change, int top = 50) {
-        QTest::newRow(name) << change << QStringLiteral("%1").arg(top);
+    const auto row = [](const char *name, int top, ModelChange change) {
+        QTest::newRow(name) << change << QString::number(top);
     };
-    row("rows come above", [](RowModel &model) { model.insert(10, RowModel::entries(7)); });
-    row("rows come just above", [](RowModel &model) { model.insert(50, RowModel::entries(7)); });
-    row("rows come below", [](RowModel &model) { model.insert(51, RowModel::entries(7)); });
-    row("rows above go", [](RowModel &model) { model.remove(10, 7); });
-    row("all rows above go", [](RowModel &model) { model.remove(0, 50); });
-    row("rows below go", [](RowModel &model) { model.remove(52, 40); });
-    row(
-        "it goes", [](RowModel &model) { model.remove(50, 2); }, 52);
-    row(
-        "it goes with rows above", [](RowModel &model) { model.remove(40, 20); }, 60);
-    row("a row moves up past it", [](RowModel &model) { model.move(90, 3); });
-    row("a row moves down past it", [](RowModel &model) { model.move(3, 90); });
-    row(
-        "it moves", [](RowModel &model) { model.move(50, 3); }, 49);
-    row(
-        "all turn round", [](RowModel &model) { model.turnRound(); }, 149);
-    row(
-        "reset", [](RowModel &model) { model.reset({ { QStringLiteral("1") } }); }, 1);
+    row("rows come above", 50, [](RowModel &model) { model.insert(10, RowModel::entries(7)); });
+    row("rows come just above", 50,
+        [](RowModel &model) { model.insert(50, RowModel::entries(7)); });
+    row("rows come below", 50, [](RowModel &model) { model.insert(51, RowModel::entries(7)); });
+    row("rows above go", 50, [](RowModel &model) { model.remove(10, 7); });
+    row("all rows above go", 50, [](RowModel &model) { model.remove(0, 50); });
+    row("rows below go", 50, [](RowModel &model) { model.remove(52, 40); });
+    row("it goes", 52, [](RowModel &model) { model.remove(50, 2); });
+    row("it goes with rows above", 60, [](RowModel &model) { model.remove(40, 20); });
+    row("a row moves up past it", 50, [](RowModel &model) { model.move(90, 3); });
+    row("a row moves down past it", 50, [](RowModel &model) { model.move(3, 90); });
+    row("it moves", 49, [](RowModel &model) { model.move(50, 3); });
+    row("all turn round", 149, [](RowModel &model) { model.turnRound(); });
+    row("reset", 1, [](RowModel &model) { model.reset({ { "1" } }); });
 }
 
 void TestRowList::whatIsSeenStays()
