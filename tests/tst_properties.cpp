@@ -53,10 +53,10 @@ void TestProperties::walkFindsFaults()
 {
     Sample sample;
     const QStringList expected = {
-        QStringLiteral("hidden_in_designer is not designable"),
-        QStringLiteral("deaf does not keep a value written by name"),
-        QStringLiteral("deaf does not take a value from a stylesheet"),
-        QStringLiteral("clamped does not take a value from a stylesheet"),
+        "hidden_in_designer is not designable",
+        "deaf does not keep a value written by name",
+        "deaf does not take a value from a stylesheet",
+        "clamped does not take a value from a stylesheet",
     };
     QCOMPARE(propertyFaults(&sample).join(QLatin1Char('\n')), expected.join(QLatin1Char('\n')));
 }
@@ -112,7 +112,7 @@ void TestProperties::changeShowsAsOnANewOne()
         const QVariant value = otherValue(property, property.read(fresh.get()), 3);
         for (QWidget *widget : { painted.get(), fresh.get() }) {
             for (const char *name : { "text", "subtext" }) // an empty label keeps its size
-                widget->setProperty(name, QStringLiteral("text"));
+                widget->setProperty(name, "text");
             widget->resize(300, 200);
         }
         painted->grab();

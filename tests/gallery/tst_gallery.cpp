@@ -27,7 +27,7 @@ void TestGallery::badArgumentsGetOneLine_data()
     };
     for (const char *panel : { "", "12x", "0x800@160x100", "1280x800@160x-3", "1280x800@0x0",
              "99999x800@160x100", "1280X800@160x100", "1e3x3@1x1" })
-        row(qPrintable(QStringLiteral("--panel ") + QLatin1String(panel)));
+        row(qPrintable("--panel " + QLatin1String(panel)));
     for (const char *arguments :
         { "--panel", "--bogus", "foo", "--page nope", "--shots /proc/x", "--shots /etc/passwd" })
         row(arguments);
@@ -38,16 +38,15 @@ void TestGallery::badArgumentsGetOneLine()
     QFETCH(QStringList, arguments);
     const Finished result = run(QStringLiteral(HOXQ_GALLERY), arguments);
     QCOMPARE(result.exit_code, 2);
-    QVERIFY2(result.output.startsWith(QLatin1String("hoxqgallery: ")), qPrintable(result.output));
+    QVERIFY2(result.output.startsWith("hoxqgallery: "), qPrintable(result.output));
     QCOMPARE(result.output.count(QLatin1Char('\n')), 1);
 }
 
 void TestGallery::everyPageIsRendered()
 {
     const QTemporaryDir dir;
-    const Finished result = run(QStringLiteral(HOXQ_GALLERY),
-        { QStringLiteral("--panel"), QStringLiteral("640x400@160x80"), QStringLiteral("--shots"),
-            dir.path() });
+    const Finished result
+        = run(QStringLiteral(HOXQ_GALLERY), { "--panel", "640x400@160x80", "--shots", dir.path() });
     QVERIFY2(result.exit_code == 0, qPrintable(result.output));
     const QStringList printed = result.output.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     QCOMPARE(printed.size(), pageList().size());

@@ -20,8 +20,8 @@ void TestKeyboard::typesAGreeting()
     connect(&keyboard, &Keyboard::typed, this, [&](const QString &typed) { text += typed; });
     clickKeys(keyboard, QString::fromUtf8("Shift G r ü ß e Space 123 2 0 2 6 ABC DE"));
     QCOMPARE(text, QString::fromUtf8("Grüße 2026"));
-    QVERIFY(findKey(keyboard, QStringLiteral("EN"))); // the language key has led to English
-    clickKeys(keyboard, QStringLiteral("123 @"));
+    QVERIFY(findKey(keyboard, "EN")); // the language key has led to English
+    clickKeys(keyboard, "123 @");
     QVERIFY(text.endsWith(QLatin1Char('@')));
 }
 
@@ -30,7 +30,7 @@ void TestKeyboard::deleteRepeatsWhileHeld()
     Keyboard keyboard;
     keyboard.resize(880, keyboard.height());
     const QSignalSpy deletions(&keyboard, &Keyboard::resetPressed);
-    Keyboard::Key *key = findKey(keyboard, QStringLiteral("Delete"));
+    Keyboard::Key *key = findKey(keyboard, "Delete");
     QTest::mousePress(key, Qt::LeftButton);
     QCOMPARE(deletions.count(), 1);
     QTRY_VERIFY(deletions.count() >= 3);

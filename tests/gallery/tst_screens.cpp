@@ -94,22 +94,22 @@ void TestScreens::fingerPansTheVideo()
     QWidget *viewport = page.findChild<VideoCapturePanning *>()->viewport();
     QCOMPARE(viewport->size(), QSize(512, 180)); // 64 x 36 mm
     QCOMPARE(cornersOf(page), whole_picture);
-    QCOMPARE(valueOf(page, "crop"), QStringLiteral("0, 0, 1280, 720"));
-    click(page, QStringLiteral("Zoom in"));
-    click(page, QStringLiteral("Zoom in"));
-    QCOMPARE(valueOf(page, "crop"), QStringLiteral("320, 180, 640, 360"));
+    QCOMPARE(valueOf(page, "crop"), "0, 0, 1280, 720");
+    click(page, "Zoom in");
+    click(page, "Zoom in");
+    QCOMPARE(valueOf(page, "crop"), "320, 180, 640, 360");
     finger(viewport, QEvent::MouseButtonPress, QPoint(400, 150));
     const Way way{ { 300, 100 }, { 200, 50 }, { 100, 0 }, { 0, -50 } };
     for (const QPoint &at : way)
         finger(viewport, QEvent::MouseMove, at);
     virtualclock::pass(100);
-    QCOMPARE(valueOf(page, "crop"), QStringLiteral("640, 360, 640, 360"));
+    QCOMPARE(valueOf(page, "crop"), "640, 360, 640, 360");
     finger(viewport, QEvent::MouseButtonRelease, QPoint(0, -50));
     QCOMPARE(cornersOf(page).at(2), QColor(VexoColors::C8));
     QVERIFY(!cornersOf(page).contains(VexoColors::C9));
-    click(page, QStringLiteral("Zoom in")); // around the middle
-    QCOMPARE(valueOf(page, "crop"), QStringLiteral("704, 396, 512, 288"));
-    click(page, QStringLiteral("Whole"));
+    click(page, "Zoom in"); // around the middle
+    QCOMPARE(valueOf(page, "crop"), "704, 396, 512, 288");
+    click(page, "Whole");
     QCOMPARE(cornersOf(page), whole_picture);
 }
 
@@ -121,8 +121,8 @@ void TestScreens::doubleTapZooms()
     const QPoint tapped = panning->mapTo(&page, QPoint(100, 50));
     QTest::mouseDClick(page.windowHandle(), Qt::LeftButton, {}, tapped);
     virtualclock::pass(100);
-    QCOMPARE(valueOf(page, "crop"), QStringLiteral("320, 180, 640, 360"));
-    QCOMPARE(valueOf(page, "tap"), QStringLiteral("1"));
+    QCOMPARE(valueOf(page, "crop"), "320, 180, 640, 360");
+    QCOMPARE(valueOf(page, "tap"), "1");
 }
 
 void TestScreens::playingRepaintsThePictureOnly()
@@ -131,7 +131,7 @@ void TestScreens::playingRepaintsThePictureOnly()
     expose(&page);
     PaintCounter paints;
     QWidget *output = page.findChild<VideoCapturePanning *>()->parentWidget();
-    click(page, QStringLiteral("Play"));
+    click(page, "Play");
     paints.take(&page);
     QWidgetList others = page.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     others.removeOne(output);
@@ -144,7 +144,7 @@ void TestScreens::playingRepaintsThePictureOnly()
     for (QWidget *widget : qAsConst(others))
         QCOMPARE(paints.taken(widget), 0);
     page.hide();
-    click(page, QStringLiteral("Play")); // it had stopped
+    click(page, "Play"); // it had stopped
 }
 
 void TestScreens::signsTurnUntilThePageIsLeft()
@@ -155,26 +155,26 @@ void TestScreens::signsTurnUntilThePageIsLeft()
     QVector<QImage> resting;
     for (BusySign *sign : signs)
         resting += sign->grab().toImage();
-    click(page, QStringLiteral("Start"));
+    click(page, "Start");
     for (int i = 0; i < signs.size(); ++i)
         QVERIFY(happensSoon([&] { return signs.at(i)->grab().toImage() != resting.at(i); }));
     page.hide();
     for (int i = 0; i < signs.size(); ++i)
         QCOMPARE(signs.at(i)->grab().toImage(), resting.at(i));
-    click(page, QStringLiteral("Start"));
+    click(page, "Start");
 }
 
 void TestScreens::updateWindowCoversItsWindow()
 {
     UpdateWindowPage page;
     expose(&page);
-    click(page, QStringLiteral("Open"));
+    click(page, "Open");
     const QPointer<UpdateMainWindow> window = page.findChild<UpdateMainWindow *>();
     QVERIFY(QTest::qWaitForWindowExposed(window));
     QCOMPARE(window->geometry(), page.geometry());
     touch(window->centralWidget());
     QVERIFY(happensSoon([&] { return !window; }));
-    click(page, QStringLiteral("Open")); // and goes with its page
+    click(page, "Open"); // and goes with its page
 }
 
 QTEST_MAIN(TestScreens)

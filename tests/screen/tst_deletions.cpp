@@ -39,7 +39,7 @@ QWidgetList partsOf(const QWidget *widget)
 {
     QWidgetList parts;
     for (QWidget *part : widget->findChildren<QWidget *>()) {
-        if (!part->objectName().isEmpty() && !part->objectName().startsWith(QLatin1String("qt_")))
+        if (!part->objectName().isEmpty() && !part->objectName().startsWith("qt_"))
             parts += part;
     }
     return parts;
@@ -102,19 +102,19 @@ void TestDeletions::partThatWentIsNull()
     delete tile.getButtonInstance();
     QCOMPARE(tile.getButtonInstance(), nullptr);
     qDeleteAll(tile.findChildren<QLabel *>());
-    tile.setText(QStringLiteral("gone"));
-    tile.setSubtext(QStringLiteral("gone"));
+    tile.setText("gone");
+    tile.setSubtext("gone");
     QCOMPARE(tile.text() + tile.subtext(), QString());
     VexoFunctionButton row;
     delete row.getLabelInstance();
     QCOMPARE(row.getLabelInstance(), nullptr);
-    row.setText(QStringLiteral("gone"));
+    row.setText("gone");
     QCOMPARE(row.text(), QString());
     VexoHorizontalLabelWidget labels;
     delete labels.leftLabel();
     QCOMPARE(labels.leftLabel(), nullptr);
-    labels.setRightLabelText(QStringLiteral("there"));
-    QCOMPARE(labels.rightLabel()->text(), QStringLiteral("there"));
+    labels.setRightLabelText("there");
+    QCOMPARE(labels.rightLabel()->text(), "there");
 }
 
 void TestDeletions::columnOfAJumpBarMayGo()
@@ -129,8 +129,8 @@ void TestDeletions::columnOfAJumpBarMayGo()
         QCOMPARE(bar.verticalScrollArea() == nullptr, is_area);
         changeAll(&bar);
         bar.setButtonConnection(&bar, [] {});
-        bar.findChild<QAbstractButton *>(QStringLiteral("downButton"))->click();
-        QVERIFY(!bar.findChild<QAbstractButton *>(QStringLiteral("letterButton")));
+        bar.findChild<QAbstractButton *>("downButton")->click();
+        QVERIFY(!bar.findChild<QAbstractButton *>("letterButton"));
     }
 }
 

@@ -18,7 +18,7 @@ using namespace vexo::hox::qt::ui;
 
 namespace {
 
-const QString TEXT = QStringLiteral("Contact %1 with a long name and a longer one");
+const QString TEXT = "Contact %1 with a long name and a longer one";
 
 QWidget *makeRow(int i)
 {

@@ -30,7 +30,7 @@ namespace {
 const QSizeF ICON_MM(2.5, 1.5); // 25 x 30 px
 const QSize ICON_PX(25, 30);
 const QPoint ODD_PLACE(11, 7); // on no whole pixel of a screen at 1.25 and 1.5
-const QString ARROW = QStringLiteral(":/widgetimages/VexoIconGeneralArrowListRight_44px_C3.svg");
+const QString ARROW = ":/widgetimages/VexoIconGeneralArrowListRight_44px_C3.svg";
 const QString DEFAULT = QLatin1String(ActiveButton::DEFAULT_STATE_NAME);
 
 double ratio()
@@ -243,7 +243,7 @@ void TestPixelRatio::imagesAreSharp()
     QFETCH(QSize, px);
     QFETCH(bool, inverse);
     const QImage vector = rendered(stripes(), onScreen(px));
-    Window window(make(m_files.write(QStringLiteral("stripes.svg"), stripes())));
+    Window window(make(m_files.write("stripes.svg", stripes())));
     const QImage wanted
         = (inverse ? inverted(vector) : vector).convertToFormat(QImage::Format_RGB32);
     const QVector<QPoint> places = placesOf(wanted, window.picture());
@@ -261,7 +261,7 @@ void TestPixelRatio::bitmapsShowThePixelsTheyHave_data()
 void TestPixelRatio::bitmapsShowThePixelsTheyHave()
 {
     QFETCH(Make, make);
-    const QString file = m_files.path(QStringLiteral("stripes.png"));
+    const QString file = m_files.path("stripes.png");
     const QImage large = rendered(stripes(), QSize(100, 120));
     QVERIFY(large.save(file));
     Window window(make(file));
@@ -283,7 +283,7 @@ void TestPixelRatio::smallBitmapsKeepTheirSize()
     const QRect box = boxOf(window.picture(), Qt::red);
     const int px = qRound(20 * ratio());
     QVERIFY2(qAbs(box.width() - px) <= 1 && qAbs(box.height() - px) <= 1,
-        qPrintable(QStringLiteral("%1 x %2").arg(box.width()).arg(box.height())));
+        qPrintable(QString("%1 x %2").arg(box.width()).arg(box.height())));
 }
 
 void TestPixelRatio::blinkLeavesNoGhost()
@@ -291,12 +291,12 @@ void TestPixelRatio::blinkLeavesNoGhost()
     auto *button = new VexoIconButton;
     button->setMmIconSize(ICON_MM);
     button->addIcon(DEFAULT, m_files.svg(Qt::red));
-    button->addIcon(QStringLiteral("other"), m_files.svg(Qt::green));
+    button->addIcon("other", m_files.svg(Qt::green));
     Window window(button);
     window.widget().resize(500, 300); // the screen tells only its first 500 x 300 pixels
     for (int x = 0; x < 4; ++x) {
         button->move(x, x);
-        button->blink(DEFAULT, QStringLiteral("other"));
+        button->blink(DEFAULT, "other");
         for (int tick = 0; tick < 2; ++tick) {
             settle();
             const QImage shown = shownOnScreen(window.widget());
@@ -324,7 +324,7 @@ void TestPixelRatio::logoIsSharp()
 {
     const PanelScale scale(10, 10);
     const QByteArray svg = stripes().replace("<svg ", "<svg width='25' height='30' ");
-    const QString file = m_files.write(QStringLiteral("logo.svg"), svg);
+    const QString file = m_files.write("logo.svg", svg);
     Window window(new VexoLogoLabel(nullptr, 2.5, 25, 30, QImage::Format_RGB32, file));
     const QRect inside(ODD_PLACE + QPoint(2, 5), QSize(20, 1));
     const QRect stripes_px(inside.topLeft() * ratio(), QSize(int(20 * ratio()), 1));
@@ -341,7 +341,7 @@ void TestPixelRatio::dotsAreRound()
     field->setTextColor(Qt::black);
     field->setBorderColor(Qt::red);
     field->setBackgroundColor(Qt::white);
-    field->setText(QStringLiteral("1234"));
+    field->setText("1234");
     Window window(field);
     const QImage picture = window.picture();
     const double line_px = 0.176 * 8;

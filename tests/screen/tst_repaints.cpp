@@ -19,19 +19,19 @@ using namespace vexo::hox::qt::ui;
 
 namespace {
 
-const QString DAY = QStringLiteral(":/css/hoxq.qs");
-const QString NIGHT = QStringLiteral(":/css/vexo-AAL.qs");
-const QStringList SHEETS{ QString(), QStringLiteral("* { background: #203040; color: #f0e0d0; }"),
-    QStringLiteral("QLabel { padding: 3px; } QAbstractButton { background: #80c0ff; }"),
-    QStringLiteral("QWidget:disabled { background: red; border: 2px solid blue; }"),
-    QStringLiteral("QWidget { font: bold 15px; } QLabel { qproperty-indent: 9; }") };
+const QString DAY = ":/css/hoxq.qs";
+const QString NIGHT = ":/css/vexo-AAL.qs";
+const QStringList SHEETS{ QString(), "* { background: #203040; color: #f0e0d0; }",
+    "QLabel { padding: 3px; } QAbstractButton { background: #80c0ff; }",
+    "QWidget:disabled { background: red; border: 2px solid blue; }",
+    "QWidget { font: bold 15px; } QLabel { qproperty-indent: 9; }" };
 
 QString wrongOf(QWidget &window)
 {
     settle();
     const QRect wrong = wrongPixels(window);
     return wrong.isEmpty() ? QString()
-                           : QStringLiteral("a repaint differs at %1, %2 of %3 x %4 px")
+                           : QString("a repaint differs at %1, %2 of %3 x %4 px")
                                  .arg(wrong.x())
                                  .arg(wrong.y())
                                  .arg(wrong.width())
@@ -106,7 +106,7 @@ void Crowd::insertMember()
 
 void Crowd::changeText(QWidget *member)
 {
-    const QString text = QStringLiteral("text %1").arg(number(99));
+    const QString text = QString("text %1").arg(number(99));
     if (auto *row = qobject_cast<VexoFunctionButton *>(member))
         row->setText(text);
     else if (auto *label = qobject_cast<VexoLabel *>(member))
@@ -132,11 +132,11 @@ QString Crowd::change()
         QScrollBar *bar = m_area->verticalScrollBar();
         const int most = number(4) == 0 ? 400 : 20; // a jump, or a step
         bar->setValue(bar->value() + number(2 * most + 1) - most);
-        return QStringLiteral("scroll");
+        return "scroll";
     }
     if (m_members.isEmpty() || (m_members.size() < 14 && number(6) == 0)) {
         insertMember();
-        return QStringLiteral("insert");
+        return "insert";
     }
     QWidget *member = m_members.at(number(m_members.size()));
     return makeOne({
@@ -207,9 +207,9 @@ void Restyled::come()
     for (int i = 0; i < 4; ++i) {
         QWidget *member = classes[size_t(number(int(classes.size())))].make(page);
         if (auto *button = qobject_cast<QAbstractButton *>(member))
-            button->setText(QStringLiteral("Button %1").arg(i));
+            button->setText(QString("Button %1").arg(i));
         else if (auto *label = qobject_cast<QLabel *>(member))
-            label->setText(QStringLiteral("Label %1").arg(i));
+            label->setText(QString("Label %1").arg(i));
         member->setWindowFlags(Qt::Widget); // a main window would be one of its own
         column->addWidget(member);
         m_members += member;

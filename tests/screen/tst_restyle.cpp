@@ -20,13 +20,13 @@ using namespace vexo::hox::qt::ui;
 
 namespace {
 
-const QString DAY = QStringLiteral(":/css/hoxq.qs");
-const QString NIGHT = QStringLiteral(":/css/vexo-AAL.qs");
+const QString DAY = ":/css/hoxq.qs";
+const QString NIGHT = ":/css/vexo-AAL.qs";
 
-const QStringList SHEETS{ QStringLiteral("* { background: #203040; color: #f0e0d0; }"),
-    QStringLiteral("QLabel { padding: 3px; } QAbstractButton { background: #80c0ff; }"),
-    QStringLiteral("QWidget:disabled { background: red; border: 2px solid blue; }"),
-    QStringLiteral("QWidget { font: bold 15px; } QLabel { qproperty-indent: 9; }") };
+const QStringList SHEETS{ "* { background: #203040; color: #f0e0d0; }",
+    "QLabel { padding: 3px; } QAbstractButton { background: #80c0ff; }",
+    "QWidget:disabled { background: red; border: 2px solid blue; }",
+    "QWidget { font: bold 15px; } QLabel { qproperty-indent: 9; }" };
 
 QString textOf(const QString &file)
 {
@@ -53,8 +53,8 @@ void fill(QWidget *window, const WalkedClass &walked)
     widget->setWindowFlags(Qt::Widget);
     column->addWidget(widget);
     for (int i = 0; i < 9; ++i)
-        column->addWidget(new QLabel(QStringLiteral("text")));
-    column->itemAt(1)->widget()->setStyleSheet(QStringLiteral("* { border: 3px solid green; }"));
+        column->addWidget(new QLabel("text"));
+    column->itemAt(1)->widget()->setStyleSheet("* { border: 3px solid green; }");
 }
 
 /// Remembers what it hears of its look, and the application's sheet at that time.
@@ -161,8 +161,7 @@ void TestRestyle::paletteReachesPartsOfAWidget()
     QPalette palette;
     palette.setColor(QPalette::WindowText, Qt::red);
     screen.setPalette(palette);
-    const auto *caption
-        = container.findChild<QLabel *>(QStringLiteral("vexoLabeledContainerLabel"));
+    const auto *caption = container.findChild<QLabel *>("vexoLabeledContainerLabel");
     QCOMPARE(caption->palette().color(QPalette::WindowText), QColor(Qt::red));
 }
 
@@ -171,11 +170,11 @@ void TestRestyle::arrowOfARowTakesPaddingFromASheet()
     const ApplicationLook look;
     QWidget screen;
     VexoFunctionButton row(&screen, VexoFunctionButton::ActionType);
-    const auto *arrow = row.findChild<QWidget *>(QStringLiteral("vexoFunctionButtonWidgetRight"));
+    const auto *arrow = row.findChild<QWidget *>("vexoFunctionButtonWidgetRight");
     screen.show();
     settle();
     const QSize bare = arrow->size();
-    qApp->setStyleSheet(QStringLiteral("QLabel { padding: 4px; }"));
+    qApp->setStyleSheet("QLabel { padding: 4px; }");
     settle();
     QCOMPARE(arrow->size(), bare + QSize(8, 8));
     qApp->setStyleSheet(QString());
@@ -186,8 +185,7 @@ void TestRestyle::arrowOfARowTakesPaddingFromASheet()
 void TestRestyle::sheetGivesGroundToWhatPaintsItself()
 {
     const ApplicationLook look;
-    qApp->setStyleSheet(
-        QStringLiteral("QAbstractButton { background: #80c0ff; border-radius: 2px; }"));
+    qApp->setStyleSheet("QAbstractButton { background: #80c0ff; border-radius: 2px; }");
     QWidget screen;
     Painted<VexoIconButton> icon_button(&screen);
     Painted<VexoPushButton> push_button(&screen);
@@ -225,7 +223,7 @@ void TestRestyle::changeLooksAsTheToolkitsOwn()
             };
             const QImage toolkits = picture([&] { qApp->setStyleSheet(after); });
             const QImage ours = picture([&] { setSheet(after); });
-            QVERIFY2(ours == toolkits, qPrintable(before + QStringLiteral(" to ") + after));
+            QVERIFY2(ours == toolkits, qPrintable(before + " to " + after));
         }
     }
 }
@@ -235,7 +233,7 @@ void TestRestyle::changeIsHeardOnceWithTheNewSheet_data()
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("after");
     QTest::newRow("another") << SHEETS.at(0) << SHEETS.at(1);
-    QTest::newRow("one without colours") << SHEETS.at(0) << QStringLiteral("Other { color: red }");
+    QTest::newRow("one without colours") << SHEETS.at(0) << "Other { color: red }";
     QTest::newRow("the same") << SHEETS.at(3) << SHEETS.at(3);
 }
 
@@ -286,16 +284,16 @@ void TestRestyle::changeLeavesClassesTheirFontsAndColours()
 void TestRestyle::changeLeavesAWidgetItsStyle()
 {
     const ApplicationLook look;
-    const std::unique_ptr<QStyle> style(QStyleFactory::create(QStringLiteral("windows")));
+    const std::unique_ptr<QStyle> style(QStyleFactory::create("windows"));
     qApp->setStyleSheet(SHEETS.at(0));
     QWidget screen;
-    QLabel label(QStringLiteral("text"), &screen);
+    QLabel label("text", &screen);
     label.setStyle(style.get());
     for (int i = 0; i < 20; ++i)
         new QLabel(&screen); // most of a screen has the application's
     screen.show();
     settle();
-    setSheet(QStringLiteral("QLabel { padding: 9px; }"));
+    setSheet("QLabel { padding: 9px; }");
     settle();
     QCOMPARE(label.sizeHint().height(), 2 * 9 + label.fontMetrics().height());
 }

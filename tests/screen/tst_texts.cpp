@@ -74,11 +74,11 @@ void TestTexts::initTestCase()
 {
     TestCase::initTestCase();
     QVERIFY(m_folder.isValid());
-    const QString file = m_folder.filePath(QStringLiteral("large.png"));
+    const QString file = m_folder.filePath("large.png");
     QImage image(900, 800, QImage::Format_RGB32);
     image.fill(Qt::red);
     QVERIFY(image.save(file));
-    m_markup = QStringLiteral("Anna <img src='%1'>").arg(file);
+    m_markup = QString("Anna <img src='%1'>").arg(file);
 }
 
 // Also of the parts that an application finds by their names.
@@ -144,7 +144,7 @@ void TestTexts::directionIsThatOfTheText_data()
 void TestTexts::directionIsThatOfTheText()
 {
     QFETCH(Picture, picture);
-    const QString text = QStringLiteral("(1) a.");
+    const QString text = "(1) a.";
     const QImage expected = picture(text);
     QApplication::setLayoutDirection(Qt::RightToLeft);
     const QImage later = picture(text);
@@ -157,9 +157,9 @@ void TestTexts::directionIsThatOfTheText()
 void TestTexts::textsStayTextsInAPdf()
 {
     VexoFunctionButton row;
-    row.setText(QStringLiteral("Night mode"));
+    row.setText("Night mode");
     VexoLabel label;
-    label.setText(QStringLiteral("Brightness"));
+    label.setText("Brightness");
     for (QWidget *widget : QWidgetList{ &row, &label }) {
         widget->resize(400, 80);
         widget->grab();

@@ -57,7 +57,7 @@ QWidget *make(QWidget *parent)
 QWidget *makeRowList(QWidget *parent)
 {
     auto *list = new RowList(parent);
-    const QStringList texts{ QStringLiteral("Row"), QStringLiteral("Another row") };
+    const QStringList texts{ "Row", "Another row" };
     list->setModel(new QStringListModel(texts, list));
     return list;
 }
@@ -125,7 +125,7 @@ void addWalkedClasses()
 
 namespace {
 
-const QString IMAGE = QStringLiteral(":/cb_checked"); // for the stylesheet
+const QString IMAGE = ":/cb_checked"; // for the stylesheet
 
 QVariant otherEnumerator(const QMetaProperty &property, int current)
 {
@@ -153,7 +153,7 @@ QVariant otherValue(const QMetaProperty &property, const QVariant &value, int st
     case QMetaType::Float:
         return value.toFloat() + float(step);
     case QMetaType::QString:
-        return QStringLiteral("text %1").arg(step);
+        return QString("text %1").arg(step);
     case QMetaType::QColor:
         return QColor(10 * step, 20, 30);
     case QMetaType::QSizeF:
@@ -161,7 +161,7 @@ QVariant otherValue(const QMetaProperty &property, const QVariant &value, int st
     case QMetaType::QPointF:
         return value.toPointF() + QPointF(step, step);
     case QMetaType::QPixmap:
-        return QPixmap(step == 3 ? QStringLiteral(":/rb_checked") : IMAGE);
+        return QPixmap(step == 3 ? ":/rb_checked" : IMAGE);
     case QMetaType::QIcon:
         return QIcon(QPixmap(step, step));
     default:
@@ -178,7 +178,7 @@ QString cssText(const QMetaProperty &property, const QVariant &value)
     if (value.userType() == QMetaType::QColor)
         return value.value<QColor>().name();
     if (value.userType() == QMetaType::QPixmap)
-        return QStringLiteral("url(%1)").arg(IMAGE);
+        return QString("url(%1)").arg(IMAGE);
     return QLatin1Char('"') + value.toString() + QLatin1Char('"');
 }
 
@@ -205,8 +205,8 @@ bool takesByStylesheet(const QMetaProperty &property, QWidget *widget)
         if (other.userType() == type)
             return true;
     }
-    widget->setObjectName(QStringLiteral("walked")); // not its children
-    widget->setStyleSheet(QStringLiteral("#walked { qproperty-%1: %2; }")
+    widget->setObjectName("walked"); // not its children
+    widget->setStyleSheet(QString("#walked { qproperty-%1: %2; }")
                               .arg(QLatin1String(property.name()), cssText(property, other)));
     widget->ensurePolished();
     return holds(property, widget, other);
@@ -222,13 +222,13 @@ QStringList propertyFaults(QWidget *widget)
         const QMetaProperty property = meta->property(i);
         const QString name = QLatin1String(property.name());
         if (!takesByName(property, widget))
-            faults += name + QStringLiteral(" does not keep a value written by name");
+            faults += name + " does not keep a value written by name";
         if (!property.isScriptable(widget) || !property.isStored(widget))
-            faults += name + QStringLiteral(" is not scriptable and stored");
+            faults += name + " is not scriptable and stored";
         if (!property.isDesignable(widget)) // also keeps it out of stylesheets
-            faults += name + QStringLiteral(" is not designable");
+            faults += name + " is not designable";
         else if (!takesByStylesheet(property, widget))
-            faults += name + QStringLiteral(" does not take a value from a stylesheet");
+            faults += name + " does not take a value from a stylesheet";
     }
     return faults;
 }

@@ -36,7 +36,7 @@ void TestVexoLogging::writesOneLineOnItsCategory()
     video.Error("no picture");
     nameless.Info("x");
     const QStringList expected = { QString::fromUtf8("info hoxq.B: Grüße %s"),
-        QStringLiteral("critical hoxq.*: no picture"), QStringLiteral("info hoxq.: x") };
+        "critical hoxq.*: no picture", "info hoxq.: x" };
     QCOMPARE(messages.lines(), expected);
 }
 
@@ -48,12 +48,12 @@ void TestVexoLogging::debugIsOffUntilARuleSwitchesItOn()
     QVERIFY(!icon.isDebugging());
     icon.Debug("dropped");
 
-    QLoggingCategory::setFilterRules(QStringLiteral("hoxq.CVI.debug=true"));
+    QLoggingCategory::setFilterRules("hoxq.CVI.debug=true");
     const VexoLogging later("CVI");
     QVERIFY(icon.isDebugging() && later.isDebugging());
     QVERIFY(!button.isDebugging());
     icon.Debug("kept");
-    QCOMPARE(messages.lines(), QStringList(QStringLiteral("debug hoxq.CVI: kept")));
+    QCOMPARE(messages.lines(), QStringList("debug hoxq.CVI: kept"));
 }
 
 /// A second thread asks for a channel while the first one is still at making it.
@@ -74,7 +74,7 @@ void TestVexoLogging::channelIsMadeByOneThread()
     QCOMPARE(made, 1);
     Messages messages;
     first.Info("x");
-    QCOMPARE(messages.lines(), QStringList(QStringLiteral("info hoxq.shared: x")));
+    QCOMPARE(messages.lines(), QStringList("info hoxq.shared: x"));
 }
 
 QTEST_MAIN(TestVexoLogging)

@@ -274,7 +274,7 @@ void TestFinger::survivesItsTargets()
     finger.setBounce(20).setWiggle(1).hold(button, 30);
     QVERIFY(!window);
     finger.tap(button = nullptr);
-    QCOMPARE(finger.lastProblem(), QStringLiteral("there is no target"));
+    QCOMPARE(finger.lastProblem(), "there is no target");
 }
 
 QTEST_MAIN(TestFinger)

@@ -118,7 +118,7 @@ void TestNoisyFinger::tapsAndSlidesAreWhatTheyAre()
             finger.slide(
                 target, QPointF(6, 4), ways_mm[random.bounded(4)], 60 + random.bounded(400));
         virtualclock::pass(60);
-        const QString what = QStringLiteral("touch %1, a %2 of %3 %4 (%5)")
+        const QString what = QString("touch %1, a %2 of %3 %4 (%5)")
                                  .arg(i)
                                  .arg(QLatin1String(is_tap ? "tap" : "slide"),
                                      QLatin1String(target->metaObject()->className()))

@@ -118,13 +118,13 @@ void TestPanelSheet::saysWhatDiffers()
     QImage is = was.copy(QRect(QPoint(), size));
     QPainter(&is).fillRect(change, color);
     const QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("was.png"));
+    const QString file = folder.filePath("was.png");
     QVERIFY(!PanelSheet::compare(file, is).is_accepted);
     QVERIFY(was.save(file));
     const PictureDifference difference = PanelSheet::compare(file, is);
     QCOMPARE(difference.is_accepted, is_accepted);
     QCOMPARE(difference.text, text);
-    QCOMPARE(difference.picture.isNull(), text == QLatin1String("nothing differs"));
+    QCOMPARE(difference.picture.isNull(), text == "nothing differs");
     if (!change.isEmpty() && !difference.picture.isNull()) {
         const QPoint third(10 + 100 + 10 + 100 + 10, 10);
         QCOMPARE(difference.picture.pixelColor(third + change.topLeft()), QColor(Qt::red));

@@ -15,13 +15,13 @@ namespace {
 
 const QString DEFAULT = QLatin1String(ActiveButton::DEFAULT_STATE_NAME);
 const QString CLICKED = QLatin1String(ActiveButton::CLICKED_STATE_NAME);
-const QString A = QStringLiteral("A");
-const QString B = QStringLiteral("B");
-const QString C = QStringLiteral("C");
-const QString RED = QStringLiteral("#ff0000");
-const QString GREEN = QStringLiteral("#00ff00");
-const QString BLUE = QStringLiteral("#0000ff");
-const QString DARK = QStringLiteral("#102030");
+const QString A = "A";
+const QString B = "B";
+const QString C = "C";
+const QString RED = "#ff0000";
+const QString GREEN = "#00ff00";
+const QString BLUE = "#0000ff";
+const QString DARK = "#102030";
 
 using Button = ColorButton<ActiveButton>;
 
@@ -44,39 +44,39 @@ class Hooked : public Button
 public:
     QIcon compute(const QString &file) override
     {
-        calls += QStringLiteral("compute ") + file;
+        calls += "compute " + file;
         return Button::compute(file);
     }
     QIcon generateInverseIcon(const QIcon &icon) override
     {
-        calls += QStringLiteral("invert ") + colorOf(icon);
+        calls += "invert " + colorOf(icon);
         return Button::generateInverseIcon(icon);
     }
     void setState(const QString &state) override
     {
-        calls += QStringLiteral("state ") + state;
+        calls += "state " + state;
         Button::setState(state);
     }
     void createMissingInverseIcons() override
     {
-        calls += QStringLiteral("missing");
+        calls += "missing";
         Button::createMissingInverseIcons();
     }
     void updateStateVisualization(bool checked) override
     {
-        calls += checked ? QStringLiteral("checked") : QStringLiteral("unchecked");
+        calls += checked ? "checked" : "unchecked";
         Button::updateStateVisualization(checked);
     }
     bool inverseState() const override { return is_inverse; }
     void timerEvent() override
     {
-        calls += QStringLiteral("tick");
+        calls += "tick";
         Button::timerEvent();
     }
 
     QString takeCalls()
     {
-        QString text = calls.join(QStringLiteral(", "));
+        QString text = calls.join(", ");
         calls.clear();
         return text;
     }
@@ -125,20 +125,19 @@ void TestActiveButton::hooksAreCalledThroughTheVirtualTable()
     button.setCheckable(true);
     button.addIcon(DEFAULT, RED);
     button.addInverseIcon(DEFAULT, DARK);
-    QCOMPARE(button.takeCalls(), QStringLiteral("compute #ff0000, compute #102030"));
+    QCOMPARE(button.takeCalls(), "compute #ff0000, compute #102030");
     button.addIcon(CLICKED, GREEN);
     button.createMissingInverseIcons();
-    QCOMPARE(button.takeCalls(), QStringLiteral("compute #00ff00, missing, invert #00ff00"));
+    QCOMPARE(button.takeCalls(), "compute #00ff00, missing, invert #00ff00");
     button.setChecked(true);
-    QCOMPARE(button.takeCalls(), QStringLiteral("checked, state CLICKED"));
+    QCOMPARE(button.takeCalls(), "checked, state CLICKED");
     button.removeIcon(CLICKED);
     button.rerenderAll(true);
-    QCOMPARE(button.takeCalls(),
-        QStringLiteral("compute #ff0000, compute #102030, missing, state CLICKED"));
+    QCOMPARE(button.takeCalls(), "compute #ff0000, compute #102030, missing, state CLICKED");
     button.addIcon(A, RED);
     button.is_inverse = true; // asked through inverseState(), not through the flag
     button.blink(DEFAULT, A);
-    QCOMPARE(button.takeCalls(), QStringLiteral("compute #ff0000, tick"));
+    QCOMPARE(button.takeCalls(), "compute #ff0000, tick");
     QCOMPARE(colorOf(button.icon()), DARK);
 }
 
@@ -209,18 +208,17 @@ void TestActiveButton::blinkAlternatesInStep()
 
 void TestActiveButton::blinkNeedsBothIcons()
 {
-    QLoggingCategory::setFilterRules(QStringLiteral("hoxq.B.debug=true"));
+    QLoggingCategory::setFilterRules("hoxq.B.debug=true");
     Button button;
     addStates(&button);
-    button.addInverseIcon(QStringLiteral("Ü"), DARK);
+    button.addInverseIcon("Ü", DARK);
     button.setState(A);
     Messages messages;
-    button.blink(B, QStringLiteral("Ü"));
-    button.oneShot(QStringLiteral("Ü"), B);
+    button.blink(B, "Ü");
+    button.oneShot("Ü", B);
     button.timerEvent();
     QLoggingCategory::setFilterRules(QString());
-    const QStringList expected = { QStringLiteral("debug hoxq.B: Blink B <-> Ü"),
-        QStringLiteral("debug hoxq.B: One shot Ü -> B") };
+    const QStringList expected = { "debug hoxq.B: Blink B <-> Ü", "debug hoxq.B: One shot Ü -> B" };
     QCOMPARE(messages.lines(), expected);
     QCOMPARE(colorOf(button.icon()), RED);
     QCOMPARE(button.currentState(), A);
@@ -249,7 +247,7 @@ void TestActiveButton::lastCallHolds()
 {
     const QStringList states{ A, B, C };
     const QStringList colors{ RED, GREEN, BLUE };
-    const QString inverse_only = QStringLiteral("inverse only");
+    const QString inverse_only = "inverse only";
     QRandomGenerator random(1);
     Button button;
     addStates(&button);
@@ -269,7 +267,7 @@ void TestActiveButton::lastCallHolds()
             button.blink(states.at(last), other);
         else
             button.setState(states.at(last));
-        button.setState(QStringLiteral("unknown"));
+        button.setState("unknown");
         virtualclock::pass(1010); // a one-shot of before does not end
         QCOMPARE(colorOf(button.icon()), is_inverse ? DARK : colors.at(last));
         button.timerEvent();
@@ -292,17 +290,17 @@ void TestActiveButton::isNamedForAssistiveTechnology()
 {
     Button button;
     button.setCheckable(true);
-    button.setToolTip(QStringLiteral("Volume"));
+    button.setToolTip("Volume");
     QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&button);
-    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Volume"));
+    QCOMPARE(interface->text(QAccessible::Name), "Volume");
     QCOMPARE(interface->role(), QAccessible::CheckBox);
     button.setChecked(true);
     QVERIFY(interface->state().checked);
-    button.setToolTip(QStringLiteral("Mute"));
-    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Mute"));
-    button.setAccessibleName(QStringLiteral("Speaker"));
-    button.setToolTip(QStringLiteral("Other"));
-    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Speaker"));
+    button.setToolTip("Mute");
+    QCOMPARE(interface->text(QAccessible::Name), "Mute");
+    button.setAccessibleName("Speaker");
+    button.setToolTip("Other");
+    QCOMPARE(interface->text(QAccessible::Name), "Speaker");
 }
 
 QTEST_MAIN(TestActiveButton)

@@ -55,10 +55,10 @@ void TestVexoCenteredVectorButton::fontsKeepTheirWeights()
 {
     VexoCenteredVectorButton tile;
     tile.setTextFontSizeInPt(12);
-    tile.setText(QStringLiteral("Camera"));
-    tile.setSubtext(QStringLiteral("off"));
-    const auto *text = tile.findChild<QLabel *>(QStringLiteral("textLabel"));
-    const auto *subtext = tile.findChild<QLabel *>(QStringLiteral("subtextLabel"));
+    tile.setText("Camera");
+    tile.setSubtext("off");
+    const auto *text = tile.findChild<QLabel *>("textLabel");
+    const auto *subtext = tile.findChild<QLabel *>("subtextLabel");
     QCOMPARE(text->font().pixelSize(), 84);
     QCOMPARE(text->font().weight(), 57);
     QCOMPARE(subtext->font().pixelSize(), 63); // 9 pt = 63.5 px

@@ -81,7 +81,7 @@ void TestVexoHorizontalTextIconButton::looksFollowTheState()
 {
     VexoHorizontalTextIconButton row;
     row.resize(400, 200);
-    row.setLeftSideText(QStringLiteral("M"));
+    row.setLeftSideText("M");
     const QByteArrayList states{ "default", "clicked", "inactive" };
     const auto color = [](int state, int part) { return QColor(50 * state, 50 * part, 200); };
     for (int i = 0; i < states.size(); ++i) {

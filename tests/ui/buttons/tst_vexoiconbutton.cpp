@@ -107,20 +107,20 @@ void TestVexoIconButton::paintSetsTheStateThatDiffers()
     const PanelScale scale(10, 10);
     Hooked button;
     button.addIcon(DEFAULT, m_files.svg(Qt::red));
-    button.addIcon(QStringLiteral("A"), m_files.svg(Qt::green));
+    button.addIcon("A", m_files.svg(Qt::green));
     button.grab();
     QCOMPARE(button.states, QStringList{ DEFAULT }); // the first time in any case
     button.grab();
     QCOMPARE(button.states.size(), 1);
-    button.setState(QStringLiteral("A"));
+    button.setState("A");
     QVERIFY(!boxOf(button.grab().toImage(), Qt::green).isEmpty()); // what was shown as it began
-    QCOMPARE(button.states, (QStringList{ DEFAULT, QStringLiteral("A"), DEFAULT }));
+    QCOMPARE(button.states, (QStringList{ DEFAULT, "A", DEFAULT }));
     QVERIFY(!boxOf(button.grab().toImage(), Qt::red).isEmpty());
 }
 
 void TestVexoIconButton::paintsSettle()
 {
-    for (const QString &pressed_state : { CLICKED, QStringLiteral("other") }) {
+    for (const QString &pressed_state : { CLICKED, QString("other") }) {
         VexoIconButton button;
         PaintCounter paints;
         paints.watch(&button);

@@ -99,7 +99,7 @@ void TestVexoKeyboardButton::lookFollowsNameAndState()
     QCOMPARE(boxOf(image, icon), QRect(77, 32, 47, 94)); // 94 px high, as wide in mm
     key.removeIcons();
     key.setIcon(QIcon());
-    key.setText(QStringLiteral("H"));
+    key.setText("H");
     image = picture(&key);
     const QRect letter = boxOf(image, label);
     QVERIFY(qAbs(letter.height() - 66) <= 4); // of 91 px
@@ -186,7 +186,7 @@ void TestVexoKeyboardButton::labelLeavesItsIconSeen()
     key.addIcon(DEFAULT, m_files.svg(Qt::blue));
     const QRect icon = boxOf(picture(&key), Qt::blue);
     QVERIFY(!icon.isEmpty());
-    key.setText(QStringLiteral("i"));
+    key.setText("i");
     QVERIFY(!boxOf(picture(&key), INK).isEmpty());
     QVERIFY(boxOf(picture(&key).copy(icon), SPECIAL).isEmpty()); // no ground on it
 }
@@ -196,7 +196,7 @@ void TestVexoKeyboardButton::directionIsThatOfTheApplication()
 {
     const auto made = [](VexoKeyboardButton *key) {
         dress(key);
-        key->setText(QStringLiteral("(a) b."));
+        key->setText("(a) b.");
         return picture(key);
     };
     VexoKeyboardButton before;

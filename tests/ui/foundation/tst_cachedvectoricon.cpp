@@ -35,13 +35,13 @@ QByteArray svgOfTwoHalves(const QByteArray &left)
 QString change(CachedVectorIcon *icon, const QString &by, const QSizeF &size)
 {
     try {
-        if (by == QLatin1String("width"))
+        if (by == "width")
             icon->setMmWidth(float(size.width()));
-        else if (by == QLatin1String("height"))
+        else if (by == "height")
             icon->setMmHeight(float(size.height()));
-        else if (by == QLatin1String("px"))
+        else if (by == "px")
             icon->setPxSize(size.toSize());
-        else if (by == QLatin1String("file"))
+        else if (by == "file")
             icon->setFilenameOfImageToCache(icon->filename(), size);
         else
             icon->setMmSize(size);
@@ -88,8 +88,8 @@ private Q_SLOTS:
 private:
     const PanelScale m_scale{ 5, 20 };
     IconFiles m_files;
-    const QString m_svg = m_files.write(QStringLiteral("halves.svg"), svgOfTwoHalves("red"), 3600);
-    const QString m_png = m_files.path(QStringLiteral("halves.png"));
+    const QString m_svg = m_files.write("halves.svg", svgOfTwoHalves("red"), 3600);
+    const QString m_png = m_files.path("halves.png");
 };
 
 void TestCachedVectorIcon::rendersAtItsSize_data()
@@ -97,7 +97,7 @@ void TestCachedVectorIcon::rendersAtItsSize_data()
     QImage halves(2, 1, QImage::Format_RGB32);
     halves.setPixelColor(0, 0, Qt::red);
     halves.setPixelColor(1, 0, Qt::blue);
-    const QString png_as_svg = m_files.path(QStringLiteral("bitmap.svg"));
+    const QString png_as_svg = m_files.path("bitmap.svg");
     for (const QString &file : { m_png, png_as_svg })
         QVERIFY(halves.scaled(40, 20).save(file, "PNG"));
     QTest::addColumn<QString>("file");
@@ -169,9 +169,9 @@ void TestCachedVectorIcon::rendersOnlyWhatChanged()
     CachedVectorIcon icon(m_svg, QSizeF(10, 5));
     const qint64 key = icon.cacheKey();
     const QString refusal = change(&icon, by, size);
-    QCOMPARE(refusal, outcome.startsWith(QLatin1String("Negative")) ? outcome : QString());
-    QCOMPARE(icon.mustRelayout(), outcome == QLatin1String("waiting"));
-    const bool is_rendered = outcome == QLatin1String("rendered");
+    QCOMPARE(refusal, outcome.startsWith("Negative") ? outcome : QString());
+    QCOMPARE(icon.mustRelayout(), outcome == "waiting");
+    const bool is_rendered = outcome == "rendered";
     QCOMPARE(icon.cacheKey() != key, is_rendered);
     QCOMPARE(QSizeF(icon.pxWidth(), icon.pxHeight()) != QSizeF(50, 100), is_rendered);
     QTEST(mmOf(icon), "mm");
@@ -197,11 +197,11 @@ void TestCachedVectorIcon::derivedWidthStaysWhenTheHeightChanges()
 void TestCachedVectorIcon::newFileIsShownOnceItCanBeRead()
 {
     CachedVectorIcon icon(m_svg, QSizeF(10, 5));
-    icon.setFilenameOfImageToCache(m_files.path(QStringLiteral("late.svg")));
+    icon.setFilenameOfImageToCache(m_files.path("late.svg"));
     icon.updateSizeCalculations();
     QVERIFY(icon.mustRelayout());
     QCOMPARE(leftOf(&icon), QColor(Qt::red));
-    m_files.write(QStringLiteral("late.svg"), svgOfTwoHalves("lime"));
+    m_files.write("late.svg", svgOfTwoHalves("lime"));
     icon.updateSizeCalculations();
     QCOMPARE(leftOf(&icon), QColor(Qt::green));
     QCOMPARE(icon.availableSizes(), QList<QSize>({ QSize(50, 100) }));
@@ -224,7 +224,7 @@ void TestCachedVectorIcon::newScaleIsUsedOnlyWhenLaidOutAgain()
 
 void TestCachedVectorIcon::copySharesRenderingsAndIsLaidOutAgain()
 {
-    const QString file = m_files.write(QStringLiteral("passing.svg"), svgOfTwoHalves("red"));
+    const QString file = m_files.write("passing.svg", svgOfTwoHalves("red"));
     CachedVectorIcon icon(file, QSizeF(10, 5));
     {
         const PanelScale scale(10, 30);
@@ -253,7 +253,7 @@ void TestCachedVectorIcon::assignmentTakesFileAndSizeOnly()
 
 void TestCachedVectorIcon::iconsOfOneFileAndSizeShareTheRendering()
 {
-    for (const QString &file : { m_svg, QStringLiteral(":/cb_checked") }) {
+    for (const QString &file : { m_svg, QString(":/cb_checked") }) {
         CachedVectorIcon first(file, QSizeF(10, 5));
         CachedVectorIcon second(file, QSize(50, 100));
         CachedVectorIcon third(file, QSizeF(10, 4));
@@ -264,7 +264,7 @@ void TestCachedVectorIcon::iconsOfOneFileAndSizeShareTheRendering()
 
 void TestCachedVectorIcon::changedFileIsRenderedAnew()
 {
-    const QString name = QStringLiteral("changing.svg");
+    const QString name = "changing.svg";
     const QList<QPair<int, int>> ages_s{ { 3600, 0 }, { 0, 0 }, { 3600, 3600 } };
     for (const auto &ages : ages_s) { // of the two versions, which are of the same size
         const QString file = m_files.write(name, svgOfTwoHalves("#ff0000"), ages.first);
@@ -285,20 +285,19 @@ void TestCachedVectorIcon::changedFileIsRenderedAnew()
 void TestCachedVectorIcon::replacedBundleIsRenderedAnew()
 {
     const QByteArray list = "<RCC><qresource><file>look.svg</file></qresource></RCC>";
-    const QString qrc = m_files.write(QStringLiteral("look.qrc"), list);
+    const QString qrc = m_files.write("look.qrc", list);
     QByteArray bundle(10000, '\0');
     for (const char *color : { "#ff0000", "#00ff00" }) {
-        m_files.write(QStringLiteral("look.svg"), svgOfTwoHalves(color));
+        m_files.write("look.svg", svgOfTwoHalves(color));
         QProcess rcc;
-        rcc.start(QStringLiteral(HOXQ_RCC),
-            { QStringLiteral("--binary"), QStringLiteral("--no-compress"), qrc });
+        rcc.start(QStringLiteral(HOXQ_RCC), { "--binary", "--no-compress", qrc });
         QVERIFY(rcc.waitForFinished());
         const QByteArray bytes = rcc.readAllStandardOutput();
         QVERIFY(bytes.startsWith("qres") && bytes.size() < bundle.size());
         bundle.replace(0, bytes.size(), bytes);
         const auto *address = reinterpret_cast<const uchar *>(bundle.constData());
         QVERIFY(QResource::registerResource(address));
-        CachedVectorIcon icon(QStringLiteral(":/look.svg"), QSizeF(10, 5));
+        CachedVectorIcon icon(":/look.svg", QSizeF(10, 5));
         QCOMPARE(leftOf(&icon), QColor(QLatin1String(color)));
         QVERIFY(QResource::unregisterResource(address));
     }
@@ -307,31 +306,30 @@ void TestCachedVectorIcon::replacedBundleIsRenderedAnew()
 void TestCachedVectorIcon::findsWhatTheToolkitFinds_data()
 {
     QTest::addColumn<QString>("file");
-    QTest::newRow("svg in a search path") << QStringLiteral("theme:halves.svg");
-    QTest::newRow("bitmap in a search path") << QStringLiteral("theme:stem.png");
-    QTest::newRow("resource in a search path") << QStringLiteral("theme:cb_checked");
-    QTest::newRow("bitmap without suffix") << m_files.path(QStringLiteral("stem"));
-    QTest::newRow("both") << QStringLiteral("theme:stem");
-    QTest::newRow("vector without suffix") << m_files.path(QStringLiteral("halves"));
-    QTest::newRow("resource without slash") << QStringLiteral(":cb_checked");
+    QTest::newRow("svg in a search path") << "theme:halves.svg";
+    QTest::newRow("bitmap in a search path") << "theme:stem.png";
+    QTest::newRow("resource in a search path") << "theme:cb_checked";
+    QTest::newRow("bitmap without suffix") << m_files.path("stem");
+    QTest::newRow("both") << "theme:stem";
+    QTest::newRow("vector without suffix") << m_files.path("halves");
+    QTest::newRow("resource without slash") << ":cb_checked";
 }
 
 void TestCachedVectorIcon::findsWhatTheToolkitFinds()
 {
     QFETCH(QString, file);
-    QVERIFY(QImage(4, 2, QImage::Format_RGB32).save(m_files.path(QStringLiteral("stem.png"))));
-    QDir::setSearchPaths(
-        QStringLiteral("theme"), { m_files.path(QString()), QStringLiteral(":/") });
+    QVERIFY(QImage(4, 2, QImage::Format_RGB32).save(m_files.path("stem.png")));
+    QDir::setSearchPaths("theme", { m_files.path(QString()), ":/" });
     QVERIFY(!QPixmap(file).isNull());
     QCOMPARE(CachedVectorIcon(file, QSizeF(10, 5)).toPixmap().size(), QSize(50, 100));
-    QDir::setSearchPaths(QStringLiteral("theme"), {});
+    QDir::setSearchPaths("theme", {});
 }
 
 /// Divided by the inverse, 7 x 7 px would come out a pixel short.
 void TestCachedVectorIcon::bitmapKeepsItsProportions()
 {
     const PanelScale scale(10, 10);
-    const QString file = m_files.path(QStringLiteral("proportions.png"));
+    const QString file = m_files.path("proportions.png");
     for (const QSize &natural : { QSize(40, 20), QSize(3, 21), QSize(30, 44), QSize(49, 7) }) {
         QVERIFY(QImage(natural, QImage::Format_RGB32).save(file));
         for (int width = 1; width < 200; ++width) {
@@ -347,9 +345,9 @@ void TestCachedVectorIcon::bitmapKeepsItsProportions()
 void TestCachedVectorIcon::vectorsStayCrispUnderAnyName()
 {
     const PanelScale scale(20, 20);
-    const QString enter = QStringLiteral(":/VexoIconGeneralEnter");
+    const QString enter = ":/VexoIconGeneralEnter";
     for (const char *suffix : { "", ".svg", ".png" }) {
-        const QString file = m_files.path(QStringLiteral("enter") + QLatin1String(suffix));
+        const QString file = m_files.path("enter" + QLatin1String(suffix));
         QVERIFY(QFile::copy(enter, file));
         const QImage image = CachedVectorIcon(file, QSizeF(0, 22)).toPixmap().toImage();
         QCOMPARE(image.size(), QSize(440, 440));

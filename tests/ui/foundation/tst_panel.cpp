@@ -42,7 +42,7 @@ PanelOptions none()
 /// A stylesheet hides the style, but not what it takes from it.
 bool isFusion()
 {
-    const std::unique_ptr<QStyle> fusion(QStyleFactory::create(QStringLiteral("fusion")));
+    const std::unique_ptr<QStyle> fusion(QStyleFactory::create("fusion"));
     return QApplication::style()->standardPalette() == fusion->standardPalette();
 }
 
@@ -50,9 +50,8 @@ bool isFusion()
 QByteArray looks()
 {
     const QString sheet = qApp->styleSheet();
-    const bool has_sheets = sheet.contains(QLatin1String("VexoAlerMessageFrame"))
-        && sheet.indexOf(QLatin1String("VexoAlerMessageFrame"))
-            < sheet.indexOf(QLatin1String("VexoCenteredVectorButton"));
+    const bool has_sheets = sheet.contains("VexoAlerMessageFrame")
+        && sheet.indexOf("VexoAlerMessageFrame") < sheet.indexOf("VexoCenteredVectorButton");
     QByteArray found;
     found += isFusion() ? "style " : "";
     found += QApplication::palette() == Panel::palette() ? "palette " : "";
@@ -71,7 +70,7 @@ struct Scaled
     {
         slider->setMaximum(10);
         auto *decoration = new VexoSliderDecoration(&window, style, slider);
-        decoration->setScaleText({ QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2") });
+        decoration->setScaleText({ "0", "1", "2" });
         window.setPalette(Qt::white);
         window.show();
         for (int round = 0; round < 2; ++round) { // a scale takes its length at its first paint
@@ -158,7 +157,7 @@ void TestPanel::cleanup()
 {
     Panel::setUp(*qApp, none());
     qApp->setStyleSheet(QString());
-    QApplication::setStyle(QStringLiteral("windows"));
+    QApplication::setStyle("windows");
     QApplication::setPalette(QPalette());
     QApplication::setFont(m_font);
     QApplication::setLayoutDirection(Qt::LeftToRight);
@@ -188,7 +187,7 @@ void TestPanel::doesWhatItIsAskedFor()
 {
     QFETCH(PanelOptions, options);
     QFETCH(QByteArray, expected);
-    QApplication::setStyle(QStringLiteral("windows"));
+    QApplication::setStyle("windows");
     Panel::setUp(*qApp, options);
     QCOMPARE(looks(), expected);
 }
@@ -232,9 +231,9 @@ void TestPanel::namesAnUnlikelyScale_data()
     QTest::addColumn<QSizeF>("density");
     QTest::addColumn<QString>("figures");
     QTest::newRow("likely") << QSizeF(10, 10.4) << QString();
-    QTest::newRow("coarse") << QSizeF(1, 1) << QStringLiteral("1 x 1 px/mm");
-    QTest::newRow("fine") << QSizeF(26, 26) << QStringLiteral("26 x 26 px/mm");
-    QTest::newRow("not square") << QSizeF(10, 12) << QStringLiteral("10 x 12 px/mm");
+    QTest::newRow("coarse") << QSizeF(1, 1) << "1 x 1 px/mm";
+    QTest::newRow("fine") << QSizeF(26, 26) << "26 x 26 px/mm";
+    QTest::newRow("not square") << QSizeF(10, 12) << "10 x 12 px/mm";
 }
 
 void TestPanel::namesAnUnlikelyScale()
@@ -243,7 +242,7 @@ void TestPanel::namesAnUnlikelyScale()
     QFETCH(QString, figures);
     const PanelScale scale(density.width(), density.height());
     const QString fault = scaleFault(*ScalingInfo::inst());
-    QCOMPARE(fault.section(QStringLiteral("which is "), 1), figures);
+    QCOMPARE(fault.section("which is ", 1), figures);
     Panel::setUp(*qApp, none()); // no warning: the screen does not tell this
 }
 

@@ -109,7 +109,7 @@ void TestVisibleBuddies::followsInTheOrderOfAdding()
     buddies.add(&last);
     buddies.add(&first);
     buddies.setVisible(&owner, true, [] {});
-    QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+ c+ a+"));
+    QCOMPARE(calls.join(QLatin1Char(' ')), "a+ c+ a+");
     buddies.setVisible(&owner, false, [] {});
     QVERIFY(first.isHidden() && last.isHidden());
     calls.clear();
@@ -134,9 +134,9 @@ void TestVisibleBuddies::listMayChangeDuringARound()
         buddies.add(&added);
     };
     buddies.setVisible(&owner, true, [] {});
-    QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+"));
+    QCOMPARE(calls.join(QLatin1Char(' ')), "a+");
     buddies.setVisible(&owner, true, [] {});
-    QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+ x+"));
+    QCOMPARE(calls.join(QLatin1Char(' ')), "a+ x+");
 }
 
 void TestVisibleBuddies::ownerMayGoDuringARound()
@@ -148,7 +148,7 @@ void TestVisibleBuddies::ownerMayGoDuringARound()
     buddies->add(&buddy);
     buddy.then = [&](bool) { buddies.reset(); };
     buddies->setVisible(&owner, true, [] {});
-    QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+"));
+    QCOMPARE(calls.join(QLatin1Char(' ')), "a+");
 }
 
 void TestVisibleBuddies::mutualBuddiesMakeOneRound()
@@ -164,7 +164,7 @@ void TestVisibleBuddies::mutualBuddiesMakeOneRound()
     right.then = [&](bool visible) { of_right.setVisible(&right, visible, [] {}); };
     left.setVisible(true);
     QVERIFY(!left.isHidden() && !right.isHidden());
-    QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("l+ r+ l+"));
+    QCOMPARE(calls.join(QLatin1Char(' ')), "l+ r+ l+");
     left.setVisible(false);
     QVERIFY(left.isHidden() && right.isHidden());
 }

@@ -91,7 +91,7 @@ void TestRowList::scrollStepPaintsOnlyWhatComes()
     RowModel model;
     model.insert(0, RowModel::entries(1000, type));
     ListScreen screen(&model);
-    screen.setStyleSheet(QStringLiteral("QWidget { background: #f0f0f0; }")); // lets the list shine
+    screen.setStyleSheet("QWidget { background: #f0f0f0; }"); // lets the list shine
     settle();
     PaintCounter paints;
     QWidget *const row = screen.list->rowAt(model.index(4));
@@ -160,25 +160,25 @@ void TestRowList::rowsShowWhatTheModelSays()
     QStandardItemModel model;
     for (int i = 0; i < 100; ++i) {
         auto *item = new QStandardItem(QString::number(i));
-        item->setData(QStringLiteral("value %1").arg(i), RowList::SecondTextRole);
-        item->setData(QStringLiteral(":/VexoIconGeneralTickSvg"), Qt::DecorationRole);
+        item->setData(QString("value %1").arg(i), RowList::SecondTextRole);
+        item->setData(QString(":/VexoIconGeneralTickSvg"), Qt::DecorationRole);
         model.appendRow(item);
     }
     model.item(1)->setEnabled(false);
-    model.item(2)->setData(QStringLiteral("two"), Qt::AccessibleTextRole);
+    model.item(2)->setData("two", Qt::AccessibleTextRole);
     ListScreen screen(&model);
     const auto row = [&](int i) { return screen.list->rowAt(model.index(i, 0)); };
     const auto *text_icon = qobject_cast<VexoHorizontalTextIconButton *>(row(0));
     QVERIFY(text_icon);
-    QCOMPARE(text_icon->property("left_side_text").toString(), QStringLiteral("0"));
-    QCOMPARE(text_icon->property("right_side_text").toString(), QStringLiteral("value 0"));
+    QCOMPARE(text_icon->property("left_side_text").toString(), "0");
+    QCOMPARE(text_icon->property("right_side_text").toString(), "value 0");
     QVERIFY(!text_icon->property("default_image").value<QPixmap>().isNull());
     QVERIFY(row(0)->isEnabled() && !row(1)->isEnabled());
-    QCOMPARE(row(0)->accessibleName(), QStringLiteral("0"));
-    QCOMPARE(row(2)->accessibleName(), QStringLiteral("two"));
-    model.item(2)->setText(QStringLiteral("new"));
+    QCOMPARE(row(0)->accessibleName(), "0");
+    QCOMPARE(row(2)->accessibleName(), "two");
+    model.item(2)->setText("new");
     model.item(2)->setData(QVariant(), Qt::AccessibleTextRole);
-    QCOMPARE(row(2)->accessibleName(), QStringLiteral("new"));
+    QCOMPARE(row(2)->accessibleName(), "new");
     model.item(0)->setCheckState(Qt::Checked); // now it is a row with a check box
     QVERIFY(screen.rowAt(0)->getButtonInstance()->isChecked());
     screen.scroll(50 * row_px);
@@ -190,8 +190,8 @@ void TestRowList::rowsShowWhatTheModelSays()
 void TestRowList::imageShowsOnEachGround()
 {
     QStandardItemModel model;
-    model.appendRow(new QStandardItem(QStringLiteral("text")));
-    model.item(0)->setData(QStringLiteral(":/VexoIconGeneralEnter"), Qt::DecorationRole);
+    model.appendRow(new QStandardItem("text"));
+    model.item(0)->setData(":/VexoIconGeneralEnter", Qt::DecorationRole);
     ListScreen screen(&model);
     auto *row = qobject_cast<QAbstractButton *>(screen.list->rowAt(model.index(0, 0)));
     const auto ends = [&] { return spread(row->grab(QRect(370, 0, 30, row->height())).toImage()); };
@@ -240,24 +240,24 @@ void TestRowList::showsTheChildrenOfAnIndex()
 {
     QStandardItemModel model;
     for (int i = 0; i < 3; ++i) {
-        auto *parent = new QStandardItem(QStringLiteral("parent %1").arg(i));
+        auto *parent = new QStandardItem(QString("parent %1").arg(i));
         for (int j = 0; j < 30; ++j)
-            parent->appendRow(new QStandardItem(QStringLiteral("child %1 of %2").arg(j).arg(i)));
+            parent->appendRow(new QStandardItem(QString("child %1 of %2").arg(j).arg(i)));
         model.appendRow(parent);
     }
     ListScreen screen(&model);
-    QCOMPARE(textAtTop(screen), QStringLiteral("parent 0"));
+    QCOMPARE(textAtTop(screen), "parent 0");
     const QStandardItemModel other(3, 1);
     screen.list->setRootIndex(other.index(1, 0));
     QCOMPARE(screen.list->rootIndex(), QModelIndex());
     screen.list->setRootIndex(model.index(1, 0));
     screen.scroll(5 * row_px);
-    QCOMPARE(textAtTop(screen), QStringLiteral("child 5 of 1"));
+    QCOMPARE(textAtTop(screen), "child 5 of 1");
     model.removeRow(0);
-    model.item(0)->insertRow(0, new QStandardItem(QStringLiteral("new")));
-    QCOMPARE(textAtTop(screen), QStringLiteral("child 5 of 1"));
+    model.item(0)->insertRow(0, new QStandardItem("new"));
+    QCOMPARE(textAtTop(screen), "child 5 of 1");
     model.removeRow(0);
-    QCOMPARE(textAtTop(screen), QStringLiteral("parent 2"));
+    QCOMPARE(textAtTop(screen), "parent 2");
 }
 
 void TestRowList::fetchesMoreAtTheEnd()

@@ -118,7 +118,7 @@ void TestRowListInput::tapWritesTheModel()
     QTEST(checked, "checked");
     QCOMPARE(screen.clicked, QStringList({ model.at(23).text, model.at(23).text }));
     QVERIFY(!model.at(22).is_checked && !model.at(24).is_checked);
-    model.set(23, { QStringLiteral("unchecked"), type });
+    model.set(23, { "unchecked", type });
     QVERIFY(!screen.rowAt(23)->getButtonInstance()->isChecked());
 }
 
@@ -144,7 +144,7 @@ void TestRowListInput::touchMeansWhatItTouched_data()
     };
     const auto come_above = [](OwnScreen &s) { s.model->insert(0, RowModel::entries(300)); };
     const auto change_type = [](OwnScreen &s) {
-        s.model->set(3, { QStringLiteral("other"), RowList::CheckboxRow });
+        s.model->set(3, { "other", RowList::CheckboxRow });
     };
     row(
         "scrolls a little", [](OwnScreen &s) { s.scroll(4 * row_px); }, true);
@@ -300,14 +300,14 @@ void TestRowListInput::isAListForAssistiveTechnology()
 {
     RowModel model;
     model.insert(0, RowModel::entries(1000, RowList::CheckboxRow));
-    model.set(401, { QStringLiteral("off"), RowList::CheckboxRow, true, false });
+    model.set(401, { "off", RowList::CheckboxRow, true, false });
     ListScreen screen(&model);
     screen.list->setSeparatorFactory([] { return new VexoRuler; });
-    screen.list->setAccessibleName(QStringLiteral("Contacts"));
+    screen.list->setAccessibleName("Contacts");
     screen.list->scrollTo(model.index(400), QAbstractItemView::PositionAtTop);
     QAccessibleInterface *list = QAccessible::queryAccessibleInterface(screen.list->widget());
     QCOMPARE(list->role(), QAccessible::List);
-    QCOMPARE(list->text(QAccessible::Name), QStringLiteral("Contacts"));
+    QCOMPARE(list->text(QAccessible::Name), "Contacts");
     QVERIFY(list->childCount() >= 10 && list->childCount() < 20);
     int seen = 0;
     for (int i = 0, before = -1; i < list->childCount(); ++i) {
@@ -342,7 +342,7 @@ void TestRowListInput::lettersOfABarScroll_data()
 void TestRowListInput::lettersOfABarScroll()
 {
     QFETCH(QString, letter);
-    QStringList names{ QStringLiteral("1st floor") };
+    QStringList names{ "1st floor" };
     for (const char *name : { "adler", "Bauer", "Cohen", "Martin", "Meyer", "Öztürk", "Olsen" })
         names += QString::fromUtf8(name);
     QStandardItemModel model;
@@ -366,7 +366,7 @@ void TestRowListInput::lettersOfABarScroll()
             button->click();
     }
     const int scrolled = screen.scrolled();
-    if (letter != QLatin1String("X")) {
+    if (letter != "X") {
         virtualclock::pass(300);
         QCOMPARE(screen.scrolled(), scrolled);
         QVERIFY(scrolled == 0 || screen.list->firstOf(letter).row() * row_px == scrolled);

@@ -19,7 +19,7 @@ using Row = VexoFunctionButton;
 
 // The second one draws check boxes from images; the toolkit draws other ones differently where they
 // are cut.
-const QStringList sheets{ QStringLiteral(":/css/hoxq.qs"), QStringLiteral(":/css/vexo-AAL.qs") };
+const QStringList sheets{ ":/css/hoxq.qs", ":/css/vexo-AAL.qs" };
 
 /// A RowList over a model that changes at random, and a list that has a widget for each row.
 class Twins : public StoryScreen
@@ -96,20 +96,19 @@ QString Twins::fault()
     settle();
     const QRect wrong = wrongPixels(m_window);
     if (!wrong.isEmpty())
-        return QStringLiteral("a repaint looks different");
+        return "a repaint looks different";
     fillPlain();
     settle();
     const QScrollBar *bar = list.verticalScrollBar();
     QScrollBar *plain_bar = m_plain.verticalScrollBar();
     if (bar->maximum() != plain_bar->maximum())
-        return QStringLiteral("the height is another one: %1, not %2")
+        return QString("the height is another one: %1, not %2")
             .arg(bar->maximum())
             .arg(plain_bar->maximum());
     plain_bar->setValue(bar->value());
     // Painted anew: where a stock area jumps, the toolkit loses what lies on it.
     const QImage plain = m_plain_window.grab().toImage().convertToFormat(QImage::Format_RGB32);
-    return shownOnScreen(m_window) == plain ? QString()
-                                            : QStringLiteral("a list of all rows looks different");
+    return shownOnScreen(m_window) == plain ? QString() : "a list of all rows looks different";
 }
 
 QString Twins::change()
@@ -149,9 +148,8 @@ void Twins::changeEntry()
     if (m_model.rowCount() == 0)
         return;
     const int row = number(3) == 0 ? any() : qMin(m_model.rowCount() - 1, value() / 49 + number(4));
-    m_model.set(row,
-        { QStringLiteral("changed %1").arg(number(100)), number(5), number(2) == 0,
-            number(3) > 0 });
+    m_model.set(
+        row, { QString("changed %1").arg(number(100)), number(5), number(2) == 0, number(3) > 0 });
 }
 
 QString Twins::changeLook()

@@ -297,7 +297,7 @@ void TestVexoVerticalScrollArea::rowsLieTight()
         row->setFixedSize(60, 20);
         content.layout()->addWidget(row);
     }
-    QCOMPARE(content.layout()->objectName(), QStringLiteral("ScrollVBoxLayout"));
+    QCOMPARE(content.layout()->objectName(), "ScrollVBoxLayout");
     const auto second = [&] {
         content.layout()->activate();
         return content.layout()->itemAt(1)->geometry();

@@ -42,7 +42,7 @@ void TestScaleDisplayWidget::marksLieAlongTheLength()
     QFETCH(int, extent);
     QFETCH(QVector<int>, ticks);
     ScaleDisplayWidget widget(level ? Qt::Horizontal : Qt::Vertical, mm);
-    widget.setScaleText(QVector<QString>(ticks.size(), QStringLiteral("0")).toList());
+    widget.setScaleText(QVector<QString>(ticks.size(), "0").toList());
     QImage image(900, 900, QImage::Format_RGB32);
     image.fill(Qt::white);
     widget.resize(image.size());

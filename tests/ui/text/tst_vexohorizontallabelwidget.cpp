@@ -25,9 +25,8 @@ void TestVexoHorizontalLabelWidget::columnsStandSideBySide()
     row.setMmHeight(1.99);
     row.setMmIndent(0.59);
     row.grab(); // lays it out
-    QCOMPARE(row.findChild<QLabel *>(QStringLiteral("leftLabel"))->geometry(), QRect(0, 0, 30, 39));
-    QCOMPARE(
-        row.findChild<QLabel *>(QStringLiteral("rightLabel"))->geometry(), QRect(30, 0, 40, 39));
+    QCOMPARE(row.findChild<QLabel *>("leftLabel")->geometry(), QRect(0, 0, 30, 39));
+    QCOMPARE(row.findChild<QLabel *>("rightLabel")->geometry(), QRect(30, 0, 40, 39));
     for (const QLabel *label : { row.leftLabel(), row.rightLabel() }) {
         QCOMPARE(label->font().pixelSize(), 84); // 12 pt
         QCOMPARE(label->indent(), 5);
@@ -39,8 +38,7 @@ void TestVexoHorizontalLabelWidget::colorsAreAStylesheet()
     VexoHorizontalLabelWidget row;
     row.setTextColor(QColor(1, 2, 3, 4));
     for (QLabel *label : { row.leftLabel(), row.rightLabel() }) {
-        QCOMPARE(label->styleSheet(),
-            QStringLiteral("QLabel {color: rgb(1, 2, 3);background: rgb(80, 80, 80);}"));
+        QCOMPARE(label->styleSheet(), "QLabel {color: rgb(1, 2, 3);background: rgb(80, 80, 80);}");
         label->setStyleSheet(QString());
         row.setTextColor(QColor(1, 2, 3)); // as before, but not on the label
         QVERIFY(!label->styleSheet().isEmpty());

@@ -23,7 +23,7 @@ void TestVexoLabel::isAsThePainterDrawsIt_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("alignment");
-    const QString words = QStringLiteral("one two three four five six seven");
+    const QString words = "one two three four five six seven";
     const QString hebrew = QString::fromUtf8(
         "\u05d0\u05d1\u05d2 \u05d3\u05d4\u05d5 \u05d6\u05d7\u05d8 \u05d9\u05db\u05dc");
     QTest::newRow("right, bottom") << "Text" << int(Qt::AlignRight | Qt::AlignBottom);
@@ -42,7 +42,7 @@ void TestVexoLabel::isAsThePainterDrawsIt()
     FontLoader();
     QTextOption option; // finds the direction in the text
     option.setAlignment(Qt::Alignment(alignment));
-    VexoLabel label(QStringLiteral("before"));
+    VexoLabel label("before");
     label.setMmHeight(8.6);
     label.resize(151, 86);
     label.grab(); // nothing of this look may outlive the changes

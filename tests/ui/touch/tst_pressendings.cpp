@@ -284,7 +284,7 @@ void TestPressEndings::menuOfTheButtonEndsThePulse()
     VexoIconButton button(screen.page);
     button.setFixedSize(160, 50);
     QMenu menu;
-    menu.addAction(QStringLiteral("Item"));
+    menu.addAction("Item");
     button.setMenu(&menu);
     button.setPopupMode(QToolButton::InstantPopup);
     QAction ticks;
@@ -311,7 +311,7 @@ void TestPressEndings::menuEndsTheRepeatOfAStepper()
     VexoNumericButton stepper(screen.page);
     stepper.setFixedSize(300, 50);
     stepper.setMaximum(1000);
-    auto *plus = stepper.findChild<VexoIconButton *>(QStringLiteral("increaseButton"));
+    auto *plus = stepper.findChild<VexoIconButton *>("increaseButton");
     plus->setAutoRepeat(true);
     QVERIFY(screen.appear());
     Finger finger(&screen);

@@ -111,15 +111,14 @@ void TestVideoArea::tellsEachMoveAndResize()
 
 void TestVideoArea::logsTheCrop()
 {
-    QLoggingCategory::setFilterRules(QStringLiteral("hoxq.*.debug=true"));
+    QLoggingCategory::setFilterRules("hoxq.*.debug=true");
     const Messages messages;
     VideoArea area;
     area.setVideoWidth(70);
     area.setVideoHeight(80);
     area.transformGeometry();
     QLoggingCategory::setFilterRules(QString());
-    QCOMPARE(messages.lines(),
-        QStringList{ QStringLiteral("debug hoxq.*: pos: 0x0, video_width: 70x80") });
+    QCOMPARE(messages.lines(), QStringList{ "debug hoxq.*: pos: 0x0, video_width: 70x80" });
 }
 
 void TestVideoArea::panningTellsItsPlace()
