@@ -26,11 +26,6 @@ private Q_SLOTS:
 
 namespace {
 
-VexoLineEdit *fieldOf(const QWidget &page, const char *name)
-{
-    return page.findChild<VexoLineEdit *>(QLatin1String(name));
-}
-
 QString textOf(const QWidget &page, const char *name)
 {
     return page.findChild<QLabel *>(QLatin1String(name))->text();
@@ -56,7 +51,7 @@ void TestEntry::wrongPinShakesAndGoes()
     QFETCH(QByteArray, name);
     PinPage page;
     expose(&page);
-    VexoLineEdit *field = fieldOf(page, name);
+    VexoLineEdit *field = byName<VexoLineEdit>(page, name);
     QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(2, 2));
     const QImage empty = pictureOf(field);
     clickKeys(page, "2 0");
@@ -81,12 +76,12 @@ void TestEntry::loginFormGoesFromFieldToField()
     clickKeys(page, "p a n e l x Delete Enter v e x x Enter");
     QCOMPARE(textOf(page, "loginResult"), "Wrong name or password");
     clickKeys(page, "v e x o y");
-    VexoLineEdit *password = fieldOf(page, "passwordField");
+    VexoLineEdit *password = byName<VexoLineEdit>(page, "passwordField");
     QTest::mouseClick(password->findChild<VexoIconButton *>(), Qt::LeftButton);
     QCOMPARE(password->text(), "vexo");
     clickKeys(page, "Enter");
     QCOMPARE(textOf(page, "loginResult"), "Logged in");
-    QCOMPARE(fieldOf(page, "nameField")->text(), "panel");
+    QCOMPARE(byName<VexoLineEdit>(page, "nameField")->text(), "panel");
 }
 
 void TestEntry::converterFollowsTheText()

@@ -2,6 +2,7 @@
 #include "gallery/expose.h"
 #include "gallery/pages/formpage.h"
 #include "gallery/pages/listspage.h"
+#include "support/find.h"
 #include "support/testcase.h"
 
 #include <VexoFunctionButton>
@@ -25,16 +26,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-template <typename Button>
-Button *buttonOf(const QWidget &page, const QString &text)
-{
-    const QList<Button *> buttons = page.findChildren<Button *>();
-    for (Button *button : buttons)
-        if (button->text() == text)
-            return button;
-    return nullptr;
-}
 
 // Of what is seen of the list.
 QString firstRowOf(const QWidget &page)
@@ -78,9 +69,9 @@ void TestLists::buttonOfTheBarJumps()
     QFETCH(QString, button);
     ListsPage page;
     expose(&page);
-    buttonOf<QPushButton>(page, "C")->click(); // away from the top
-    buttonOf<VexoRadioButton>(page, type)->setChecked(true);
-    buttonOf<QPushButton>(page, button)->click();
+    byText<QPushButton>(page, "C")->click(); // away from the top
+    byText<VexoRadioButton>(page, type)->setChecked(true);
+    byText<QPushButton>(page, button)->click();
     QTEST(firstRowOf(page), "row");
 }
 
@@ -93,7 +84,7 @@ void TestLists::payloadsComeAndGo()
         QStringList shown;
         for (const char *text : { "", "Automatic", "Remove", "By hand", "Put back", "Automatic" }) {
             if (*text)
-                buttonOf<VexoPushButton>(page, QLatin1String(text))->click();
+                byText<VexoPushButton>(page, QLatin1String(text))->click();
             QCoreApplication::sendPostedEvents(); // lays out
             shown += payloadOf(page, "Gateway") + QLatin1Char('|') + payloadOf(page, "Note");
         }

@@ -4,6 +4,7 @@
 #include "gallery/pages/updatewindowpage.h"
 #include "gallery/pages/videopage.h"
 #include "gallery/widgets/busysign.h"
+#include "support/find.h"
 #include "support/paintcounter.h"
 #include "support/panelscale.h"
 #include "support/touch.h"
@@ -62,12 +63,9 @@ QString valueOf(const QWidget &page, const char *signal)
 
 void click(const QWidget &page, const QString &text)
 {
-    const auto buttons = page.findChildren<QAbstractButton *>();
-    for (QAbstractButton *button : buttons) {
-        if (button->text() == text || button->accessibleName() == text)
-            return QTest::mouseClick(button, Qt::LeftButton);
-    }
-    QFAIL(qPrintable(text));
+    auto *button = byText<QAbstractButton>(page, text);
+    QVERIFY2(button, qPrintable(text));
+    QTest::mouseClick(button, Qt::LeftButton);
 }
 
 // The colours in the corners of the picture as the page shows it, clockwise from the left top.
