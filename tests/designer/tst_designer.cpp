@@ -3,10 +3,6 @@
 #include "support/testcase.h"
 
 #include <QFile>
-#include <QLayout>
-#include <QTest>
-
-#include <memory>
 
 /// What a user of Qt Designer meets.
 class TestDesigner : public TestCase

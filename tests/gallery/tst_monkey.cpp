@@ -9,7 +9,6 @@
 #include <Panel>
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QRandomGenerator>
 #include <QStackedWidget>
 
@@ -152,8 +151,8 @@ void TestMonkey::nothingStaysDownOrWronglyPainted()
         virtualclock::pass(60);
         monkey.clear();
         QVERIFY2(buttonsThatAreDown(window).isEmpty(),
-            qPrintable(QStringLiteral("touch %1: ").arg(i)
-                + buttonsThatAreDown(window).join(QStringLiteral(", "))));
+            qPrintable(
+                QString("touch %1: ").arg(i) + buttonsThatAreDown(window).join(QString(", "))));
         if (i % 30 == 0)
             QCOMPARE(wrongPixelsAtRest(window), QRect());
     }

@@ -8,11 +8,8 @@
 #include <Soak>
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QScrollArea>
 #include <QStackedWidget>
-
-#include <memory>
 
 using namespace vexo::hox::qt;
 

@@ -1,8 +1,16 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
-#include <QObject>
-#include <QStringList>
+// What most tests use; it is in their precompiled header.
+#include <QApplication>
+#include <QLabel>
+#include <QLayout>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <functional>
+#include <memory>
 
 /// Base of all tests: a warning that no Messages object waits for fails the test function.
 class TestCase : public QObject

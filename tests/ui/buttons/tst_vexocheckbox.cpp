@@ -5,8 +5,6 @@
 #include <VexoCheckBox>
 #include <VexoRadioButton>
 
-#include <QTest>
-
 using namespace vexo::hox::qt::ui;
 
 /// VexoCheckBox and VexoRadioButton.

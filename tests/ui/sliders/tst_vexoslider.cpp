@@ -6,9 +6,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <QAccessible>
-#include <QSignalSpy>
 #include <QStyleOptionSlider>
-#include <QTest>
 
 #include <limits>
 
@@ -125,11 +123,10 @@ void TestVexoSlider::dragThatIsTakenBackSetsNothing()
 void TestVexoSlider::assistiveTechnologySeesRealValues()
 {
     Slider slider({ 20, 80, 10, 50 });
-    slider.setAccessibleName(QStringLiteral("Volume"));
+    slider.setAccessibleName("Volume");
     QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(&slider);
     QCOMPARE(seen->role(), QAccessible::Slider);
-    QCOMPARE(
-        seen->text(QAccessible::Name) + seen->text(QAccessible::Value), QStringLiteral("Volume50"));
+    QCOMPARE(seen->text(QAccessible::Name) + seen->text(QAccessible::Value), "Volume50");
     QAccessibleValueInterface *value = seen->valueInterface();
     QCOMPARE((Numbers{ value->minimumValue().toInt(), value->maximumValue().toInt(),
                  value->minimumStepSize().toInt() }),

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "support/panelscale.h"
-#include "support/testcase.h"
 #include "support/virtualclock.h"
 
 #include <VideoArea>
@@ -9,23 +8,16 @@
 #include <QLoggingCategory>
 #include <QPointer>
 #include <QScrollBar>
-#include <QSignalSpy>
-#include <QTest>
 #include <QWindow>
 
 using namespace vexo::hox::qt::ui;
 
 /// VideoArea and VideoCapturePanning.
-class TestVideoArea : public TestCase
+class TestVideoArea : public VirtualTimeTestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        TestCase::initTestCase();
-        virtualclock::start();
-    }
     void tellsWhatIsVisible_data();
     void tellsWhatIsVisible();
     void tellsEachMoveAndResize();
@@ -119,15 +111,14 @@ void TestVideoArea::tellsEachMoveAndResize()
 
 void TestVideoArea::logsTheCrop()
 {
-    QLoggingCategory::setFilterRules(QStringLiteral("hoxq.*.debug=true"));
+    QLoggingCategory::setFilterRules("hoxq.*.debug=true");
     const Messages messages;
     VideoArea area;
     area.setVideoWidth(70);
     area.setVideoHeight(80);
     area.transformGeometry();
     QLoggingCategory::setFilterRules(QString());
-    QCOMPARE(messages.lines(),
-        QStringList{ QStringLiteral("debug hoxq.*: pos: 0x0, video_width: 70x80") });
+    QCOMPARE(messages.lines(), QStringList{ "debug hoxq.*: pos: 0x0, video_width: 70x80" });
 }
 
 void TestVideoArea::panningTellsItsPlace()
