@@ -5,7 +5,7 @@
 #include "ui/foundation/accessible_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
-#include "ui/painting/endsprint_p.h"
+#include "ui/painting/endsrendering_p.h"
 #include "ui/painting/iconpixmap_p.h"
 #include "ui/painting/styledbackground_p.h"
 #include "ui/painting/textblock_p.h"
@@ -32,7 +32,7 @@ struct VexoPushButton::Ground
     QSizeF radius;
     QColor fill;
     QPen pen;
-    EndsPrint ends;
+    EndsRendering ends;
 
     QString name() const
     {
@@ -482,7 +482,7 @@ void VexoPushButton::drawGround(QPainter *painter, const QRectF &inside, const Q
     }
     if (inside.isEmpty())
         return; // all of it is margin
-    Ground now{ m_px_margin, m_px_radius, fillOfNow(), m_pen, EndsPrint() };
+    Ground now{ m_px_margin, m_px_radius, fillOfNow(), m_pen, EndsRendering() };
     if (!m_grounds[0] || !m_grounds[0]->isOf(now))
         std::swap(m_grounds[0], m_grounds[1]);
     if (!m_grounds[0] || !m_grounds[0]->isOf(now))

@@ -6,7 +6,7 @@
 #include "ui/input/composedtext_p.h"
 #include "ui/input/placeholder_p.h"
 #include "ui/input/shakemotion_p.h"
-#include "ui/painting/fieldframe_p.h"
+#include "ui/painting/roundedframe_p.h"
 #include "ui/painting/secretdots_p.h"
 #include "ui/painting/textrun_p.h"
 

@@ -11,8 +11,8 @@
 #include "ui/input/secrettext_p.h"
 #include "ui/input/shakemotion_p.h"
 #include "ui/input/sidewidget_p.h"
-#include "ui/painting/fieldframe_p.h"
 #include "ui/painting/iconpixmap_p.h"
+#include "ui/painting/roundedframe_p.h"
 #include "ui/painting/secretdots_p.h"
 #include "ui/painting/textrun_p.h"
 #include "ui/touch/press_p.h"
@@ -41,7 +41,7 @@ VexoLineEdit::VexoLineEdit(QWidget *parent)
     , m_scaling(ScalingInfo::inst())
     , m_tone_delegator(VexoFeedbackDelegator::tone_delegator)
     , m_cursor_timer(new QTimer(this))
-    , m_frame(std::make_unique<FieldFrame>())
+    , m_frame(std::make_unique<RoundedFrame>())
     , m_composed(std::make_unique<ComposedText>())
     , m_text_run(std::make_unique<TextRun>())
     , m_placeholder_run(std::make_unique<TextRun>())

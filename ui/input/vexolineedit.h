@@ -23,7 +23,7 @@ class QWidgetAction;
 namespace vexo::hox::qt::ui {
 
 class ComposedText;
-class FieldFrame;
+class RoundedFrame;
 class ScalingInfo;
 class SecretDots;
 class ShakeMotion;
@@ -247,7 +247,7 @@ private:
     QPointer<VexoIconButton> m_trailing_button;
     QFont m_font;
     QRectF m_text_rect; // of what was drawn last, px
-    const std::unique_ptr<FieldFrame> m_frame;
+    const std::unique_ptr<RoundedFrame> m_frame;
     QPen m_cursor_pen = QPen(DEFAULT_CURSOR_COLOR, 1);
     QPainter m_painter;
     std::unique_ptr<QTimer> m_shake_timer;

@@ -95,7 +95,7 @@ void TextBlock::draw(QPainter *painter, const QRectF &area, const QString &text,
     const Look look{ painter->pen().color(), ground.color, position - whole,
         painter->device()->devicePixelRatioF() };
     const auto *owner = dynamic_cast<const QWidget *>(painter->device());
-    const Print print = m_prints.get(look, owner, [&] { return this->print(look); });
+    const Rendering print = m_prints.get(look, owner, [&] { return this->print(look); });
     painter->drawPixmap(whole + print.position, print.pixmap);
 }
 
@@ -148,7 +148,7 @@ bool TextBlock::canPrint(const QPainter &painter, const QRect &place, const Grou
         && isKeepable(m_extent.size());
 }
 
-Print TextBlock::print(const Look &look) const
+Rendering TextBlock::print(const Look &look) const
 {
     QPixmap pixmap(m_extent.size() * look.ratio);
     pixmap.setDevicePixelRatio(look.ratio);

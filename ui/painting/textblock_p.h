@@ -1,7 +1,7 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
-#include "ui/painting/printpair_p.h"
+#include "ui/painting/renderingpair_p.h"
 
 #include <QColor>
 #include <QFont>
@@ -55,7 +55,7 @@ private:
     void layOut(const QFont &font, double width, const QString &text, Qt::Alignment alignment);
     QTextOption option(Qt::Alignment alignment) const;
     bool canPrint(const QPainter &painter, const QRect &place, const Ground &ground) const;
-    Print print(const Look &look) const;
+    Rendering print(const Look &look) const;
 
     const QTextOption::WrapMode m_wrap_mode;
     Qt::LayoutDirection m_direction = Qt::LayoutDirectionAuto;
@@ -67,7 +67,7 @@ private:
     bool m_begins_right = false; // and is too long, so its left end is cut
     double m_height = 0; // px
     QRect m_extent; // px, what the letters cover
-    PrintPair<Look> m_prints;
+    RenderingPair<Look> m_prints;
 };
 
 } // namespace vexo::hox::qt::ui

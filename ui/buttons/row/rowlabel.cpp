@@ -143,7 +143,7 @@ void RowLabel::setInk(const QColor &ink)
 
 void RowLabel::prepare(const QColor &ground)
 {
-    m_shown = Print();
+    m_shown = Rendering();
     const bool is_text = !text().isEmpty() && !(textInteractionFlags() & Qt::TextSelectableByMouse)
         && !autoFillBackground();
     if (is_text && ground.alpha() == 255 && devicePixelRatioF() == 1 && !size().isEmpty())
@@ -192,7 +192,7 @@ void RowLabel::paintEvent(QPaintEvent *event)
     if (is_screen)
         painter.drawPixmap(m_shown.position, m_shown.pixmap);
     painter.end();
-    m_shown = Print();
+    m_shown = Rendering();
     if (!is_screen)
         paintAnew(event);
 }
@@ -278,7 +278,7 @@ bool RowLabel::isHintedAsLine() const
 }
 
 // render() would do, but walks through all widgets of the window first.
-Print RowLabel::print(const QColor &ground)
+Rendering RowLabel::print(const QColor &ground)
 {
     QImage image(size(), QImage::Format_RGB32);
     image.fill(ground);

@@ -1,7 +1,7 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
-#include "ui/painting/printpair_p.h"
+#include "ui/painting/renderingpair_p.h"
 #include "ui/painting/styledbackground_p.h"
 
 #include <QColor>
@@ -69,7 +69,7 @@ private:
     };
 
     Look lookOfNow(const QColor &ground) const;
-    Print print(const QColor &ground);
+    Rendering print(const QColor &ground);
     void paintAnew(QPaintEvent *event);
     bool isPlain() const;
     const Line &line() const;
@@ -79,8 +79,8 @@ private:
     bool m_is_laid_out = false;
     mutable Line m_line; // of the text that was measured last
     StyledBackground m_styled_background;
-    PrintPair<Look> m_prints;
-    Print m_shown; // for the paint to come; null to paint as any label
+    RenderingPair<Look> m_prints;
+    Rendering m_shown; // for the paint to come; null to paint as any label
     QImage *m_print_image = nullptr; // while it is drawn
     bool m_is_inking = false;
 };

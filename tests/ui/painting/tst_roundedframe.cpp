@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/testcase.h"
-#include "ui/painting/fieldframe_p.h"
+#include "ui/painting/roundedframe_p.h"
 
 #include <QImage>
 #include <QPainter>
@@ -13,7 +13,7 @@
 
 using namespace vexo::hox::qt::ui;
 
-class TestFieldFrame : public TestCase
+class TestRoundedFrame : public TestCase
 {
     Q_OBJECT
 
@@ -33,9 +33,9 @@ struct Look
     QColor ground = Qt::yellow;
 };
 
-FieldFrame frameOf(const Look &look)
+RoundedFrame frameOf(const Look &look)
 {
-    FieldFrame frame;
+    RoundedFrame frame;
     frame.setLineColor(look.color);
     frame.setLine(look.line);
     frame.setRadius(look.radius);
@@ -86,21 +86,21 @@ int largestDifference(const QImage &a, const QImage &b)
 
 } // namespace
 
-void TestFieldFrame::looksAsItsPathOnEachDevice_data()
+void TestRoundedFrame::looksAsItsPathOnEachDevice_data()
 {
     QTest::addColumn<double>("ratio");
     for (const double ratio : { 1.0, 1.25, 1.5, 2.0 })
         QTest::addRow("%.2f", ratio) << ratio;
 }
 
-void TestFieldFrame::looksAsItsPathOnEachDevice()
+void TestRoundedFrame::looksAsItsPathOnEachDevice()
 {
     QFETCH(double, ratio);
     const std::array<Look, 5> looks{ Look(), Look{ { 1, 1 }, { 30, 30 } },
         Look{ { 1, 1 }, { 12.5, 30 } }, Look{ { 14, 14 }, { 3, 3 } },
         Look{ { 1.76, 1.76 }, { 30, 30 }, QColor(0, 90, 200, 99), QColor(250, 40, 7, 130) } };
     for (const Look &look : looks) {
-        FieldFrame frame = frameOf(look);
+        RoundedFrame frame = frameOf(look);
         for (const QSize size : { QSize(800, 61), QSize(403, 61), QSize(102, 61), QSize(70, 61),
                  QSize(20, 61), QSize(401, 60), QSize(401, 20) }) {
             const QImage exact = drawn(ratio, QImage::Format_ARGB32_Premultiplied,
@@ -118,14 +118,14 @@ void TestFieldFrame::looksAsItsPathOnEachDevice()
     }
 }
 
-void TestFieldFrame::followsEachChangeOfItsLook()
+void TestRoundedFrame::followsEachChangeOfItsLook()
 {
     const QSize size(300, 61);
-    const auto picture = [&](FieldFrame *frame) {
+    const auto picture = [&](RoundedFrame *frame) {
         return drawn(1, QImage::Format_RGB32,
             [&](QPainter *painter) { frame->draw(painter, size, QRect(QPoint(), size)); });
     };
-    FieldFrame frame = frameOf(Look());
+    RoundedFrame frame = frameOf(Look());
     Look look;
     const std::array<std::function<void()>, 4> changes{ [&] {
                                                            frame.setLineColor(look.color = Qt::red);
@@ -136,11 +136,11 @@ void TestFieldFrame::followsEachChangeOfItsLook()
     for (const auto &change : changes) {
         const QImage before = picture(&frame);
         change();
-        FieldFrame fresh = frameOf(look);
+        RoundedFrame fresh = frameOf(look);
         QVERIFY(picture(&frame) != before);
         QCOMPARE(picture(&frame), picture(&fresh));
     }
 }
 
-QTEST_MAIN(TestFieldFrame)
-#include "tst_fieldframe.moc"
+QTEST_MAIN(TestRoundedFrame)
+#include "tst_roundedframe.moc"

@@ -1,7 +1,7 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
-#include "ui/painting/printstore_p.h"
+#include "ui/painting/renderingcache_p.h"
 
 #include <QPaintEngine>
 #include <QPixmap>
@@ -12,7 +12,7 @@
 namespace vexo::hox::qt::ui {
 
 /// Something drawn once, and the place to which it is copied, px.
-struct Print
+struct Rendering
 {
     QPixmap pixmap;
     QPoint position;
@@ -25,25 +25,25 @@ inline bool isForScreens(const QPaintEngine &engine)
     return engine.type() == QPaintEngine::Raster;
 }
 
-/// The prints of the two looks that were used last, such as up and down, as long as the PrintStore
-/// keeps them. \a Look tells with == what is drawn.
+/// The prints of the two looks that were used last, such as up and down, as long as the
+/// RenderingCache keeps them. \a Look tells with == what is drawn.
 template <typename Look>
-class PrintPair
+class RenderingPair
 {
 public:
-    PrintPair() = default;
-    ~PrintPair() { forget(); }
-    PrintPair(const PrintPair &) = delete;
-    PrintPair &operator=(const PrintPair &) = delete;
+    RenderingPair() = default;
+    ~RenderingPair() { forget(); }
+    RenderingPair(const RenderingPair &) = delete;
+    RenderingPair &operator=(const RenderingPair &) = delete;
 
     /// The print of \a look for \a owner, which \a draw makes when there is none.
     template <typename Draw>
-    Print get(const Look &look, const QWidget *owner, Draw draw)
+    Rendering get(const Look &look, const QWidget *owner, Draw draw)
     {
         if (!(m_first.look == look))
             std::swap(m_first, m_second);
-        PrintStore &store = PrintStore::inst();
-        Print print{ QPixmap(), m_first.position };
+        RenderingCache &store = RenderingCache::inst();
+        Rendering print{ QPixmap(), m_first.position };
         if (m_first.look == look && store.find(m_first.key, &print.pixmap))
             return print;
         store.remove(m_first.key);
@@ -55,8 +55,8 @@ public:
     /// For changes of which the looks know nothing.
     void forget()
     {
-        PrintStore::inst().remove(m_first.key);
-        PrintStore::inst().remove(m_second.key);
+        RenderingCache::inst().remove(m_first.key);
+        RenderingCache::inst().remove(m_second.key);
         m_first = Entry();
         m_second = Entry();
     }
@@ -66,7 +66,7 @@ private:
     {
         Look look;
         QPoint position;
-        PrintStore::Key key = 0;
+        RenderingCache::Key key = 0;
     };
 
     Entry m_first; // the one used last

@@ -1,7 +1,7 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
-#include "ui/painting/endsprint_p.h"
+#include "ui/painting/endsrendering_p.h"
 
 #include <QColor>
 #include <QPen>
@@ -12,7 +12,7 @@ class QPainter;
 namespace vexo::hox::qt::ui {
 
 /// The rounded frame of a field, with its ground: its ends are rendered once for their look.
-class FieldFrame
+class RoundedFrame
 {
 public:
     /// Outlines in \a color; also the pen of what else is outlined as the frame.
@@ -35,7 +35,7 @@ private:
     QPointF m_line; // px
     QPointF m_radius; // px
     QColor m_ground;
-    EndsPrint m_ends;
+    EndsRendering m_ends;
 };
 
 } // namespace vexo::hox::qt::ui

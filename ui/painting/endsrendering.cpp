@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/painting/endsprint_p.h"
+#include "ui/painting/endsrendering_p.h"
 
 #include "ui/foundation/pixels_p.h"
 
@@ -23,7 +23,7 @@ QColor unmultiplied(QRgb premultiplied)
 } // namespace
 
 // In device pixels: at a ratio such as 1.25 a pixmap that is placed in px would be blurred.
-void EndsPrint::draw(QPainter *painter, const QSize &size, double end, const QRect &dirty,
+void EndsRendering::draw(QPainter *painter, const QSize &size, double end, const QRect &dirty,
     const DrawShape &draw_shape, const std::function<QString()> &look)
 {
     const QTransform to_device = painter->deviceTransform();
@@ -51,7 +51,7 @@ void EndsPrint::draw(QPainter *painter, const QSize &size, double end, const QRe
     painter->setWorldTransform(world);
 }
 
-void EndsPrint::keep(const QSize &px, const DrawShape &draw_shape, const QString &look)
+void EndsRendering::keep(const QSize &px, const DrawShape &draw_shape, const QString &look)
 {
     QByteArray place;
     QDataStream stream(&place, QIODevice::WriteOnly);
@@ -69,7 +69,8 @@ void EndsPrint::keep(const QSize &px, const DrawShape &draw_shape, const QString
     QPixmapCache::insert(key, m_ends);
 }
 
-void EndsPrint::drawPixels(QPainter *painter, const QRect &place, int end, const QRect &dirty) const
+void EndsRendering::drawPixels(
+    QPainter *painter, const QRect &place, int end, const QRect &dirty) const
 {
     const int spare = place.width() - m_ends.width();
     if (spare == 0) {
@@ -86,7 +87,7 @@ void EndsPrint::drawPixels(QPainter *painter, const QRect &place, int end, const
 }
 
 // Each row as it is in the even column of the ends.
-void EndsPrint::fillRows(QPainter *painter, const QRect &part, int top, int column) const
+void EndsRendering::fillRows(QPainter *painter, const QRect &part, int top, int column) const
 {
     const QImage ends = m_ends.toImage();
     const auto *const rows = reinterpret_cast<const QRgb *>(ends.constBits()) + column;

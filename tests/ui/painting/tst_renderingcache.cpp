@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/testcase.h"
-#include "ui/painting/printpair_p.h"
+#include "ui/painting/renderingpair_p.h"
 
 #include <QScrollArea>
 #include <QScrollBar>
@@ -33,12 +33,12 @@ struct Shower : public QWidget
         bool is_drawn = false;
         prints.get(look, this, [&] {
             is_drawn = true;
-            return Print{ picture(), QPoint() };
+            return Rendering{ picture(), QPoint() };
         });
         return is_drawn;
     }
 
-    PrintPair<int> prints;
+    RenderingPair<int> prints;
 };
 
 /// Of which one in ten is seen.
@@ -64,7 +64,7 @@ struct Column
 
 } // namespace
 
-class TestPrintStore : public TestCase
+class TestRenderingCache : public TestCase
 {
     Q_OBJECT
 
@@ -75,7 +75,7 @@ private Q_SLOTS:
     void forgetsWithTheWidget();
 };
 
-void TestPrintStore::keepsTwoLooksOfEach()
+void TestRenderingCache::keepsTwoLooksOfEach()
 {
     Shower shower;
     QVERIFY(shower.show(1));
@@ -85,17 +85,17 @@ void TestPrintStore::keepsTwoLooksOfEach()
     QVERIFY(shower.show(3)); // takes the place of the look used least
     QVERIFY(!shower.show(2));
     QVERIFY(shower.show(1));
-    QCOMPARE(PrintStore::inst().bytes(), qint64(2 * print_bytes));
+    QCOMPARE(RenderingCache::inst().bytes(), qint64(2 * print_bytes));
 }
 
-void TestPrintStore::dropsWhatIsOutOfSight()
+void TestRenderingCache::dropsWhatIsOutOfSight()
 {
     Column column;
     const int seen_bytes = 22 * print_bytes;
     for (Shower *shower : column.showers) {
         column.area.ensureWidgetVisible(shower, 0, 0);
         shower->show(1);
-        QVERIFY(PrintStore::inst().bytes() <= seen_bytes + (1 << 20) + print_bytes);
+        QVERIFY(RenderingCache::inst().bytes() <= seen_bytes + (1 << 20) + print_bytes);
     }
     QVERIFY(!column.showers.back()->show(1));
     QVERIFY(column.showers.front()->show(1));
@@ -109,7 +109,7 @@ void TestPrintStore::dropsWhatIsOutOfSight()
     QVERIFY(column.showers.back()->show(1));
 }
 
-void TestPrintStore::keepsAllThatIsSeen()
+void TestRenderingCache::keepsAllThatIsSeen()
 {
     QWidget window;
     std::vector<Shower *> showers;
@@ -122,15 +122,15 @@ void TestPrintStore::keepsAllThatIsSeen()
     }
 }
 
-void TestPrintStore::forgetsWithTheWidget()
+void TestRenderingCache::forgetsWithTheWidget()
 {
     {
         Shower shower;
         shower.show(1);
-        QVERIFY(PrintStore::inst().bytes() > 0);
+        QVERIFY(RenderingCache::inst().bytes() > 0);
     }
-    QCOMPARE(PrintStore::inst().bytes(), qint64(0));
+    QCOMPARE(RenderingCache::inst().bytes(), qint64(0));
 }
 
-QTEST_MAIN(TestPrintStore)
-#include "tst_printstore.moc"
+QTEST_MAIN(TestRenderingCache)
+#include "tst_renderingcache.moc"

@@ -17,7 +17,7 @@ namespace vexo::hox::qt::ui {
 /// once for look, height and place among the device's pixels, and shared through the pixmap cache
 /// by all that look alike; between them each row is one colour and is filled. So a long shape keeps
 /// no more than a short one, and is as sharp as the device at each pixel ratio.
-class EndsPrint
+class EndsRendering
 {
 public:
     /// Draws the shape for a widget of that size, px.

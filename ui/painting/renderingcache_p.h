@@ -12,12 +12,12 @@ namespace vexo::hox::qt::ui {
 /// dropped: so a list that scrolls by leaves no more behind, and what is seen never needs to be
 /// drawn twice. They are kept apart from the toolkit's pixmap cache, from which the rows of a long
 /// list would throw the icons out.
-class PrintStore
+class RenderingCache
 {
 public:
     using Key = quint64; // 0 is none
 
-    static PrintStore &inst();
+    static RenderingCache &inst();
 
     /// False once it was dropped.
     bool find(Key key, QPixmap *print) const;

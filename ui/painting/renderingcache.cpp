@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/painting/printstore_p.h"
+#include "ui/painting/renderingcache_p.h"
 
 #include "ui/foundation/shownpart_p.h"
 
@@ -18,13 +18,13 @@ qint64 bytesOf(const QPixmap &print)
 
 // Never destroyed, since a widget of static storage may be destroyed later; it holds nothing by
 // then.
-PrintStore &PrintStore::inst()
+RenderingCache &RenderingCache::inst()
 {
-    static auto *const store = new PrintStore;
+    static auto *const store = new RenderingCache;
     return *store;
 }
 
-bool PrintStore::find(Key key, QPixmap *print) const
+bool RenderingCache::find(Key key, QPixmap *print) const
 {
     const auto entry = m_entries.constFind(key);
     if (entry == m_entries.constEnd())
@@ -33,7 +33,7 @@ bool PrintStore::find(Key key, QPixmap *print) const
     return true;
 }
 
-PrintStore::Key PrintStore::insert(const QPixmap &print, const QWidget *owner)
+RenderingCache::Key RenderingCache::insert(const QPixmap &print, const QWidget *owner)
 {
     if (m_bytes > m_swept_bytes + growth_bytes)
         sweep();
@@ -42,7 +42,7 @@ PrintStore::Key PrintStore::insert(const QPixmap &print, const QWidget *owner)
     return m_last;
 }
 
-void PrintStore::remove(Key key)
+void RenderingCache::remove(Key key)
 {
     const auto entry = m_entries.find(key);
     if (entry == m_entries.end())
@@ -52,7 +52,7 @@ void PrintStore::remove(Key key)
     m_entries.erase(entry);
 }
 
-void PrintStore::sweep()
+void RenderingCache::sweep()
 {
     for (auto entry = m_entries.begin(); entry != m_entries.end();) {
         const QWidget *owner = entry->owner;
