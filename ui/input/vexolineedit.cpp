@@ -234,7 +234,8 @@ void VexoLineEdit::setMmPenLine(double mm)
         return;
     m_mm_pen_line = mm;
     m_px_pen_line = finitePxXY(*m_scaling, mm, mm);
-    m_frame->setLine(m_px_pen_line);
+    m_frame->setMargin(m_px_pen_line / 2);
+    m_frame->setLineWidth(m_px_pen_line.y());
     setHeight();
 }
 

@@ -2,12 +2,9 @@
 #include "ui/painting/endsrendering_p.h"
 
 #include "ui/foundation/pixels_p.h"
+#include "ui/painting/renderingcache_p.h"
 
-#include <QDataStream>
-#include <QIODevice>
 #include <QImage>
-#include <QPainter>
-#include <QPixmapCache>
 #include <QtMath>
 
 namespace vexo::hox::qt::ui {
@@ -41,7 +38,13 @@ void EndsRendering::draw(QPainter *painter, const QSize &size, double end, const
     if (m_ends.size() != ends || m_size != shorter || m_to_ends != to_ends) {
         m_size = shorter;
         m_to_ends = to_ends;
-        keep(ends, draw_shape, look());
+        const QString name = look() + RenderingCache::name(" ", ends, m_size, m_to_ends);
+        m_ends = RenderingCache::shared(name, [&] {
+            return rendered(ends, 1, [&](QPainter *to) {
+                to->setTransform(m_to_ends);
+                draw_shape(to, m_size);
+            });
+        });
     }
     const QTransform world = painter->worldTransform();
     painter->setWorldTransform(to_device.inverted(), true);
@@ -49,24 +52,6 @@ void EndsRendering::draw(QPainter *painter, const QSize &size, double end, const
     drawPixels(painter, place, end_px, to_device.mapRect(QRectF(dirty)).toAlignedRect());
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setWorldTransform(world);
-}
-
-void EndsRendering::keep(const QSize &px, const DrawShape &draw_shape, const QString &look)
-{
-    QByteArray place;
-    QDataStream stream(&place, QIODevice::WriteOnly);
-    stream << m_size << m_to_ends;
-    const QString key = look + QString::fromLatin1(place.toBase64());
-    if (QPixmapCache::find(key, &m_ends) && m_ends.size() == px)
-        return;
-    m_ends = QPixmap(px);
-    m_ends.fill(Qt::transparent);
-    QPainter painter(&m_ends);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setTransform(m_to_ends);
-    draw_shape(&painter, m_size);
-    painter.end();
-    QPixmapCache::insert(key, m_ends);
 }
 
 void EndsRendering::drawPixels(

@@ -2,8 +2,6 @@
 #include "ui/painting/iconpixmap_p.h"
 
 #include <QGuiApplication>
-#include <QPainter>
-#include <QPixmapCache>
 #include <QStyle>
 #include <QStyleOption>
 
@@ -28,15 +26,11 @@ double pixelRatio(const QPainter &painter)
 
 QPixmap inverted(const QPixmap &pixmap)
 {
-    const QString key = QStringLiteral("hoxq_inverse_%1").arg(pixmap.cacheKey());
-    QPixmap inverse;
-    if (QPixmapCache::find(key, &inverse))
-        return inverse;
-    QImage image = pixmap.toImage();
-    image.invertPixels(QImage::InvertRgb);
-    inverse = QPixmap::fromImage(image);
-    QPixmapCache::insert(key, inverse);
-    return inverse;
+    return RenderingCache::shared(RenderingCache::name("inverse ", pixmap.cacheKey()), [&] {
+        QImage image = pixmap.toImage();
+        image.invertPixels(QImage::InvertRgb);
+        return QPixmap::fromImage(image);
+    });
 }
 
 void drawIconPixmap(
@@ -57,6 +51,17 @@ void drawIconPixmap(
         QPainter::SmoothPixmapTransform, pixmap.devicePixelRatio() != to_screen.m11());
     painter->drawPixmap(to_screen.inverted().map(QPointF(corner)), pixmap);
     painter->restore();
+}
+
+void IconRendering::draw(
+    QPainter *painter, const QStyle &style, const QRect &area, const QIcon &icon, const QSize &px)
+{
+    const double ratio = pixelRatio(*painter);
+    QPixmap &pixmap = m_pixmaps.of({ icon.cacheKey(), px, ratio });
+    if (pixmap.isNull())
+        pixmap = iconPixmap(icon, px, ratio);
+    if (!pixmap.isNull())
+        drawIconPixmap(painter, style, area, Qt::AlignCenter, pixmap);
 }
 
 void stretchToScreen(QPainter *painter, const QRect &area)

@@ -3,67 +3,69 @@
 
 #include "ui/foundation/shownpart_p.h"
 
+#include <QPixmapCache>
+
+#include <iterator>
+#include <unordered_set>
+
 namespace vexo::hox::qt::ui {
 
 namespace {
 
-const qint64 growth_bytes = 1 << 20;
+using All = std::unordered_set<RenderingCache::WhileSeen *>;
 
-qint64 bytesOf(const QPixmap &print)
+// Never destroyed, since a widget of static storage may be destroyed later.
+All &all()
 {
-    return qint64(print.width()) * print.height() * print.depth() / 8;
+    static auto *const renderings = new All;
+    return *renderings;
+}
+
+qint64 bytesOf(const QPixmap &pixmap)
+{
+    return qint64(pixmap.width()) * pixmap.height() * pixmap.depth() / 8;
 }
 
 } // namespace
 
-// Never destroyed, since a widget of static storage may be destroyed later; it holds nothing by
-// then.
-RenderingCache &RenderingCache::inst()
+QPixmap RenderingCache::shared(const QString &name, const std::function<QPixmap()> &make)
 {
-    static auto *const store = new RenderingCache;
-    return *store;
+    QPixmap pixmap;
+    if (QPixmapCache::find(name, &pixmap))
+        return pixmap;
+    pixmap = make();
+    QPixmapCache::insert(name, pixmap);
+    return pixmap;
 }
 
-bool RenderingCache::find(Key key, QPixmap *print) const
+RenderingCache::WhileSeen::~WhileSeen()
 {
-    const auto entry = m_entries.constFind(key);
-    if (entry == m_entries.constEnd())
-        return false;
-    *print = entry->print;
-    return true;
+    if (m_rendering)
+        all().erase(this);
 }
 
-RenderingCache::Key RenderingCache::insert(const QPixmap &print, const QWidget *owner)
+void RenderingCache::WhileSeen::keep(const Rendering &rendering, const QWidget *owner)
 {
-    if (m_bytes > m_swept_bytes + growth_bytes)
-        sweep();
-    m_bytes += bytesOf(print);
-    m_entries.insert(++m_last, { print, owner });
-    return m_last;
-}
-
-void RenderingCache::remove(Key key)
-{
-    const auto entry = m_entries.find(key);
-    if (entry == m_entries.end())
-        return;
-    m_bytes -= bytesOf(entry->print);
-    m_swept_bytes = qMin(m_swept_bytes, m_bytes);
-    m_entries.erase(entry);
-}
-
-void RenderingCache::sweep()
-{
-    for (auto entry = m_entries.begin(); entry != m_entries.end();) {
-        const QWidget *owner = entry->owner;
-        if (owner && owner->isVisible() && !shownPart(*owner).isEmpty()) {
-            ++entry;
-            continue;
-        }
-        m_bytes -= bytesOf(entry->print);
-        entry = m_entries.erase(entry);
+    const qint64 most_bytes = 1 << 20;
+    static qint64 drawn_bytes = 0; // since those out of sight were dropped
+    if (drawn_bytes > most_bytes) {
+        for (auto each = all().begin(); each != all().end();)
+            each = (*each)->dropIfUnseen() ? all().erase(each) : std::next(each);
+        drawn_bytes = 0;
     }
-    m_swept_bytes = m_bytes;
+    drawn_bytes += bytesOf(rendering.pixmap);
+    m_rendering = rendering;
+    m_owner = owner;
+    all().insert(this);
+}
+
+bool RenderingCache::WhileSeen::dropIfUnseen()
+{
+    const QWidget *const owner = m_owner;
+    if (owner && owner->isVisible() && !shownPart(*owner).isEmpty())
+        return false;
+    m_rendering.reset();
+    return true;
 }
 
 } // namespace vexo::hox::qt::ui

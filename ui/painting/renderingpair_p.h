@@ -3,74 +3,64 @@
 
 #include "ui/painting/renderingcache_p.h"
 
-#include <QPaintEngine>
-#include <QPixmap>
-#include <QPoint>
-
+#include <memory>
 #include <utility>
 
 namespace vexo::hox::qt::ui {
 
-/// Something drawn once, and the place to which it is copied, px.
-struct Rendering
-{
-    QPixmap pixmap;
-    QPoint position;
-};
-
-/// Whether a print may stand in for what it shows: a text stays one in a PDF, and for a test that
-/// asks what is drawn.
-inline bool isForScreens(const QPaintEngine &engine)
-{
-    return engine.type() == QPaintEngine::Raster;
-}
-
-/// The prints of the two looks that were used last, such as up and down, as long as the
-/// RenderingCache keeps them. \a Look tells with == what is drawn.
-template <typename Look>
-class RenderingPair
+/// What a widget keeps for the two looks that were used last: a press changes looks back and forth.
+/// \a Look tells with == all that can change; for the rest there is forget().
+template <typename Look, typename Kept>
+class LookPair
 {
 public:
-    RenderingPair() = default;
-    ~RenderingPair() { forget(); }
-    RenderingPair(const RenderingPair &) = delete;
-    RenderingPair &operator=(const RenderingPair &) = delete;
-
-    /// The print of \a look for \a owner, which \a draw makes when there is none.
-    template <typename Draw>
-    Rendering get(const Look &look, const QWidget *owner, Draw draw)
+    /// Of \a look; Kept() where it is another one.
+    Kept &of(const Look &look)
     {
-        if (!(m_first.look == look))
-            std::swap(m_first, m_second);
-        RenderingCache &store = RenderingCache::inst();
-        Rendering print{ QPixmap(), m_first.position };
-        if (m_first.look == look && store.find(m_first.key, &print.pixmap))
-            return print;
-        store.remove(m_first.key);
-        print = draw();
-        m_first = { look, print.position, store.insert(print.pixmap, owner) };
-        return print;
+        if (m_first && m_first->look == look)
+            return m_first->kept;
+        std::swap(m_first, m_second);
+        if (!m_first || !(m_first->look == look))
+            m_first.reset(new Entry{ look, Kept() });
+        return m_first->kept;
     }
-
-    /// For changes of which the looks know nothing.
     void forget()
     {
-        RenderingCache::inst().remove(m_first.key);
-        RenderingCache::inst().remove(m_second.key);
-        m_first = Entry();
-        m_second = Entry();
+        m_first.reset();
+        m_second.reset();
     }
 
 private:
     struct Entry
     {
         Look look;
-        QPoint position;
-        RenderingCache::Key key = 0;
+        Kept kept;
     };
 
-    Entry m_first; // the one used last
-    Entry m_second;
+    std::unique_ptr<Entry> m_first; // the one used last
+    std::unique_ptr<Entry> m_second;
+};
+
+/// The renderings of two looks, as long as the widget is seen.
+template <typename Look>
+class RenderingPair
+{
+public:
+    /// Of \a look, which \a owner shows; \a make makes it when there is none. Valid until the next
+    /// call of anything here.
+    template <typename Make>
+    const Rendering &get(const Look &look, const QWidget *owner, const Make &make)
+    {
+        RenderingCache::WhileSeen &kept = m_kept.of(look);
+        if (!kept.rendering())
+            kept.keep(make(), owner);
+        return *kept.rendering();
+    }
+    /// For changes of which the looks know nothing.
+    void forget() { m_kept.forget(); }
+
+private:
+    LookPair<Look, RenderingCache::WhileSeen> m_kept;
 };
 
 } // namespace vexo::hox::qt::ui

@@ -2,40 +2,46 @@
 // SPDX-License-Identifier: MIT
 
 #include "ui/painting/endsrendering_p.h"
+#include "ui/painting/renderingpair_p.h"
 
-#include <QColor>
 #include <QPen>
 #include <QPointF>
 
-class QPainter;
+#include <tuple>
 
 namespace vexo::hox::qt::ui {
 
-/// The rounded frame of a field, with its ground: its ends are rendered once for their look.
+/// QPainter::drawRoundedRect(), but with the arcs of a path, which are rounder. \a radius in px.
+void drawRoundedRect(QPainter *painter, const QRectF &rect, const QPointF &radius);
+
+/// The rounded frame of a field or button, with its ground: its ends are rendered once for each of
+/// two looks. All that changes them is set here or belongs to the painter, so it is never invalid.
 class RoundedFrame
 {
 public:
-    /// Outlines in \a color; also the pen of what else is outlined as the frame.
-    void setLineColor(const QColor &color);
-    /// The frame lies half a line inside the field; its outline is as wide as the line is high, px.
-    void setLine(const QPointF &px);
-    void setRadius(const QPointF &px);
-    void setGround(const QColor &color);
+    void setLineColor(const QColor &color) { m_pen.setColor(color); }
+    void setLineWidth(double px) { m_pen.setWidthF(px); }
+    /// From the edges of the widget to the middle of the line.
+    void setMargin(const QPointF &px) { m_margin = px; }
+    void setRadius(const QPointF &px) { m_radius = px; }
+    void setGround(const QColor &color) { m_ground = color; }
+    /// Of the line; also for what else is outlined as the frame.
     const QPen &pen() const { return m_pen; }
 
-    /// Draws what is \a dirty, px, of the frame of a field of \a size px. \a painter must
+    /// Draws what is \a dirty, px, of the frame of a widget of \a size px. \a painter must
     /// antialias.
     void draw(QPainter *painter, const QSize &size, const QRect &dirty);
 
 private:
-    void drawPath(QPainter *painter, const QSizeF &size) const;
-    QString look() const;
+    using Look = std::tuple<QColor, QPointF, QPointF, QPen>;
+
+    void drawWhole(QPainter *painter, const QSizeF &size) const;
 
     QPen m_pen;
-    QPointF m_line; // px
+    QPointF m_margin; // px
     QPointF m_radius; // px
     QColor m_ground;
-    EndsRendering m_ends;
+    LookPair<Look, EndsRendering> m_ends;
 };
 
 } // namespace vexo::hox::qt::ui
