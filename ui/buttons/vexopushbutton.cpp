@@ -2,13 +2,13 @@
 #include "ui/buttons/vexopushbutton.h"
 
 #include "ui/buttons/pushbutton/buttontexts_p.h"
-#include "ui/buttons/pushbutton/pill_p.h"
-#include "ui/buttons/pushbutton/shownimage_p.h"
 #include "ui/buttons/pushbutton/stateimages_p.h"
 #include "ui/buttons/tone_p.h"
 #include "ui/foundation/accessible_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
+#include "ui/painting/iconpixmap_p.h"
+#include "ui/painting/roundedframe_p.h"
 #include "ui/painting/styledbackground_p.h"
 #include "ui/touch/press_p.h"
 
@@ -33,7 +33,7 @@ VexoPushButton::VexoPushButton(QWidget *parent)
     , m_mm_icon_size(STANDARD_ICON_SIZE_IN_MM)
     , m_visible_buddies(std::make_unique<VisibleBuddies>())
     , m_styled_background(std::make_unique<StyledBackground>())
-    , m_pill(std::make_unique<Pill>())
+    , m_pill(std::make_unique<RoundedFrame>())
     , m_texts(std::make_unique<ButtonTexts>())
 {
     setupUi();
@@ -131,6 +131,7 @@ void VexoPushButton::setMmMargin(const QSizeF &mm)
 {
     m_mm_margin = mm;
     m_px_margin = finitePxSize(*m_scaling, mm);
+    m_pill->setMargin({ m_px_margin.width(), m_px_margin.height() });
     setIconDimension();
     setHeight();
     update();
@@ -140,6 +141,7 @@ void VexoPushButton::setMmRadius(double mm)
 {
     m_mm_radius = mm;
     m_px_radius = finitePxSize(*m_scaling, QSizeF(mm, mm));
+    m_pill->setRadius({ m_px_radius.width(), m_px_radius.height() });
     setIconDimension();
     setHeight();
     update();
@@ -234,6 +236,7 @@ void VexoPushButton::setTextInactiveColor(const QColor &color)
 void VexoPushButton::setPenColor(const QColor &color)
 {
     m_pen.setColor(color);
+    m_pill->setLineColor(color);
     update();
 }
 
@@ -241,6 +244,7 @@ void VexoPushButton::setMmPenLine(double mm)
 {
     m_mm_pen_line = mm;
     m_pen.setWidthF(qMax(0.0, finitePx(m_scaling->mm2px_Y(float(mm)))));
+    m_pill->setLineWidth(m_pen.widthF());
     update();
 }
 
@@ -308,7 +312,7 @@ void VexoPushButton::paintEvent(QPaintEvent *event)
     const TextPlace texts_place = drawGround(&painter, event->rect());
     m_texts->draw(&painter, textsOfNow(), size(), texts_place);
     if (icon)
-        m_image->draw(&painter, *style(), m_icon_rect, *icon);
+        m_image->draw(&painter, *style(), m_icon_rect, *icon, m_icon_rect.size());
 }
 
 void VexoPushButton::setAndRepaint(QColor *field, const QColor &color)
@@ -320,7 +324,7 @@ void VexoPushButton::setAndRepaint(QColor *field, const QColor &color)
 void VexoPushButton::storeImage(const QString &path, const QSizeF &mm, ButtonState state)
 {
     const CachedVectorIcon &image = renderImage(&m_icons, path, mm, state);
-    m_image = std::make_unique<ShownImage>();
+    m_image = std::make_unique<IconRendering>();
     if (state == Standard)
         setIcon(image);
 }
@@ -334,9 +338,9 @@ TextPlace VexoPushButton::drawGround(QPainter *painter, const QRect &dirty)
         painter->fillRect(whole, fill);
         return { whole, { fill, whole } };
     }
-    const Pill::Look look{ m_px_margin, m_px_radius, fill, m_pen };
-    m_pill->draw(painter, size(), look, dirty);
-    return { look.inside(size()), { fill, look.evenArea(size()) } };
+    m_pill->setGround(fill);
+    m_pill->draw(painter, size(), dirty);
+    return { m_pill->outline(size()), { fill, m_pill->evenGround(size()) } };
 }
 
 TextContent VexoPushButton::textsOfNow() const

@@ -19,9 +19,9 @@ class QFontMetrics;
 namespace vexo::hox::qt::ui {
 
 class ButtonTexts;
-class Pill;
+class IconRendering;
+class RoundedFrame;
 class ScalingInfo;
-class ShownImage;
 class StyledBackground;
 class VisibleBuddies;
 struct TextContent;
@@ -212,9 +212,9 @@ private:
     Qt::Alignment m_text_alignment = Qt::AlignCenter;
 
     const std::unique_ptr<StyledBackground> m_styled_background;
-    const std::unique_ptr<Pill> m_pill;
+    const std::unique_ptr<RoundedFrame> m_pill;
     const std::unique_ptr<ButtonTexts> m_texts;
-    std::unique_ptr<ShownImage> m_image; // made with each image
+    std::unique_ptr<IconRendering> m_image; // made with each image
 };
 
 } // namespace vexo::hox::qt::ui

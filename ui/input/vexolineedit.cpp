@@ -11,7 +11,7 @@
 #include "ui/input/lineeditaccessible_p.h"
 #include "ui/input/secrettext_p.h"
 #include "ui/input/sidewidget_p.h"
-#include "ui/painting/fieldframe_p.h"
+#include "ui/painting/roundedframe_p.h"
 #include "ui/touch/press_p.h"
 
 #include <QLabel>
@@ -28,7 +28,7 @@ VexoLineEdit::VexoLineEdit(QWidget *parent)
     , m_scaling(ScalingInfo::inst())
     , m_tone_delegator(VexoFeedbackDelegator::tone_delegator)
     , m_cursor_timer(new CursorBlink(this))
-    , m_frame(std::make_unique<FieldFrame>())
+    , m_frame(std::make_unique<RoundedFrame>())
     , m_content(std::make_unique<FieldContent>())
 {
     installAccessible<VexoLineEdit, LineEditAccessible>();
@@ -287,7 +287,8 @@ void VexoLineEdit::applyMeasures()
     m_px_margin = px(m_mm_margin.width(), m_mm_margin.height());
     m_px_pen_line = px(m_mm_pen_line, m_mm_pen_line);
     m_frame->setRadius(px(m_mm_radius, m_mm_radius));
-    m_frame->setLine(m_px_pen_line);
+    m_frame->setMargin(m_px_pen_line / 2);
+    m_frame->setLineWidth(m_px_pen_line.y());
     const int inner_px = pxY(*m_scaling, 2 * (m_mm_radius + m_mm_margin.height()));
     setFixedHeight(widgetPx(truncated(inner_px + m_px_pen_line.y())));
     calculateCursorPosition();

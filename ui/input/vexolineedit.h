@@ -23,7 +23,7 @@ namespace vexo::hox::qt::ui {
 
 class CursorBlink;
 class FieldContent;
-class FieldFrame;
+class RoundedFrame;
 class ScalingInfo;
 class VexoFeedbackDelegator;
 class VexoIconButton;
@@ -231,7 +231,7 @@ private:
     QPointer<QLabel> m_leading_label; // made when it is used; so is all that may be null here
     QPointer<VexoIconButton> m_trailing_button;
     QFont m_font;
-    const std::unique_ptr<FieldFrame> m_frame;
+    const std::unique_ptr<RoundedFrame> m_frame;
     QPen m_cursor_pen = QPen(DEFAULT_CURSOR_COLOR, 1);
     QPainter m_painter;
     int m_cursor_top = 0; // px

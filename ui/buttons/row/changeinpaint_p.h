@@ -1,8 +1,8 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
-#include "ui/foundation/withoutrepaint_p.h"
 #include "ui/foundation/shownpart_p.h"
+#include "ui/foundation/withoutrepaint_p.h"
 
 #include <QRegion>
 

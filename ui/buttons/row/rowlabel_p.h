@@ -1,7 +1,7 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
-#include "ui/painting/printpair_p.h"
+#include "ui/painting/renderingpair_p.h"
 #include "ui/painting/styledbackground_p.h"
 
 #include <QColor>
@@ -71,7 +71,7 @@ private:
 
     QColor ink() const;
     Look lookOfNow(const QColor &ground) const;
-    Print print(const QColor &ground);
+    Rendering renderOn(const QColor &ground);
     void paintAnew(QPaintEvent *event);
     bool isPlain() const;
     const Line &line() const;
@@ -81,9 +81,9 @@ private:
     bool m_is_laid_out = false;
     mutable Line m_line; // of the text that was measured last
     StyledBackground m_styled_background;
-    PrintPair<Look> m_prints;
-    Print m_shown; // for the paint to come; null to paint as any label
-    QImage *m_print_image = nullptr; // while it is drawn
+    RenderingPair<Look> m_renderings;
+    Rendering m_shown; // for the paint to come; null to paint as any label
+    QImage *m_render_target = nullptr; // while it is drawn
     bool m_is_inking = false;
 };
 
