@@ -43,13 +43,6 @@ private:
 
 namespace {
 
-int setting(const char *name, int standard)
-{
-    bool is_number = false;
-    const int value = qEnvironmentVariableIntValue(name, &is_number);
-    return is_number ? value : standard;
-}
-
 /// Those that the library's classes declare, and what an application sets on each widget.
 QVector<QMetaProperty> propertiesOf(const QWidget *widget)
 {
@@ -151,7 +144,7 @@ QVariant TestPropertyFuzz::extreme(const QMetaProperty &property)
 void TestPropertyFuzz::noValueHurts()
 {
     QFETCH(const WalkedClass *, walked);
-    m_random.seed(quint32(setting("HOXQ_FUZZ_SEED", 1)));
+    m_random.seed(quint32(asked("HOXQ_FUZZ_SEED", 1)));
     QWidget window;
     window.setFixedSize(1024, 600);
     QWidget *widget = walked->make(&window);
@@ -160,7 +153,7 @@ void TestPropertyFuzz::noValueHurts()
     if (properties.isEmpty())
         return;
     QString steps; // until here
-    for (int i = setting("HOXQ_FUZZ_STEPS", 100); i > 0; --i) {
+    for (int i = asked("HOXQ_FUZZ_STEPS", 100); i > 0; --i) {
         const QMetaProperty property = oneOf(properties);
         const QVariant value = m_random.bounded(8) == 0 ? wrong() : extreme(property);
         QString shown;

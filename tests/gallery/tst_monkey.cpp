@@ -133,8 +133,8 @@ void TestMonkey::nothingStaysDownOrWronglyPainted()
 {
     QFETCH(QSize, px);
     QFETCH(QSizeF, mm);
-    const int touches = qMax(60, qEnvironmentVariableIntValue("HOXQ_MONKEY_TOUCHES"));
-    const int seed = qEnvironmentVariableIntValue("HOXQ_MONKEY_SEED");
+    const int touches = asked("HOXQ_MONKEY_TOUCHES", 60);
+    const int seed = asked("HOXQ_MONKEY_SEED", 0);
     virtualclock::start();
     PanelOptions options;
     options.px = px;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "support/onscreen.h"
+#include "support/testcase.h"
 
 #include <QRandomGenerator>
 
@@ -45,8 +46,7 @@ private:
 template <typename Screen, typename Make>
 void tellStories(int changes, int of_a_story, Make make)
 {
-    const int asked = qEnvironmentVariableIntValue("HOXQ_CHANGES");
-    for (int done = 0; done < (asked > 0 ? asked : changes); done += of_a_story) {
+    for (int done = 0; done < asked("HOXQ_CHANGES", changes); done += of_a_story) {
         const auto seed = quint32(done + 1);
         const std::unique_ptr<Screen> screen = make(seed);
         QRandomGenerator turns(seed);

@@ -23,6 +23,14 @@ protected Q_SLOTS:
     void cleanup();
 };
 
+/// What the environment variable \a name says, to make a random test longer or another one.
+inline int asked(const char *name, int otherwise)
+{
+    bool is_number = false;
+    const int value = qEnvironmentVariableIntValue(name, &is_number);
+    return is_number ? value : otherwise;
+}
+
 /// Records what is printed while it lives, each line as "debug hoxq.CVI: text"; warnings do not
 /// fail the test then.
 class Messages

@@ -95,14 +95,14 @@ void TestNoisyFinger::tapsAndSlidesAreWhatTheyAre_data()
 void TestNoisyFinger::tapsAndSlidesAreWhatTheyAre()
 {
     QFETCH(QSizeF, px_per_mm);
-    const int touches = qMax(150, qEnvironmentVariableIntValue("HOXQ_NOISY_TOUCHES"));
+    const int touches = asked("HOXQ_NOISY_TOUCHES", 150);
     PanelOptions options;
     options.px = QSize(1000, 1000);
     options.mm = QSizeF(1000 / px_per_mm.width(), 1000 / px_per_mm.height());
     Panel::setUp(*qApp, options);
     List list;
     QVERIFY(QTest::qWaitForWindowExposed(&list.window));
-    const auto seed = quint32(qEnvironmentVariableIntValue("HOXQ_NOISY_SEED"));
+    const auto seed = quint32(asked("HOXQ_NOISY_SEED", 0));
     Finger finger(&list.window, seed + 1);
     finger.setJitter(0.5).setBounce(30).setWiggle(1);
     QRandomGenerator random(seed + 2);

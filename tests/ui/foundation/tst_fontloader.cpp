@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/effort.h"
 #include "support/panelscale.h"
 #include "support/testcase.h"
 
@@ -18,19 +19,6 @@
 #include <sys/stat.h>
 
 using namespace vexo::hox::qt::ui;
-
-namespace {
-
-// KiB.
-qint64 anonymousMemory()
-{
-    QFile status("/proc/self/status");
-    status.open(QIODevice::ReadOnly);
-    const QByteArray text = status.readAll();
-    return text.mid(text.indexOf("RssAnon:") + 8).simplified().split(' ').value(0).toLongLong();
-}
-
-} // namespace
 
 class TestFontLoader : public TestCase
 {
@@ -173,14 +161,14 @@ void TestFontLoader::bundleThatGoesLeavesAFaceInUse()
 void TestFontLoader::fallbackTakesNoCopyOfItsBytes()
 {
     FontLoader(); // what the toolkit takes once
-    const qint64 before = anonymousMemory();
+    const qint64 before = Effort::statusKib("RssAnon:");
     const int a_quarter_of_a_font_kib = 3451744 / 1024 / 4;
     for (int i = 0; i < 4; ++i) {
         const QString family = FontLoader::loadFont(":/fonts/DroidSansFallback.ttf");
         QVERIFY(QRawFont::fromFont(QFont(family)).supportsCharacter(QChar(0x4e00)));
     }
-    QVERIFY2(anonymousMemory() - before < 4 * a_quarter_of_a_font_kib,
-        QByteArray::number(anonymousMemory() - before));
+    QVERIFY2(Effort::statusKib("RssAnon:") - before < 4 * a_quarter_of_a_font_kib,
+        QByteArray::number(Effort::statusKib("RssAnon:") - before));
 }
 
 QTEST_MAIN(TestFontLoader)

@@ -353,12 +353,6 @@ QByteArray RandomScreen::fault()
     return fault.isEmpty() ? fault : fault + "\n" + m_history.join('\n');
 }
 
-int numberFrom(const char *variable, int otherwise)
-{
-    const QByteArray value = qgetenv(variable);
-    return value.isEmpty() ? otherwise : value.toInt();
-}
-
 } // namespace
 
 /// Every class under a finger that does what it likes. HOXQ_TOUCH_EVENTS and HOXQ_TOUCH_SEED make
@@ -377,8 +371,8 @@ private:
 void TestRandomTouch::noClickIsLostDoubledOrUnwanted()
 {
     qRegisterMetaType<QMouseEvent *>("QMouseEvent*");
-    const int seed = numberFrom("HOXQ_TOUCH_SEED", 1);
-    const int events = numberFrom("HOXQ_TOUCH_EVENTS", 5000);
+    const int seed = asked("HOXQ_TOUCH_SEED", 1);
+    const int events = asked("HOXQ_TOUCH_EVENTS", 5000);
     RandomScreen screen{ quint32(seed) };
     QVERIFY(screen.appear());
     for (int i = 0; i < events; ++i) {
