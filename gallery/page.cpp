@@ -2,6 +2,7 @@
 #include "gallery/page.h"
 
 #include "gallery/measures.h"
+#include "gallery/widgets/tilelayout.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -44,6 +45,19 @@ void Page::addBlock(QLayout *block)
 {
     m_layout->addSpacing(mmY(3));
     m_layout->addLayout(block);
+}
+
+TileLayout *Page::addTiles(double column, const QSizeF &gap)
+{
+    auto *tiles = new TileLayout(mmX(column), mmSize(gap.width(), gap.height()));
+    addBlock(tiles);
+    return tiles;
+}
+
+TileLayout *Page::addTiles(const QString &heading, double column, const QSizeF &gap)
+{
+    addSection(heading);
+    return addTiles(column, gap);
 }
 
 QLabel *Page::createText(const QString &text, double pt, int weight)

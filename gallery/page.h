@@ -7,6 +7,7 @@
 class QLabel;
 class QLayout;
 class QVBoxLayout;
+class TileLayout;
 
 /// Base of the gallery's pages: a title, a sentence, and below them what the page adds, section by
 /// section. The page is as wide as the window lets it and scrolls when it is too high.
@@ -34,6 +35,9 @@ protected:
     /// Appends to the current section, the page takes ownership.
     void addBlock(QWidget *block);
     void addBlock(QLayout *block);
+    /// Appends tiles, to be filled; mm. With a heading they start a section.
+    TileLayout *addTiles(double column, const QSizeF &gap = QSizeF(4, 4));
+    TileLayout *addTiles(const QString &heading, double column, const QSizeF &gap = QSizeF(4, 4));
 
     /// A widget with a caption below it.
     static QLayout *createCaptioned(QWidget *widget, const QString &caption);

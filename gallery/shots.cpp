@@ -26,12 +26,12 @@ QImage picture(MainWindow &window)
     return image;
 }
 
-QString fileName(int page)
+} // namespace
+
+QString shotName(int page)
 {
     return QString("%1-%2.png").arg(page + 1, 2, 10, QChar('0')).arg(pageList().at(page).name);
 }
-
-} // namespace
 
 void takeShots(MainWindow &window, const QVector<int> &pages, const QString &folder)
 {
@@ -43,7 +43,7 @@ void takeShots(MainWindow &window, const QVector<int> &pages, const QString &fol
         window.showPage(page);
         window.resize(panel);
         window.showWholePage();
-        const QString file = QDir(folder).filePath(fileName(page));
+        const QString file = QDir(folder).filePath(shotName(page));
         if (!picture(window).save(file))
             throw std::runtime_error("cannot write " + file.toStdString());
         std::printf("%s\n", qPrintable(file));

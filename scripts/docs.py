@@ -397,6 +397,10 @@ def faults(classes, rows):
             yield f"{entry.header}: no comment describes {code}"
     for path in sorted({*headers()} - {entry.header for entry in classes.values()}):
         yield f"{path}: documents no class"
+    folders = Path("CONTRIBUTING.md").read_text()
+    for folder in sorted(path.parent for path in Path().glob("[a-z]*/CMakeLists.txt")):
+        if f"`{folder}/`" not in folders:
+            yield f"CONTRIBUTING.md: tells nothing of {folder}/"
     for room in tree.circles(tree.rooms()):
         yield f"ui/{room}: includes what includes it"
 

@@ -4,7 +4,6 @@
 
 #include <QFile>
 #include <QRegularExpression>
-#include <QTest>
 #include <VexoLineEdit>
 #include <VexoPushButton>
 
@@ -45,8 +44,8 @@ void TestMemory::keepsNoMoreThanItMay_data()
     const QString text = QString::fromUtf8(rows.readAll());
     const std::vector<bench::Pair> &pairs = bench::pairs();
     for (std::size_t i = 0; i < pairs.size(); ++i) {
-        const QRegularExpression row(QStringLiteral("\nmemory \\| %1 \\|.*\\| ([0-9.]+)\n")
-                                         .arg(QLatin1String(pairs[i].name)));
+        const QRegularExpression row(
+            QString("\nmemory \\| %1 \\|.*\\| ([0-9.]+)\n").arg(QLatin1String(pairs[i].name)));
         QTest::newRow(pairs[i].name) << int(i) << row.match(text).captured(1).toDouble();
     }
 }
@@ -59,7 +58,7 @@ void TestMemory::keepsNoMoreThanItMay()
     const double stock = bench::keptBytes(pair.stock);
     const double kept = bench::keptBytes(pair.library);
     QVERIFY(stock > 1000); // else nothing was counted
-    QVERIFY2(kept <= most * stock, qPrintable(QStringLiteral("%1 bytes").arg(kept)));
+    QVERIFY2(kept <= most * stock, qPrintable(QString("%1 bytes").arg(kept)));
 }
 
 void TestMemory::longOnesKeepNoMoreThanShortOnes()

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "support/onscreen.h"
+#include "support/paintcounter.h"
 #include "support/propertywalk.h"
 #include "support/testcase.h"
 
 #include <QColor>
-#include <QTest>
 
 /// One sound property of each kind and three faulty ones: shows that the walk finds faults.
 class Sample : public QWidget
@@ -40,40 +41,88 @@ class TestProperties : public TestCase
 
 private Q_SLOTS:
     void walkFindsFaults();
-    void propertiesOfEveryClassHold_data();
+    void propertiesOfEveryClassHold_data() { addWalkedClasses(); }
     void propertiesOfEveryClassHold();
+    void changeRepaintsOnce_data();
+    void changeRepaintsOnce();
+    void changeShowsAsOnANewOne_data() { addWalkedClasses(); }
+    void changeShowsAsOnANewOne();
 };
 
 void TestProperties::walkFindsFaults()
 {
     Sample sample;
     const QStringList expected = {
-        QStringLiteral("hidden_in_designer is not designable"),
-        QStringLiteral("deaf does not keep a value written by name"),
-        QStringLiteral("deaf does not take a value from a stylesheet"),
-        QStringLiteral("clamped does not take a value from a stylesheet"),
+        "hidden_in_designer is not designable",
+        "deaf does not keep a value written by name",
+        "deaf does not take a value from a stylesheet",
+        "clamped does not take a value from a stylesheet",
     };
     QCOMPARE(propertyFaults(&sample).join(QLatin1Char('\n')), expected.join(QLatin1Char('\n')));
 }
 
-void TestProperties::propertiesOfEveryClassHold_data()
-{
-    QTest::addColumn<int>("index");
-    const auto &classes = walkedClasses();
-    for (size_t i = 0; i < classes.size(); ++i)
-        QTest::newRow(classes[i].name) << int(i);
-}
-
 void TestProperties::propertiesOfEveryClassHold()
 {
-    QFETCH(int, index);
-    const WalkedClass &walked = walkedClasses()[size_t(index)];
+    QFETCH(const WalkedClass *, walked);
     QWidget window;
-    QWidget *widget = walked.make(&window);
+    QWidget *widget = walked->make(&window);
     QCOMPARE(widget->parentWidget(), &window);
     QCOMPARE(QByteArray(widget->metaObject()->className()),
-        QByteArray("vexo::hox::qt::ui::") + walked.name);
+        QByteArray("vexo::hox::qt::ui::") + walked->name);
     QCOMPARE(propertyFaults(widget).join(QLatin1Char('\n')), QString());
+}
+
+void TestProperties::changeRepaintsOnce_data()
+{
+    QTest::addColumn<const WalkedClass *>("walked");
+    QTest::addColumn<QByteArrayList>("others"); // which change nothing, or more than this widget
+    const QHash<QByteArray, QByteArrayList> all_others{
+        { "VexoDesignVectorButton", {} },
+        { "VexoHorizontalTextIconButton",
+            { "mm_height", "left_side_text_percent_width", "right_side_text_percent_width" } },
+        { "VexoKeyboardButton", { "height_in_mm" } },
+        { "VexoLabel", { "pt_font_size", "height_in_mm", "text_alignment" } },
+        { "VexoLineSpacer", {} },
+        { "VexoLogoLabel", {} },
+        { "VexoRuler", { "m_first_line_color", "m_second_line_color" } }, // until the next style
+        { "VexoSlider", {} },
+    };
+    for (const WalkedClass &walked : walkedClasses()) {
+        if (all_others.contains(walked.name))
+            QTest::newRow(walked.name) << &walked << all_others[walked.name];
+    }
+}
+
+void TestProperties::changeRepaintsOnce()
+{
+    QFETCH(const WalkedClass *, walked);
+    const std::unique_ptr<QWidget> widget(walked->make(nullptr));
+    QTEST(propertiesWithoutOneRepaint(widget.get()), "others");
+}
+
+// Nothing that a paint keeps outlives a change.
+void TestProperties::changeShowsAsOnANewOne()
+{
+    QFETCH(const WalkedClass *, walked);
+    const QMetaObject *meta = std::unique_ptr<QWidget>(walked->make(nullptr))->metaObject();
+    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i) {
+        const QMetaProperty property = meta->property(i);
+        const std::unique_ptr<QWidget> painted(walked->make(nullptr));
+        const std::unique_ptr<QWidget> fresh(walked->make(nullptr));
+        const QVariant value = otherValue(property, property.read(fresh.get()), 3);
+        for (QWidget *widget : { painted.get(), fresh.get() }) {
+            for (const char *name : { "text", "subtext" }) // an empty label keeps its size
+                widget->setProperty(name, "text");
+            widget->resize(300, 200);
+        }
+        painted->grab();
+        for (QWidget *widget : { painted.get(), fresh.get() }) {
+            property.write(widget, value);
+            widget->grab();
+            settle(); // lays out
+        }
+        QVERIFY2(painted->grab().toImage() == fresh->grab().toImage(), property.name());
+    }
 }
 
 QTEST_MAIN(TestProperties)

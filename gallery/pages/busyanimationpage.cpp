@@ -24,11 +24,6 @@ QLayout *createTile(QWidget *sign, const QString &caption)
     return tile;
 }
 
-TileLayout *createTiles(double column_mm)
-{
-    return new TileLayout(mmX(column_mm), mmSize(4, 4));
-}
-
 } // namespace
 
 BusyAnimationPage::BusyAnimationPage()
@@ -54,8 +49,7 @@ void BusyAnimationPage::hideEvent(QHideEvent *event)
 
 void BusyAnimationPage::addSizes()
 {
-    addSection("Sizes and grounds");
-    TileLayout *tiles = createTiles(20);
+    TileLayout *tiles = addTiles("Sizes and grounds", 20);
     for (const int mm : { 8, 16 }) {
         const QString caption = QString("%1 x %1 mm").arg(mm);
         tiles->addLayout(
@@ -65,13 +59,11 @@ void BusyAnimationPage::addSizes()
             createTile(adopt(new BusySign(BusySign::ringFiles("C0"), mm), VexoColors::C3),
                 caption + ", light images"));
     }
-    addBlock(tiles);
 }
 
 void BusyAnimationPage::addSpeeds()
 {
-    addSection("Speeds");
-    TileLayout *tiles = createTiles(30);
+    TileLayout *tiles = addTiles("Speeds", 30);
     const auto add = [&](int steps, int step_ms, const QString &caption) {
         auto *sign = new BusySign(BusySign::ringFiles("C3", steps), 10, step_ms);
         tiles->addLayout(createTile(adopt(sign, VexoColors::C1), caption));
@@ -79,17 +71,15 @@ void BusyAnimationPage::addSpeeds()
     add(12, 0, "twelve images: a turn in 6 s");
     add(4, 0, "four images: a turn in 2 s");
     add(12, 100, "twelve images, a timer of the application takes one every 100 ms: 1.2 s");
-    addBlock(tiles);
 }
 
 void BusyAnimationPage::addMissingFile()
 {
     addSection("A missing file");
     const QStringList files{ BusySign::ringFiles("C3").constFirst(), "missing.svg" };
-    TileLayout *tiles = createTiles(46);
+    TileLayout *tiles = addTiles(46);
     tiles->addLayout(createTile(adopt(new BusySign(files, 10), VexoColors::C1),
         "The second of two cannot be read: nothing is shown in its step"));
-    addBlock(tiles);
 }
 
 QWidget *BusyAnimationPage::adopt(BusySign *sign, const QColor &ground)

@@ -111,7 +111,7 @@ FormPage::FormPage()
 
 void FormPage::addTexts()
 {
-    TileLayout *tiles = addTiles("Device");
+    TileLayout *tiles = addTiles("Device", 48);
     addContainer(tiles, "Name", createField("Front door"));
     addContainer(tiles, "Network address", createField("192.168.0.24"));
     auto *status = new VexoLabel("Connected");
@@ -134,7 +134,7 @@ void FormPage::addSliders()
 
 void FormPage::addControls()
 {
-    TileLayout *tiles = addTiles("Standby");
+    TileLayout *tiles = addTiles("Standby", 48);
     addContainer(tiles, "Standby after, min", createStepper());
     addContainer(tiles, "At night", createSwitch("Dark screen"));
     VexoPushButton *restart = createButton("Restart");
@@ -144,7 +144,7 @@ void FormPage::addControls()
 
 void FormPage::addReplaced()
 {
-    TileLayout *tiles = addTiles("Another payload, and none");
+    TileLayout *tiles = addTiles("Another payload, and none", 48);
     addSwap(tiles);
     addRemoval(tiles);
 }
@@ -192,8 +192,7 @@ void FormPage::addBuddy()
     visible->setText("Use a proxy; its port is the buddy of its address");
     visible->setChecked(true);
     addBlock(visible);
-    auto *tiles = new TileLayout(mmX(48), mmSize(4, 4));
-    addBlock(tiles);
+    TileLayout *tiles = addTiles(48);
     Container *address = addContainer(tiles, "Proxy", createField("proxy.example"));
     Container *port = addContainer(tiles, "Port", createField("8080"));
     address->addVisibleBuddy(port);
@@ -206,12 +205,4 @@ void FormPage::putAside(QWidget *payload)
 {
     payload->setParent(this);
     payload->hide();
-}
-
-TileLayout *FormPage::addTiles(const QString &heading, double column_mm)
-{
-    addSection(heading);
-    auto *tiles = new TileLayout(mmX(column_mm), mmSize(4, 4));
-    addBlock(tiles);
-    return tiles;
 }

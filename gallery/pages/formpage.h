@@ -29,5 +29,4 @@ private:
     void addRemoval(TileLayout *tiles);
     void addBuddy();
     void putAside(QWidget *payload);
-    TileLayout *addTiles(const QString &heading, double column_mm = 48);
 };

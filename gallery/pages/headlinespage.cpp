@@ -52,7 +52,7 @@ HeadlinesPage::HeadlinesPage()
 
 void HeadlinesPage::addIcons()
 {
-    TileLayout *tiles = addTiles("Icons");
+    TileLayout *tiles = addTiles("Icons", 70);
     addOutlined(tiles, createHeadline("Menu"));
     addOutlined(tiles, createHeadline("About this panel", ":/VexoIconGeneralInfoSvg"));
     addOutlined(tiles, createHeadline("Finished", ":/VexoIconGeneralTickSvg"));
@@ -63,7 +63,7 @@ void HeadlinesPage::addIcons()
 
 void HeadlinesPage::addSizes()
 {
-    TileLayout *tiles = addTiles("Sizes");
+    TileLayout *tiles = addTiles("Sizes", 70);
     Headline *small = createHeadline("Small");
     small->setSvgImage(menu, QSizeF(0, 4));
     small->setPtFontSize(7);
@@ -85,7 +85,7 @@ void HeadlinesPage::addSizes()
 
 void HeadlinesPage::addTexts()
 {
-    TileLayout *tiles = addTiles("Texts");
+    TileLayout *tiles = addTiles("Texts", 70);
     addOutlined(tiles,
         createHeadline("A text that needs more room than its headline has beside the icon"),
         "cut at the end; the place of the icon gives way before");
@@ -101,19 +101,11 @@ void HeadlinesPage::addTexts()
 
 void HeadlinesPage::addSheets()
 {
-    TileLayout *tiles = addTiles("Stylesheet");
+    TileLayout *tiles = addTiles("Stylesheet", 70);
     addOutlined(tiles, createHeadline("Without a rule"),
         "The panel's sheets have no rule for headlines: what lies behind shows through");
     Headline *dark = createHeadline("Enter a name", ":/VexoIconGeneralEnterC0");
     dark->setStyleSheet(
         QString("background: %1; color: %2;").arg(VexoColors::C3.name(), VexoColors::C0.name()));
     addOutlined(tiles, dark, "With a sheet of the application, which also colours the text");
-}
-
-TileLayout *HeadlinesPage::addTiles(const QString &heading)
-{
-    addSection(heading);
-    auto *tiles = new TileLayout(mmX(70), mmSize(4, 4));
-    addBlock(tiles);
-    return tiles;
 }

@@ -3,8 +3,6 @@
 
 #include "gallery/page.h"
 
-class TileLayout;
-
 /// VexoImageHeadline: icons, sizes, long texts, languages, and grounds from a stylesheet.
 class HeadlinesPage : public Page
 {
@@ -16,5 +14,4 @@ private:
     void addSizes();
     void addTexts();
     void addSheets();
-    TileLayout *addTiles(const QString &heading);
 };

@@ -81,8 +81,7 @@ IconButtonsPage::IconButtonsPage()
 
 void IconButtonsPage::addStates()
 {
-    addSection("States");
-    auto *tiles = new TileLayout(mmX(18), mmSize(4, 4));
+    TileLayout *tiles = addTiles("States", 18);
     const auto add = [tiles](QWidget *widget, const QString &caption) {
         tiles->addLayout(createCaptioned(widget, caption));
     };
@@ -100,13 +99,11 @@ void IconButtonsPage::addStates()
     add(onGround(generated, VexoColors::C4), "inverse");
     VexoIconButton *plain = createPlainButton("Shift", ":/VexoIconGeneralShift");
     add(onGround(plain, VexoColors::C1), "no clicked icon");
-    addBlock(tiles);
 }
 
 void IconButtonsPage::addBlinking()
 {
-    addSection("Blinking in step");
-    auto *tiles = new TileLayout(mmX(50), mmSize(4, 4));
+    TileLayout *tiles = addTiles("Blinking in step", 50);
     for (QTimer *timer : { &m_slow, &m_fast }) {
         auto *row = new QHBoxLayout;
         row->setSpacing(mmX(2));
@@ -116,9 +113,8 @@ void IconButtonsPage::addBlinking()
             row->addWidget(onGround(button, VexoColors::C1));
         }
         row->addWidget(createText(QString("every %1 ms").arg(timer->interval())), 1);
-        tiles->addItem(row);
+        tiles->addLayout(row);
     }
-    addBlock(tiles);
 }
 
 void IconButtonsPage::addOneShot()

@@ -50,15 +50,14 @@ IconTilesPage::IconTilesPage()
         "Each tile is a VexoCenteredVectorButton of fixed size, 30 x 28 mm unless told otherwise. "
         "Its icon is what is pressed.")
 {
-    addTiles();
+    addPressed();
     addStates();
     addMeasures();
 }
 
-void IconTilesPage::addTiles()
+void IconTilesPage::addPressed()
 {
-    addSection("Press the icons");
-    auto *tiles = new TileLayout(mmX(30), mmSize(1, 1));
+    TileLayout *tiles = addTiles("Press the icons", 30, { 1, 1 });
     const QStringList texts{ "Add", "Remove", "Confirm" };
     const QStringList icons{ plus, minus, tick };
     for (int i = 0; i < texts.size(); ++i) {
@@ -66,13 +65,11 @@ void IconTilesPage::addTiles()
         countPresses(tile);
         tiles->addWidget(tile);
     }
-    addBlock(tiles);
 }
 
 void IconTilesPage::addStates()
 {
-    addSection("States");
-    auto *tiles = new TileLayout(mmX(30), mmSize(1, 1));
+    TileLayout *tiles = addTiles("States", 30, { 1, 1 });
     VexoCenteredVectorButton *checked = createTile(tick, "Light", "checked");
     checked->getButtonInstance()->setCheckable(true);
     checked->getButtonInstance()->setChecked(true);
@@ -82,13 +79,11 @@ void IconTilesPage::addStates()
     tiles->addWidget(checked);
     tiles->addWidget(inactive);
     tiles->addWidget(createTile(tick, "Text only"));
-    addBlock(tiles);
 }
 
 void IconTilesPage::addMeasures()
 {
-    addSection("Measures");
-    auto *tiles = new TileLayout(mmX(40), mmSize(1, 1));
+    TileLayout *tiles = addTiles("Measures", 40, { 1, 1 });
     VexoCenteredVectorButton *small = createTile(plus, "20 x 18 mm");
     small->setWidthInMm(20);
     small->setHeightInMm(18);
@@ -103,5 +98,4 @@ void IconTilesPage::addMeasures()
     large->setTextFontSizeInPt(13);
     tiles->addWidget(large);
     tiles->setAlignment(small, Qt::AlignLeft | Qt::AlignTop);
-    addBlock(tiles);
 }

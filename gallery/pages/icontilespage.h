@@ -10,7 +10,7 @@ public:
     IconTilesPage();
 
 private:
-    void addTiles();
+    void addPressed();
     void addStates();
     void addMeasures();
 };

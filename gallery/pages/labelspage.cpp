@@ -17,11 +17,6 @@ using namespace vexo::hox::qt::ui;
 
 namespace {
 
-TileLayout *createTiles(double column_mm)
-{
-    return new TileLayout(mmX(column_mm), mmSize(4, 4));
-}
-
 // The outline shows how far a label reaches.
 void addOutlined(TileLayout *tiles, VexoLabel *label)
 {
@@ -44,8 +39,7 @@ LabelsPage::LabelsPage()
 
 void LabelsPage::addSizes()
 {
-    addSection("Sizes and weights");
-    TileLayout *tiles = createTiles(40);
+    TileLayout *tiles = addTiles("Sizes and weights", 40);
     const auto add = [tiles](double pt, int weight, const QString &name) {
         auto *label = new VexoLabel(QString("%1 pt, %2").arg(pt).arg(name));
         label->setPtFontSize(pt);
@@ -57,13 +51,11 @@ void LabelsPage::addSizes()
     add(7, QFont::Light, "light");
     add(9, QFont::Normal, "regular");
     add(13, QFont::Bold, "bold");
-    addBlock(tiles);
 }
 
 void LabelsPage::addColors()
 {
-    addSection("Colours");
-    TileLayout *tiles = createTiles(23);
+    TileLayout *tiles = addTiles("Colours", 23);
     const auto add = [tiles](const QString &name, const QColor &text, const QColor &ground) {
         auto *label = new VexoLabel(name);
         label->setTextColor(text);
@@ -75,13 +67,11 @@ void LabelsPage::addColors()
     add("C0 on C4", VexoColors::C0, VexoColors::C4);
     add("C3 on C7", VexoColors::C3, VexoColors::C7);
     add("C0 on C9", VexoColors::C0, VexoColors::C9);
-    addBlock(tiles);
 }
 
 void LabelsPage::addAlignments()
 {
-    addSection("Alignment");
-    TileLayout *tiles = createTiles(40);
+    TileLayout *tiles = addTiles("Alignment", 40);
     const auto add = [tiles](Qt::Alignment alignment, const QString &text) {
         auto *label = new VexoLabel(text);
         label->setWordWrap(true); // may be narrower than its text in one line
@@ -96,16 +86,13 @@ void LabelsPage::addAlignments()
     add(Qt::AlignLeft | Qt::AlignVCenter, text);
     add(Qt::AlignCenter, text);
     add(Qt::AlignRight | Qt::AlignVCenter, text + "and, when it needs more lines than fit, cut.");
-    addBlock(tiles);
 }
 
 void LabelsPage::addLanguages()
 {
-    addSection("Languages");
-    TileLayout *tiles = createTiles(40);
+    TileLayout *tiles = addTiles("Languages", 40);
     for (const char *text : { "Größe, Maßstab, Übertragung", "Размер экрана", "屏幕尺寸" })
         addOutlined(tiles, new VexoLabel(text));
-    addBlock(tiles);
 }
 
 void LabelsPage::addBuddies()

@@ -54,20 +54,17 @@ LogoPage::LogoPage()
 
 void LogoPage::addImages()
 {
-    addSection("VexoLogo, images of 38 x 14 mm");
-    auto *tiles = new TileLayout(mmX(44), mmSize(4, 5));
+    TileLayout *tiles = addTiles("VexoLogo, images of 38 x 14 mm", 44, { 4, 5 });
     for (const double mm : { 15.0, 30.0, 60.0 })
         addTile(tiles, VexoColors::C2, createPicture(LOGO, float(mm)),
             QString("%1 mm wide%2").arg(mm).arg(mm > 38 ? ", cut" : ""));
     addTile(tiles, VexoColors::C2, createPicture("missing.svg", 30),
         "A file that cannot be read leaves the image white");
-    addBlock(tiles);
 }
 
 void LogoPage::addLabels()
 {
-    addSection("VexoLogoLabel, 150 x 40 px as its file");
-    auto *tiles = new TileLayout(mmX(44), mmSize(4, 5));
+    TileLayout *tiles = addTiles("VexoLogoLabel, 150 x 40 px as its file", 44, { 4, 5 });
     const float whole_mm = ScalingInfo::inst()->px2mm_X(150);
     for (const float share : { 1.0F, 0.8F }) {
         auto *label
@@ -80,5 +77,4 @@ void LogoPage::addLabels()
                 .arg(share < 1 ? ": the image is drawn smaller, and shown smaller once more"
                                : ", as its file"));
     }
-    addBlock(tiles);
 }

@@ -115,12 +115,6 @@ QHBoxLayout *createRow(QWidget *first = nullptr)
     return row;
 }
 
-// A control and what belongs to it side by side, or below each other where text is too wide.
-TileLayout *createTiles()
-{
-    return new TileLayout(mmX(50), mmSize(4, 4));
-}
-
 QVBoxLayout *createColumn(QWidget *upper, QWidget *lower)
 {
     auto *column = new QVBoxLayout;
@@ -165,10 +159,9 @@ void MeasuredButtonPage::addPress()
     row->addWidget(button);
     row->addLayout(lamp);
     row->addStretch();
-    TileLayout *tiles = createTiles();
+    TileLayout *tiles = addTiles(50);
     tiles->addLayout(row);
     tiles->addLayout(createPulseControls(button));
-    addBlock(tiles);
     m_log->setFixedHeight(mmY(30));
     addBlock(m_log);
 }
@@ -197,13 +190,12 @@ void MeasuredButtonPage::addBuddies()
         button->addVisibleBuddy(buddy);
         buddies->addWidget(buddy);
     }
-    TileLayout *tiles = createTiles();
+    TileLayout *tiles = addTiles(50);
     tiles->addLayout(createRow(button));
     tiles->addLayout(buddies);
     auto *visible = new QCheckBox("Show the button and its buddies");
     visible->setChecked(true);
     connect(visible, &QCheckBox::toggled, button, &Button::setVisible);
-    addBlock(tiles);
     addBlock(visible);
 }
 
@@ -215,11 +207,10 @@ void MeasuredButtonPage::addEasyAccess()
     setUpButton(button, "Slide off a little", mmSize(40, 12));
     button->setEasyPress(true, margin_px);
     logSignals(button, "Slide off a little");
-    TileLayout *tiles = createTiles();
+    TileLayout *tiles = addTiles(50);
     tiles->addLayout(createRow(new MarginOutline(button, margin_px)));
     tiles->addWidget(createText("A finger that slips off the button still clicks when it is lifted "
                                 "inside the outline."));
-    addBlock(tiles);
 }
 
 void MeasuredButtonPage::logSignals(Button *button, const QString &name)

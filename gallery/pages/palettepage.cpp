@@ -120,8 +120,7 @@ PalettePage::PalettePage()
         "All drawing of the library takes its colours from here. Lime to olive and the pens are "
         "free for applications.")
 {
-    addSection("Colours");
-    auto *swatches = new TileLayout(mmX(23), mmSize(4, 5));
+    TileLayout *swatches = addTiles("Colours", 23, { 4, 5 });
     const QVector<PaletteColor> colors = paletteColors();
     for (const PaletteColor &color : colors) {
         auto *heading = new QHBoxLayout;
@@ -131,10 +130,8 @@ PalettePage::PalettePage()
         swatches->addWidget(
             createTile(new ColorPatch(color.color), heading, createText(color.purpose)));
     }
-    addBlock(swatches);
 
-    addSection("Pens");
-    auto *pens = new TileLayout(mmX(44), mmSize(4, 5));
+    TileLayout *pens = addTiles("Pens", 44, { 4, 5 });
     const auto add = [pens](const QPen &pen, const QColor &ground, const QString &text) {
         pens->addWidget(createTile(new PenSample(pen, ground), nullptr, createText(text)));
     };
@@ -142,5 +139,4 @@ PalettePage::PalettePage()
     add(VexoColors::inversePen, VexoColors::C4, "inversePen on dark ground");
     add(VexoColors::pen, VexoColors::C4, "pen on dark ground: hardly to be seen");
     add(VexoColors::inversePen, VexoColors::C1, "inversePen on light ground: hardly to be seen");
-    addBlock(pens);
 }

@@ -90,7 +90,7 @@ PushButtonsPage::PushButtonsPage()
 
 void PushButtonsPage::addOutlines()
 {
-    TileLayout *tiles = addTiles("Outline");
+    TileLayout *tiles = addTiles("Outline", width_in_mm);
     tiles->addLayout(createCaptioned(createButton("Continue"), "outline"));
     VexoPushButton *plain = createButton("Continue");
     plain->setDrawButtonBorder(false);
@@ -99,7 +99,7 @@ void PushButtonsPage::addOutlines()
 
 void PushButtonsPage::addImages()
 {
-    TileLayout *tiles = addTiles("Image");
+    TileLayout *tiles = addTiles("Image", width_in_mm);
     tiles->addLayout(createCaptioned(createTickButton("Continue"), "outline and image"));
     VexoPushButton *plain = createTickButton("Continue");
     plain->setDrawButtonBorder(false);
@@ -114,7 +114,7 @@ void PushButtonsPage::addImages()
 
 void PushButtonsPage::addHiddenImage()
 {
-    TileLayout *tiles = addTiles("Hidden image");
+    TileLayout *tiles = addTiles("Hidden image", width_in_mm);
     VexoPushButton *button = createTickButton("Continue");
     button->hideImage(true);
     auto *hidden = new VexoCheckBox;
@@ -127,7 +127,7 @@ void PushButtonsPage::addHiddenImage()
 
 void PushButtonsPage::addTexts()
 {
-    TileLayout *tiles = addTiles("Second text, second line");
+    TileLayout *tiles = addTiles("Second text, second line", width_in_mm);
     VexoPushButton *second = createButton("Brightness");
     second->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     second->setTextMmMarginX(3);
@@ -148,7 +148,7 @@ void PushButtonsPage::addTexts()
 
 void PushButtonsPage::addStates()
 {
-    TileLayout *tiles = addTiles("States");
+    TileLayout *tiles = addTiles("States", width_in_mm);
     for (const bool has_image : { false, true }) {
         const QString end = has_image ? ", image" : "";
         VexoPushButton *checked = createButton("Mute");
@@ -169,7 +169,7 @@ void PushButtonsPage::addStates()
 
 void PushButtonsPage::addColors()
 {
-    TileLayout *tiles = addTiles("Colours and measures");
+    TileLayout *tiles = addTiles("Colours and measures", width_in_mm);
     VexoPushButton *stop = createButton("Stop");
     stop->setBackgroundColor(VexoColors::C9);
     stop->setBackgroundClickedColor(VexoColors::C4);
@@ -183,12 +183,4 @@ void PushButtonsPage::addColors()
     large->setPenColor(VexoColors::C7);
     large->setPtFontSize(13);
     tiles->addLayout(createCaptioned(large, "radius 4.5, margin 1 x 1.5, line 0.6 mm"));
-}
-
-TileLayout *PushButtonsPage::addTiles(const QString &heading)
-{
-    addSection(heading);
-    auto *tiles = new TileLayout(mmX(width_in_mm), mmSize(4, 4));
-    addBlock(tiles);
-    return tiles;
 }

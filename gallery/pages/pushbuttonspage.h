@@ -3,8 +3,6 @@
 
 #include "gallery/page.h"
 
-class TileLayout;
-
 /// Push buttons in their looks: outline, images, second text, two lines, states, colours.
 class PushButtonsPage : public Page
 {
@@ -18,5 +16,4 @@ private:
     void addTexts();
     void addStates();
     void addColors();
-    TileLayout *addTiles(const QString &heading);
 };

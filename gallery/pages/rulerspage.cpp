@@ -18,11 +18,6 @@ using namespace vexo::hox::qt::ui;
 
 namespace {
 
-TileLayout *createTiles()
-{
-    return new TileLayout(mmX(45), mmSize(4, 5));
-}
-
 // The same on white, on the ground of labels and on that of pressed buttons, and what it is.
 template <typename Create>
 QLayout *createTile(const QString &name, Create create)
@@ -55,8 +50,7 @@ RulersPage::RulersPage()
 
 void RulersPage::addStyles()
 {
-    addSection("The fifteen styles of VexoRuler");
-    TileLayout *tiles = createTiles();
+    TileLayout *tiles = addTiles("The fifteen styles of VexoRuler", 45, { 4, 5 });
     const QMetaEnum styles = QMetaEnum::fromType<VexoRuler::VexoRulerStyle>();
     for (int i = 0; i < styles.keyCount(); ++i) {
         const auto style = VexoRuler::VexoRulerStyle(styles.value(i));
@@ -64,13 +58,11 @@ void RulersPage::addStyles()
         tiles->addLayout(createTile(QString("%1, %2 px").arg(styles.key(i)).arg(height),
             [style] { return new VexoRuler(nullptr, style); }));
     }
-    addBlock(tiles);
 }
 
 void RulersPage::addWhiteSpace()
 {
-    addSection("White space above");
-    TileLayout *tiles = createTiles();
+    TileLayout *tiles = addTiles("White space above", 45, { 4, 5 });
     for (const float mm : { 1.0F, 3.0F }) {
         tiles->addLayout(createTile(QString("MainMiddle below %1 mm").arg(double(mm)),
             [mm] { return new VexoRuler(nullptr, VexoRuler::MainMiddle, mm); }));
@@ -82,13 +74,11 @@ void RulersPage::addWhiteSpace()
         ruler->setRulerStyle(VexoRuler::MainUnderCentralFunctionButton);
         return ruler;
     }));
-    addBlock(tiles);
 }
 
 void RulersPage::addSpacers()
 {
-    addSection("VexoLineSpacer");
-    TileLayout *tiles = createTiles();
+    TileLayout *tiles = addTiles("VexoLineSpacer", 45, { 4, 5 });
     const auto add = [tiles](bool is_vertical, double dark_mm, double light_mm) {
         const QString name = QString("%1, %2 mm dark and %3 mm light")
                                  .arg(is_vertical ? "Vertical" : "Horizontal")
@@ -106,5 +96,4 @@ void RulersPage::addSpacers()
     add(true, 0.2, 0.2);
     add(false, 0.2, 0.2);
     add(true, 0.6, 0.3);
-    addBlock(tiles);
 }

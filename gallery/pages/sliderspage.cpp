@@ -84,17 +84,17 @@ void SlidersPage::addStyles()
         const QString name = QMetaEnum::fromType<decltype(style)>().valueToKey(style);
         tiles->addLayout(createLeft(decoration, createCaptioned(decoration, name)));
     };
-    TileLayout *level = addTiles("Level", 64);
+    TileLayout *level = addTiles("Level", 64, { 4, 6 });
     add(level, Decoration::HorizontalWithoutScale);
     add(level, Decoration::HorizontalWithScale);
-    TileLayout *upright = addTiles("Upright", 34);
+    TileLayout *upright = addTiles("Upright", 34, { 4, 6 });
     add(upright, Decoration::VerticalWithoutScale);
     add(upright, Decoration::VerticalWithScale);
 }
 
 void SlidersPage::addSteps()
 {
-    TileLayout *tiles = addTiles("Steps");
+    TileLayout *tiles = addTiles("Steps", 64, { 4, 6 });
     QLabel *signal = createText("The last signal appears here.", 7, QFont::Normal);
     for (const int step : { 1, 10, 25 }) {
         VexoSlider *slider = createSlider(100, step, 50);
@@ -111,7 +111,7 @@ void SlidersPage::addSteps()
 
 void SlidersPage::addUnits()
 {
-    TileLayout *tiles = addTiles("Unit");
+    TileLayout *tiles = addTiles("Unit", 64, { 4, 6 });
     for (const char *unit : { " %", " °C" }) {
         Decoration *decoration = createDecoration(Decoration::HorizontalWithScale);
         decoration->setMinImage(minus_image, 0, 4);
@@ -123,7 +123,7 @@ void SlidersPage::addUnits()
 
 void SlidersPage::addImages()
 {
-    TileLayout *tiles = addTiles("End images");
+    TileLayout *tiles = addTiles("End images", 64, { 4, 6 });
     for (const double height_mm : { 4.0, 5.4, 4.7 }) {
         Decoration *decoration = createDecoration(Decoration::HorizontalWithoutScale);
         setImages(decoration, height_mm);
@@ -135,7 +135,7 @@ void SlidersPage::addImages()
 
 void SlidersPage::addLooks()
 {
-    TileLayout *tiles = addTiles("Look");
+    TileLayout *tiles = addTiles("Look", 64, { 4, 6 });
     VexoSlider *slider = createSlider(100, 1, 60);
     auto *decoration = new Decoration(nullptr, Decoration::HorizontalWithoutScale, slider);
     auto *plain = new PlainSlider(slider);
@@ -147,12 +147,4 @@ void SlidersPage::addLooks()
     tiles->addLayout(
         createLeft(plain, createCaptioned(plain, "The same without the sheets, follows it")));
     tiles->addLayout(createLeft(disabled, createCaptioned(disabled, "Disabled")));
-}
-
-TileLayout *SlidersPage::addTiles(const QString &heading, double column_mm)
-{
-    addSection(heading);
-    auto *tiles = new TileLayout(mmX(column_mm), mmSize(4, 6));
-    addBlock(tiles);
-    return tiles;
 }

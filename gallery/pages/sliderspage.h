@@ -3,8 +3,6 @@
 
 #include "gallery/page.h"
 
-class TileLayout;
-
 /// Sliders with end images, unit and scale.
 class SlidersPage : public Page
 {
@@ -17,5 +15,4 @@ private:
     void addUnits();
     void addImages();
     void addLooks();
-    TileLayout *addTiles(const QString &heading, double column_mm = 64);
 };

@@ -44,7 +44,9 @@ StepperPage::StepperPage()
         "and the button of that direction is disabled.")
 {
     QLabel *signal = createText("The last signal appears here.", 7, QFont::Normal);
-    auto *tiles = new TileLayout(mmX(70), mmSize(4, 6));
+    addSection("Ranges and steps");
+    addBlock(signal);
+    TileLayout *tiles = addTiles(70, { 4, 6 });
     const auto add = [&](const Range &range) {
         VexoNumericButton *stepper = createStepper(range);
         connect(stepper, &VexoNumericButton::valueChanged, signal,
@@ -60,7 +62,4 @@ StepperPage::StepperPage()
     VexoNumericButton *disabled = add({ "disabled", 0, 10, 1, 5 });
     disabled->setTextColor(VexoColors::C6);
     disabled->setEnabled(false);
-    addSection("Ranges and steps");
-    addBlock(signal);
-    addBlock(tiles);
 }

@@ -3,10 +3,6 @@
 #include "support/testcase.h"
 
 #include <QFile>
-#include <QLayout>
-#include <QTest>
-
-#include <memory>
 
 /// What a user of Qt Designer meets.
 class TestDesigner : public TestCase
@@ -19,8 +15,7 @@ private Q_SLOTS:
     void newWidgetHasShortNameAndSize_data();
     void newWidgetHasShortNameAndSize();
     void savesWhatItOpened();
-    void rowsComeBackInTheSavedOrder();
-    void payloadComesBackToItsPlace();
+    void deletedPartComesBack();
     void impossibleSizeIsRefused();
     void sliderShowsItsRealRange();
 
@@ -34,14 +29,6 @@ QString formText()
 {
     QFile file(QStringLiteral(HOXQ_FORM));
     return file.open(QFile::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-QStringList namesIn(const QLayout *layout)
-{
-    QStringList names;
-    for (int i = 0; i < layout->count(); ++i)
-        names += layout->itemAt(i)->widget()->objectName();
-    return names;
 }
 
 } // namespace
@@ -82,35 +69,27 @@ void TestDesigner::savesWhatItOpened()
     QCOMPARE(m_designer->saved(), formText());
 }
 
-void TestDesigner::rowsComeBackInTheSavedOrder()
+// Rows of a list in their order, a payload to its place.
+void TestDesigner::deletedPartComesBack()
 {
     Messages messages;
-    m_designer->open(formText());
-    const QLayout *rows = m_designer->find(QStringLiteral("vexoVerticalScrollContent"))->layout();
-    const QStringList names = namesIn(rows);
-    QCOMPARE(names.size(), 3);
-    m_designer->select(m_designer->find(names.first()));
-    m_designer->trigger(QDesignerFormWindowManagerInterface::DeleteAction);
-    QCOMPARE(namesIn(rows), names.mid(1));
-    m_designer->undo();
-    QCOMPARE(namesIn(rows), names);
-    QCOMPARE(m_designer->saved(), formText());
-}
-
-void TestDesigner::payloadComesBackToItsPlace()
-{
-    Messages messages;
-    m_designer->open(formText());
-    const QWidget *payload = m_designer->find(QStringLiteral("vexoLineEdit"));
-    const QLayout *grid = payload->parentWidget()->layout();
-    const QRect place = payload->geometry();
-    m_designer->select(m_designer->find(QStringLiteral("vexoLineEdit")));
-    m_designer->trigger(QDesignerFormWindowManagerInterface::DeleteAction);
-    QCOMPARE(grid->indexOf(m_designer->find(QStringLiteral("vexoLineEdit"))), -1);
-    m_designer->undo();
-    QCOMPARE(m_designer->find(QStringLiteral("vexoLineEdit")), payload);
-    QVERIFY(grid->indexOf(m_designer->find(QStringLiteral("vexoLineEdit"))) >= 0);
-    QCOMPARE(payload->geometry(), place);
+    for (const QString &name :
+        { QStringLiteral("vexoFunctionButton"), QStringLiteral("vexoLineEdit") }) {
+        m_designer->open(formText());
+        QWidget *part = m_designer->find(name);
+        const QLayout *layout = part->parentWidget()->layout();
+        const int index = layout->indexOf(part);
+        QVERIFY(index >= 0);
+        const QRect place = part->geometry();
+        m_designer->select(part);
+        m_designer->trigger(QDesignerFormWindowManagerInterface::DeleteAction);
+        QCOMPARE(layout->indexOf(part), -1);
+        m_designer->undo();
+        QCOMPARE(m_designer->find(name), part);
+        QCOMPARE(layout->indexOf(part), index);
+        QCOMPARE(part->geometry(), place);
+        QCOMPARE(m_designer->saved(), formText());
+    }
 }
 
 void TestDesigner::impossibleSizeIsRefused()

@@ -6,10 +6,8 @@
 #include <QImage>
 #include <QMainWindow>
 #include <QPluginLoader>
-#include <QTest>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
-#include <memory>
 #include <type_traits>
 
 using namespace vexo::hox::qt::system;

@@ -5,12 +5,8 @@
 
 #include <QBuffer>
 #include <QFile>
-#include <QLayout>
 #include <QMetaProperty>
-#include <QTest>
 #include <QUiLoader>
-
-#include <memory>
 
 /// A form with every widget, each property set, as Designer saves it: compiled and loaded.
 class TestForms : public TestCase

@@ -2,28 +2,18 @@
 // SPDX-License-Identifier: MIT
 
 #include "gallery/widgets/keyboard.h"
+#include "support/find.h"
 
 #include <VexoKeyboardButton>
 
 #include <QTest>
-
-/// The visible key that bears the text or the accessible name.
-inline Keyboard::Key *findKey(const QWidget &keyboard, const QString &label)
-{
-    const auto keys = keyboard.findChildren<Keyboard::Key *>();
-    for (Keyboard::Key *key : keys) {
-        if (!key->isHidden() && (key->text() == label || key->accessibleName() == label))
-            return key;
-    }
-    return nullptr;
-}
 
 /// Clicks the keys, given by their labels with blanks between them.
 inline void clickKeys(const QWidget &keyboard, const QString &labels)
 {
     const QStringList list = labels.split(QLatin1Char(' '));
     for (const QString &label : list) {
-        Keyboard::Key *key = findKey(keyboard, label);
+        Keyboard::Key *key = byText<Keyboard::Key>(keyboard, label);
         QVERIFY2(key, qPrintable(label));
         QTest::mouseClick(key, Qt::LeftButton);
     }

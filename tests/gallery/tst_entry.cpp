@@ -9,9 +9,6 @@
 #include <VexoIconButton>
 #include <VexoLineEdit>
 
-#include <QLabel>
-#include <QLayout>
-
 using vexo::hox::qt::ui::VexoIconButton;
 using vexo::hox::qt::ui::VexoLineEdit;
 
@@ -28,11 +25,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-VexoLineEdit *fieldOf(const QWidget &page, const char *name)
-{
-    return page.findChild<VexoLineEdit *>(QLatin1String(name));
-}
 
 QString textOf(const QWidget &page, const char *name)
 {
@@ -59,37 +51,37 @@ void TestEntry::wrongPinShakesAndGoes()
     QFETCH(QByteArray, name);
     PinPage page;
     expose(&page);
-    VexoLineEdit *field = fieldOf(page, name);
+    VexoLineEdit *field = byName<VexoLineEdit>(page, name);
     QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(2, 2));
     const QImage empty = pictureOf(field);
-    clickKeys(page, QStringLiteral("2 0"));
+    clickKeys(page, "2 0");
     const QImage half = pictureOf(field);
-    clickKeys(page, QStringLiteral("3"));
+    clickKeys(page, "3");
     QTest::mouseClick(field, Qt::LeftButton); // moves the toolkit's cursor, not ours
-    clickKeys(page, QStringLiteral("Delete"));
+    clickKeys(page, "Delete");
     QCOMPARE(pictureOf(field), half);
-    clickKeys(page, QStringLiteral("1 1"));
+    clickKeys(page, "1 1");
     QCOMPARE(field->text(), QString());
-    QCOMPARE(textOf(page, "pinResult"), QStringLiteral("Wrong, try again"));
+    QCOMPARE(textOf(page, "pinResult"), "Wrong, try again");
     QVERIFY(pictureOf(field) != empty);
     QTRY_COMPARE(pictureOf(field), empty);
-    clickKeys(page, QStringLiteral("2 0 2 6"));
-    QCOMPARE(textOf(page, "pinResult"), QStringLiteral("Right"));
+    clickKeys(page, "2 0 2 6");
+    QCOMPARE(textOf(page, "pinResult"), "Right");
 }
 
 void TestEntry::loginFormGoesFromFieldToField()
 {
     LoginPage page;
     expose(&page);
-    clickKeys(page, QStringLiteral("p a n e l x Delete Enter v e x x Enter"));
-    QCOMPARE(textOf(page, "loginResult"), QStringLiteral("Wrong name or password"));
-    clickKeys(page, QStringLiteral("v e x o y"));
-    VexoLineEdit *password = fieldOf(page, "passwordField");
+    clickKeys(page, "p a n e l x Delete Enter v e x x Enter");
+    QCOMPARE(textOf(page, "loginResult"), "Wrong name or password");
+    clickKeys(page, "v e x o y");
+    VexoLineEdit *password = byName<VexoLineEdit>(page, "passwordField");
     QTest::mouseClick(password->findChild<VexoIconButton *>(), Qt::LeftButton);
-    QCOMPARE(password->text(), QStringLiteral("vexo"));
-    clickKeys(page, QStringLiteral("Enter"));
-    QCOMPARE(textOf(page, "loginResult"), QStringLiteral("Logged in"));
-    QCOMPARE(fieldOf(page, "nameField")->text(), QStringLiteral("panel"));
+    QCOMPARE(password->text(), "vexo");
+    clickKeys(page, "Enter");
+    QCOMPARE(textOf(page, "loginResult"), "Logged in");
+    QCOMPARE(byName<VexoLineEdit>(page, "nameField")->text(), "panel");
 }
 
 void TestEntry::converterFollowsTheText()
@@ -99,14 +91,14 @@ void TestEntry::converterFollowsTheText()
     const auto resultOf = [&](const char *name) {
         return textOf(page, name).remove(QChar(0x200b)); // where a line may break
     };
-    clickKeys(page, QStringLiteral("Enter Shift A Space b"));
-    QCOMPARE(resultOf("hexResult"), QStringLiteral("412062"));
-    QCOMPARE(resultOf("base64Result"), QStringLiteral("QSBi"));
-    QCOMPARE(resultOf("lowerResult"), QStringLiteral("a b"));
-    QCOMPARE(resultOf("splitResult"), QStringLiteral("A | b"));
-    QCOMPARE(resultOf("fromBase64Result"), QStringLiteral("Invalid base64 length!"));
-    clickKeys(page, QStringLiteral("Delete Delete Delete 123 4 8 6 9"));
-    QCOMPARE(resultOf("fromHexResult"), QStringLiteral("Hi"));
+    clickKeys(page, "Enter Shift A Space b");
+    QCOMPARE(resultOf("hexResult"), "412062");
+    QCOMPARE(resultOf("base64Result"), "QSBi");
+    QCOMPARE(resultOf("lowerResult"), "a b");
+    QCOMPARE(resultOf("splitResult"), "A | b");
+    QCOMPARE(resultOf("fromBase64Result"), "Invalid base64 length!");
+    clickKeys(page, "Delete Delete Delete 123 4 8 6 9");
+    QCOMPARE(resultOf("fromHexResult"), "Hi");
 }
 
 QTEST_MAIN(TestEntry)

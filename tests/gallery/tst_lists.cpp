@@ -2,6 +2,7 @@
 #include "gallery/expose.h"
 #include "gallery/pages/formpage.h"
 #include "gallery/pages/listspage.h"
+#include "support/find.h"
 #include "support/testcase.h"
 
 #include <VexoFunctionButton>
@@ -9,9 +10,7 @@
 #include <VexoPushButton>
 #include <VexoRadioButton>
 
-#include <QApplication>
 #include <QPushButton>
-#include <QTest>
 
 using namespace vexo::hox::qt::ui;
 
@@ -28,20 +27,10 @@ private Q_SLOTS:
 
 namespace {
 
-template <typename Button>
-Button *buttonOf(const QWidget &page, const QString &text)
-{
-    const QList<Button *> buttons = page.findChildren<Button *>();
-    for (Button *button : buttons)
-        if (button->text() == text)
-            return button;
-    return nullptr;
-}
-
 // Of what is seen of the list.
 QString firstRowOf(const QWidget &page)
 {
-    const auto *list = page.findChild<QWidget *>(QStringLiteral("contacts"));
+    const auto *list = page.findChild<QWidget *>("contacts");
     const QPoint below_the_line(1, 2 - list->y());
     return list->childAt(below_the_line)->property("button_text").toString();
 }
@@ -55,7 +44,7 @@ QString payloadOf(const QWidget &page, const QString &caption)
         const QWidget *payload = container->childAt(container->rect().center() + QPoint(0, 15));
         return payload ? payload->property("text").toString() : QString();
     }
-    return QStringLiteral("no container");
+    return "no container";
 }
 
 } // namespace
@@ -80,9 +69,9 @@ void TestLists::buttonOfTheBarJumps()
     QFETCH(QString, button);
     ListsPage page;
     expose(&page);
-    buttonOf<QPushButton>(page, QStringLiteral("C"))->click(); // away from the top
-    buttonOf<VexoRadioButton>(page, type)->setChecked(true);
-    buttonOf<QPushButton>(page, button)->click();
+    byText<QPushButton>(page, "C")->click(); // away from the top
+    byText<VexoRadioButton>(page, type)->setChecked(true);
+    byText<QPushButton>(page, button)->click();
     QTEST(firstRowOf(page), "row");
 }
 
@@ -95,14 +84,13 @@ void TestLists::payloadsComeAndGo()
         QStringList shown;
         for (const char *text : { "", "Automatic", "Remove", "By hand", "Put back", "Automatic" }) {
             if (*text)
-                buttonOf<VexoPushButton>(page, QLatin1String(text))->click();
+                byText<VexoPushButton>(page, QLatin1String(text))->click();
             QCoreApplication::sendPostedEvents(); // lays out
-            shown += payloadOf(page, QStringLiteral("Gateway")) + QLatin1Char('|')
-                + payloadOf(page, QStringLiteral("Note"));
+            shown += payloadOf(page, "Gateway") + QLatin1Char('|') + payloadOf(page, "Note");
         }
-        const QString by_hand = QStringLiteral("192.168.0.1|");
-        const QString note = QStringLiteral("Ring twice");
-        const QString text = QStringLiteral("Assigned by the network|");
+        const QString by_hand = "192.168.0.1|";
+        const QString note = "Ring twice";
+        const QString text = "Assigned by the network|";
         QCOMPARE(shown,
             (QStringList{
                 by_hand + note, text + note, text, by_hand, by_hand + note, text + note }));

@@ -9,7 +9,6 @@
 #include <Panel>
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QRandomGenerator>
 #include <QStackedWidget>
 
@@ -134,8 +133,8 @@ void TestMonkey::nothingStaysDownOrWronglyPainted()
 {
     QFETCH(QSize, px);
     QFETCH(QSizeF, mm);
-    const int touches = qMax(60, qEnvironmentVariableIntValue("HOXQ_MONKEY_TOUCHES"));
-    const int seed = qEnvironmentVariableIntValue("HOXQ_MONKEY_SEED");
+    const int touches = asked("HOXQ_MONKEY_TOUCHES", 60);
+    const int seed = asked("HOXQ_MONKEY_SEED", 0);
     virtualclock::start();
     PanelOptions options;
     options.px = px;
@@ -152,8 +151,8 @@ void TestMonkey::nothingStaysDownOrWronglyPainted()
         virtualclock::pass(60);
         monkey.clear();
         QVERIFY2(buttonsThatAreDown(window).isEmpty(),
-            qPrintable(QStringLiteral("touch %1: ").arg(i)
-                + buttonsThatAreDown(window).join(QStringLiteral(", "))));
+            qPrintable(
+                QString("touch %1: ").arg(i) + buttonsThatAreDown(window).join(QString(", "))));
         if (i % 30 == 0)
             QCOMPARE(wrongPixelsAtRest(window), QRect());
     }

@@ -8,11 +8,8 @@
 #include <Soak>
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QScrollArea>
 #include <QStackedWidget>
-
-#include <memory>
 
 using namespace vexo::hox::qt;
 
@@ -53,7 +50,7 @@ void useAndClose(QScrollArea *area, int index)
 void TestPageSoak::leavesNothingBehind()
 {
     QFETCH(int, page);
-    const int rounds = qMax(30, qEnvironmentVariableIntValue("HOXQ_SOAK_ROUNDS"));
+    const int rounds = asked("HOXQ_SOAK_ROUNDS", 30);
     ui::PanelOptions options;
     options.px = QSize(800, 480);
     options.mm = QSizeF(152, 91);

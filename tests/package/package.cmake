@@ -49,7 +49,7 @@ target_include_directories(packagesupport PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(packagesupport PUBLIC Qt5::Core)
 target_compile_definitions(packagesupport PUBLIC
   HOXQ_SOURCE="${PROJECT_SOURCE_DIR}" HOXQ_CONSUMER="${CMAKE_CURRENT_SOURCE_DIR}/consumer"
-  HOXQ_STAGE="${stage}" HOXQ_LIBDIR="${CMAKE_INSTALL_LIBDIR}" 
+  HOXQ_STAGE="${stage}" HOXQ_LIBDIR="${CMAKE_INSTALL_LIBDIR}"
   HOXQ_SYSTEM_CLASSES="${HOXQ_CLASSES_system}" HOXQ_KIT_CLASSES="${HOXQ_CLASSES_uitest}"
   HOXQ_PANEL_CLASSES="${HOXQ_CLASSES_panel}"
   HOXQ_CLASSES="${HOXQ_CLASSES_ui} ${HOXQ_CLASSES_util}"

@@ -17,7 +17,7 @@ Finished run(const QString &program, const QStringList &arguments, const QString
     process.setWorkingDirectory(folder);
     process.start(program, arguments);
     if (!process.waitForFinished(240000) || process.exitStatus() != QProcess::NormalExit) {
-        const QString reason = program + QLatin1String(": ") + process.errorString();
+        const QString reason = program + ": " + process.errorString();
         return { -1, QString::fromLocal8Bit(process.readAll()) + reason };
     }
     return { process.exitCode(), QString::fromLocal8Bit(process.readAll()) };

@@ -29,10 +29,10 @@ void TestConfiguration::missingPackageIsNamedInOneLine()
     QFETCH(QString, message);
     const QTemporaryDir folder;
     const Finished result = run(QStringLiteral(HOXQ_CMAKE),
-        { QStringLiteral("-S" HOXQ_SOURCE), QStringLiteral("-B"), folder.path(),
+        { QStringLiteral("-S" HOXQ_SOURCE), "-B", folder.path(),
             QStringLiteral("-G" HOXQ_GENERATOR),
             QStringLiteral("-DCMAKE_CXX_COMPILER=" HOXQ_COMPILER),
-            QStringLiteral("-D") + QLatin1String(QTest::currentDataTag()) });
+            "-D" + QLatin1String(QTest::currentDataTag()) });
     QVERIFY(result.exit_code != 0);
     const QString end_of_line = QLatin1Char(' ') + message + QLatin1Char('\n');
     QVERIFY2(result.output.contains(end_of_line), qPrintable(result.output));
@@ -43,14 +43,13 @@ void TestConfiguration::installedLibrariesHaveTheGivenRunPath()
 {
     const QTemporaryDir folder;
     const Finished result = run(QStringLiteral(HOXQ_CMAKE),
-        { QStringLiteral("-S" HOXQ_SOURCE), QStringLiteral("-B"), folder.path(),
+        { QStringLiteral("-S" HOXQ_SOURCE), "-B", folder.path(),
             QStringLiteral("-G" HOXQ_GENERATOR),
-            QStringLiteral("-DCMAKE_CXX_COMPILER=" HOXQ_COMPILER),
-            QStringLiteral("-DHOXQ_TESTS=OFF"), QStringLiteral("-DHOXQ_GALLERY=OFF"),
-            QStringLiteral("-DHOXQ_DESIGNER=OFF"), QStringLiteral("-DHOXQ_TEST_KIT=OFF"),
-            QStringLiteral("-DCMAKE_INSTALL_RPATH=/opt/toolkit/lib") });
+            QStringLiteral("-DCMAKE_CXX_COMPILER=" HOXQ_COMPILER), "-DHOXQ_TESTS=OFF",
+            "-DHOXQ_GALLERY=OFF", "-DHOXQ_DESIGNER=OFF", "-DHOXQ_TEST_KIT=OFF",
+            "-DCMAKE_INSTALL_RPATH=/opt/toolkit/lib" });
     QVERIFY2(result.exit_code == 0, qPrintable(result.output));
-    QFile script(folder.filePath(QStringLiteral("cmake_install.cmake")));
+    QFile script(folder.filePath("cmake_install.cmake"));
     QVERIFY(script.open(QIODevice::ReadOnly));
     const QByteArray text = script.readAll();
     QVERIFY(text.contains("\"\\$ORIGIN:/opt/toolkit/lib\"")); // libhoxqui

@@ -13,12 +13,12 @@ Finished configure(const QString &folder, const char *version,
     const QString &source = QStringLiteral(HOXQ_CONSUMER))
 {
     return run(QStringLiteral(HOXQ_CMAKE),
-        { QStringLiteral("-S"), source, QStringLiteral("-B"), folder,
-            QStringLiteral("-G" HOXQ_GENERATOR), QStringLiteral("-DCMAKE_PREFIX_PATH=" HOXQ_STAGE),
+        { "-S", source, "-B", folder, QStringLiteral("-G" HOXQ_GENERATOR),
+            QStringLiteral("-DCMAKE_PREFIX_PATH=" HOXQ_STAGE),
             QStringLiteral("-DCMAKE_CXX_COMPILER=" HOXQ_COMPILER),
             QStringLiteral("-DCMAKE_CXX_COMPILER_LAUNCHER=" HOXQ_LAUNCHER),
             QStringLiteral("-DCMAKE_CXX_FLAGS=" HOXQ_FLAGS),
-            QStringLiteral("-DHOXQ_VERSION=") + QLatin1String(version) });
+            "-DHOXQ_VERSION=" + QLatin1String(version) });
 }
 
 /// Compiles as the library is compiled. A shell reads the words of pkg-config, as make's does.
@@ -27,11 +27,9 @@ Finished compile(const QStringList &arguments)
     const QString compiler = QStringLiteral(HOXQ_LAUNCHER ";" HOXQ_COMPILER);
     const QString flags
         = QStringLiteral("-std=c++17 -fPIC -Wall -Wextra -Wpedantic -Werror " HOXQ_FLAGS);
-    const QString line
-        = QStringLiteral("eval '\"$@\"' $(pkg-config --cflags --libs hoxqui hoxquitest)");
-    return run(QStringLiteral("sh"),
-        QStringList{ QStringLiteral("-c"), line, QStringLiteral("sh") }
-            + compiler.split(QLatin1Char(';'), Qt::SkipEmptyParts)
+    const QString line = "eval '\"$@\"' $(pkg-config --cflags --libs hoxqui hoxquitest)";
+    return run("sh",
+        QStringList{ "-c", line, "sh" } + compiler.split(QLatin1Char(';'), Qt::SkipEmptyParts)
             + flags.split(QLatin1Char(' '), Qt::SkipEmptyParts) + arguments,
         QString(), { QStringLiteral("PKG_CONFIG_PATH=" HOXQ_STAGE "/" HOXQ_LIBDIR "/pkgconfig") });
 }
@@ -60,10 +58,10 @@ private:
 void TestConsumer::verifyRuns(const QString &program, const QStringList &environment)
 {
     const Finished result = run(program, QStringList(), QString(), environment);
-    const QString expected = QStringLiteral("10 mm are 80 px\ntext of 19 px\n#bedc00\n"
-                                            "icon of 80 x 80 px\nscreen is drawn\nbeep\nclicked\n");
-    QCOMPARE(QString(result.output).remove(QStringLiteral("hoxq.consumer: done\n")), expected);
-    QVERIFY(result.output.contains(QLatin1String("hoxq.consumer: done\n")));
+    const QString expected = "10 mm are 80 px\ntext of 19 px\n#bedc00\n"
+                             "icon of 80 x 80 px\nscreen is drawn\nbeep\nclicked\n";
+    QCOMPARE(QString(result.output).remove("hoxq.consumer: done\n"), expected);
+    QVERIFY(result.output.contains("hoxq.consumer: done\n"));
     QCOMPARE(result.exit_code, 0);
 }
 
@@ -71,48 +69,44 @@ void TestConsumer::verifyBuilds(const QString &folder, const QString &source)
 {
     const Finished configured = configure(folder, "1", source);
     QVERIFY2(configured.exit_code == 0, qPrintable(configured.output));
-    const Finished built = run(QStringLiteral(HOXQ_CMAKE), { QStringLiteral("--build"), folder });
+    const Finished built = run(QStringLiteral(HOXQ_CMAKE), { "--build", folder });
     QVERIFY2(built.exit_code == 0, qPrintable(built.output));
 }
 
 void TestConsumer::findsThePackageWithCMake()
 {
-    const QString folder = m_dir.filePath(QStringLiteral("cmake"));
+    const QString folder = m_dir.filePath("cmake");
     verifyBuilds(folder, QStringLiteral(HOXQ_CONSUMER));
-    verifyRuns(folder + QLatin1String("/consumer"));
+    verifyRuns(folder + "/consumer");
 }
 
 void TestConsumer::buildsTheExample()
 {
-    verifyBuilds(m_dir.filePath(QStringLiteral("example")),
-        QStringLiteral(HOXQ_SOURCE "/examples/first-panel"));
+    verifyBuilds(m_dir.filePath("example"), QStringLiteral(HOXQ_SOURCE "/examples/first-panel"));
 }
 
 void TestConsumer::testsItsScreenWithTheKit()
 {
-    const QString folder = m_dir.filePath(QStringLiteral("kit"));
+    const QString folder = m_dir.filePath("kit");
     verifyBuilds(folder, QStringLiteral(HOXQ_CONSUMER "/kit"));
-    const Finished result = run(folder + QLatin1String("/consumertest"), {});
-    QVERIFY2(
-        result.output.contains(QLatin1String("5 passed, 0 failed")), qPrintable(result.output));
+    const Finished result = run(folder + "/consumertest", {});
+    QVERIFY2(result.output.contains("5 passed, 0 failed"), qPrintable(result.output));
     QCOMPARE(result.exit_code, 0);
 }
 
 void TestConsumer::findsThePackageWithPkgConfig()
 {
-    const QString program = m_dir.filePath(QStringLiteral("consumer"));
-    const Finished built
-        = compile({ QStringLiteral(HOXQ_CONSUMER "/main.cpp"), QStringLiteral("-o"), program });
+    const QString program = m_dir.filePath("consumer");
+    const Finished built = compile({ QStringLiteral(HOXQ_CONSUMER "/main.cpp"), "-o", program });
     QVERIFY2(built.exit_code == 0, qPrintable(built.output));
     verifyRuns(program, { QStringLiteral("LD_LIBRARY_PATH=" HOXQ_STAGE "/" HOXQ_LIBDIR) });
 }
 
 void TestConsumer::laterMajorVersionIsRefused()
 {
-    const Finished result = configure(m_dir.filePath(QStringLiteral("later")), "2");
+    const Finished result = configure(m_dir.filePath("later"), "2");
     QVERIFY(result.exit_code != 0);
-    const QString refusal
-        = QStringLiteral("\"HoxqUi\" that is compatible with requested version \"2\"");
+    const QString refusal = "\"HoxqUi\" that is compatible with requested version \"2\"";
     QVERIFY2(result.output.simplified().contains(refusal), qPrintable(result.output));
 }
 
@@ -123,12 +117,12 @@ void TestConsumer::everyClassHasAForwardingHeader()
               .split(QLatin1Char(' '));
     classes.sort();
     QCOMPARE(QDir(QStringLiteral(HOXQ_STAGE "/include/hoxqui")).entryList(QDir::Files), classes);
-    QFile source(m_dir.filePath(QStringLiteral("all.cpp")));
+    QFile source(m_dir.filePath("all.cpp"));
     QVERIFY(source.open(QIODevice::WriteOnly));
     for (const QString &name : classes)
-        source.write(QStringLiteral("#include <%1>\n").arg(name).toUtf8());
+        source.write(QString("#include <%1>\n").arg(name).toUtf8());
     source.close();
-    const Finished result = compile({ QStringLiteral("-fsyntax-only"), source.fileName() });
+    const Finished result = compile({ "-fsyntax-only", source.fileName() });
     QVERIFY2(result.exit_code == 0, qPrintable(result.output));
 }
 

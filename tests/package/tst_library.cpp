@@ -24,11 +24,11 @@ QString demangled(const QByteArray &symbol)
 /// if it is one of the kit, or empty.
 QString ownerOf(const QString &symbol)
 {
-    static const QRegularExpression ours(QStringLiteral(
-        "^(?:[a-z -]+ (?:for|to) )?vexo::(?:hox::qt::(?:ui|uitest|panel|system)|util)::(\\w+)(.*)"));
+    static const QRegularExpression ours(
+        "^(?:[a-z -]+ (?:for|to) )?vexo::(?:hox::qt::(?:ui|uitest|panel|system)|util)::(\\w+)(.*)");
     const QRegularExpressionMatch match = ours.match(symbol);
     const bool is_function = match.captured(2).startsWith(QLatin1Char('('));
-    const bool is_of_kit = symbol.startsWith(QLatin1String("vexo::hox::qt::uitest::"));
+    const bool is_of_kit = symbol.startsWith("vexo::hox::qt::uitest::");
     return is_function && !is_of_kit ? QString() : match.captured(1);
 }
 
@@ -37,9 +37,9 @@ QString ownerOf(const QString &symbol)
 bool isForeign(const QString &symbol, QChar type)
 {
     static const QRegularExpression marks(
-        QStringLiteral("^(_init|_fini|_edata|_end|__bss_start|__(odr_)?asan.*)$"));
-    const bool is_weak = QStringLiteral("WVu").contains(type);
-    const bool is_ours = !ownerOf(symbol).isEmpty() || symbol.startsWith(QLatin1String("vexo::"));
+        QString("^(_init|_fini|_edata|_end|__bss_start|__(odr_)?asan.*)$"));
+    const bool is_weak = QString("WVu").contains(type);
+    const bool is_ours = !ownerOf(symbol).isEmpty() || symbol.startsWith(QString("vexo::"));
     return marks.match(symbol).hasMatch() || (is_weak && !is_ours);
 }
 
@@ -47,9 +47,9 @@ bool isForeign(const QString &symbol, QChar type)
 QStringList inlineFunctions(const QString &header)
 {
     static const QRegularExpression head(
-        QStringLiteral("^class HOXQUI_EXPORT (\\w+)"), QRegularExpression::MultilineOption);
+        "^class HOXQUI_EXPORT (\\w+)", QRegularExpression::MultilineOption);
     static const QRegularExpression function(
-        QStringLiteral("^    [\\w:<>&* ]+?[&* ](\\w+)\\([^()]*\\)(?: const)? \\{ .* \\}$"),
+        "^    [\\w:<>&* ]+?[&* ](\\w+)\\([^()]*\\)(?: const)? \\{ .* \\}$",
         QRegularExpression::MultilineOption);
     QFile file(header);
     if (!file.open(QIODevice::ReadOnly))
@@ -59,7 +59,7 @@ QStringList inlineFunctions(const QString &header)
     QStringList functions;
     auto found = function.globalMatch(text, qMax(0, name.capturedEnd()));
     while (name.hasMatch() && found.hasNext())
-        functions += name.captured(1) + QLatin1String("::") + found.next().captured(1);
+        functions += name.captured(1) + "::" + found.next().captured(1);
     return functions;
 }
 
@@ -91,17 +91,16 @@ void TestLibrary::exportsItsPublicClassesAndNothingElse_data()
     for (const char *without_symbols : { "ButtonState", "LineComponent", "PanelOptions" })
         QVERIFY(ui.removeOne(QLatin1String(without_symbols)));
     for (const char *bundle : { "fonts", "stylesheets", "widgetimages" }) {
-        ui.append(QStringLiteral("qInitResources_%1()").arg(QLatin1String(bundle)));
-        ui.append(QStringLiteral("qCleanupResources_%1()").arg(QLatin1String(bundle)));
+        ui.append(QString("qInitResources_%1()").arg(QLatin1String(bundle)));
+        ui.append(QString("qCleanupResources_%1()").arg(QLatin1String(bundle)));
     }
     QTest::addColumn<QStringList>("interface");
     QTest::newRow("libhoxqui.so") << ui;
     QTest::newRow("libhoxqsystem.so") << QStringList(QStringLiteral(HOXQ_SYSTEM_CLASSES));
-    QTest::newRow("libhoxqpanel.so")
-        << QStringLiteral(HOXQ_PANEL_CLASSES).split(QLatin1Char(' '));
+    QTest::newRow("libhoxqpanel.so") << QStringLiteral(HOXQ_PANEL_CLASSES).split(QLatin1Char(' '));
     for (const char *companion : { "SoakResult", "TouchLimits", "soak" }) // in headers of others
         kit.append(QLatin1String(companion));
-    QVERIFY(kit.removeOne(QStringLiteral("Soak")));
+    QVERIFY(kit.removeOne("Soak"));
     QTest::newRow("libhoxquitest.so") << kit;
 }
 
@@ -123,9 +122,8 @@ void TestLibrary::exportsItsPublicClassesAndNothingElse()
 
 QStringList TestLibrary::exported(const QString &library) const
 {
-    const Finished nm = run(QStringLiteral(HOXQ_NM),
-        { QStringLiteral("-D"), QStringLiteral("--defined-only"), QStringLiteral("--format=posix"),
-            path(library) });
+    const Finished nm
+        = run(QStringLiteral(HOXQ_NM), { "-D", "--defined-only", "--format=posix", path(library) });
     return nm.output.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
@@ -133,17 +131,16 @@ QStringList TestLibrary::exported(const QString &library) const
 void TestLibrary::inlineFunctionsAreExportedToo()
 {
     QStringList symbols;
-    const QStringList lines = exported(QStringLiteral("libhoxqui.so"));
+    const QStringList lines = exported("libhoxqui.so");
     for (const QString &line : lines)
         symbols += demangled(line.section(QLatin1Char(' '), 0, 0).toLatin1())
-                       .remove(QStringLiteral("vexo::hox::qt::ui::"));
-    QVERIFY(symbols.contains(QStringLiteral("CachedVectorIcon::isBitmap(QString const&)")));
+                       .remove("vexo::hox::qt::ui::");
+    QVERIFY(symbols.contains("CachedVectorIcon::isBitmap(QString const&)"));
     QStringList missing;
     for (int color = 0; color < 14; ++color)
-        missing += QStringLiteral("VexoColors::C%1").arg(color);
+        missing += QString("VexoColors::C%1").arg(color);
     const QDir headers(QStringLiteral(HOXQ_STAGE "/include/hoxqui/ui"));
-    QDirIterator files(
-        headers.path(), { QStringLiteral("*.h") }, QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator files(headers.path(), { "*.h" }, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QStringList functions = inlineFunctions(files.next());
         for (const QString &function : functions)
@@ -158,21 +155,20 @@ void TestLibrary::inlineFunctionsAreExportedToo()
 void TestLibrary::hasItsVersionAndFindsItsNeighbour_data()
 {
     QTest::addColumn<QString>("run_path");
-    QTest::newRow("libhoxqui.so") << QStringLiteral("[$ORIGIN]");
+    QTest::newRow("libhoxqui.so") << "[$ORIGIN]";
     QTest::newRow("libhoxqsystem.so") << QString();
-    QTest::newRow("libhoxqpanel.so") << QStringLiteral("[$ORIGIN]");
-    QTest::newRow("libhoxquitest.so") << QStringLiteral("[$ORIGIN]");
+    QTest::newRow("libhoxqpanel.so") << "[$ORIGIN]";
+    QTest::newRow("libhoxquitest.so") << "[$ORIGIN]";
 }
 
 void TestLibrary::hasItsVersionAndFindsItsNeighbour()
 {
     const QString name = QString::fromLatin1(QTest::currentDataTag());
-    const QString version = name + QLatin1String(".1");
+    const QString version = name + ".1";
     QVERIFY(QFile::symLinkTarget(path(version)).endsWith(name + QLatin1String("." HOXQ_VERSION)));
-    const Finished readelf
-        = run(QStringLiteral(HOXQ_READELF), { QStringLiteral("-dW"), path(name) });
-    static const QRegularExpression soname(QStringLiteral("\\(SONAME\\).*\\[(.*)\\]"));
-    static const QRegularExpression run_path(QStringLiteral("\\(R(?:UN)?PATH\\).*(\\[.*\\])"));
+    const Finished readelf = run(QStringLiteral(HOXQ_READELF), { "-dW", path(name) });
+    static const QRegularExpression soname("\\(SONAME\\).*\\[(.*)\\]");
+    static const QRegularExpression run_path("\\(R(?:UN)?PATH\\).*(\\[.*\\])");
     QCOMPARE(soname.match(readelf.output).captured(1), version);
     QTEST(run_path.match(readelf.output).captured(1), "run_path");
 }

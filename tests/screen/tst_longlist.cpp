@@ -8,12 +8,9 @@
 #include "ui/scrolling/vexoverticalscrollarea.h"
 #include "ui/scrolling/vexoverticalscrollcontent.h"
 
-#include <QLayout>
 #include <QPixmapCache>
 #include <QScopeGuard>
 #include <QScrollBar>
-
-#include <functional>
 
 #include <malloc.h>
 
@@ -21,7 +18,7 @@ using namespace vexo::hox::qt::ui;
 
 namespace {
 
-const QString TEXT = QStringLiteral("Contact %1 with a long name and a longer one");
+const QString TEXT = "Contact %1 with a long name and a longer one";
 
 QWidget *makeRow(int i)
 {

@@ -10,37 +10,23 @@
 #include "ui/text/vexolabeledcontainer.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QFile>
-#include <QLabel>
-#include <QPainter>
-#include <QRandomGenerator>
 #include <QScopeGuard>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QVBoxLayout>
 
-#include <functional>
-#include <memory>
-
 using namespace vexo::hox::qt::ui;
 
 namespace {
 
-const QString DAY = QStringLiteral(":/css/hoxq.qs");
-const QString NIGHT = QStringLiteral(":/css/vexo-AAL.qs");
+const QString DAY = ":/css/hoxq.qs";
+const QString NIGHT = ":/css/vexo-AAL.qs";
 
-QStringList sheets()
-{
-    static const QStringList texts = {
-        QString(),
-        QStringLiteral("* { background: #203040; color: #f0e0d0; }"),
-        QStringLiteral("QLabel { padding: 3px; } QAbstractButton { background: #80c0ff; }"),
-        QStringLiteral("QWidget:disabled { background: red; border: 2px solid blue; }"),
-        QStringLiteral("QWidget { font: bold 15px; } QLabel { qproperty-indent: 9; }"),
-    };
-    return texts;
-}
+const QStringList SHEETS{ "* { background: #203040; color: #f0e0d0; }",
+    "QLabel { padding: 3px; } QAbstractButton { background: #80c0ff; }",
+    "QWidget:disabled { background: red; border: 2px solid blue; }",
+    "QWidget { font: bold 15px; } QLabel { qproperty-indent: 9; }" };
 
 QString textOf(const QString &file)
 {
@@ -67,8 +53,8 @@ void fill(QWidget *window, const WalkedClass &walked)
     widget->setWindowFlags(Qt::Widget);
     column->addWidget(widget);
     for (int i = 0; i < 9; ++i)
-        column->addWidget(new QLabel(QStringLiteral("text")));
-    column->itemAt(1)->widget()->setStyleSheet(QStringLiteral("* { border: 3px solid green; }"));
+        column->addWidget(new QLabel("text"));
+    column->itemAt(1)->widget()->setStyleSheet("* { border: 3px solid green; }");
 }
 
 /// Remembers what it hears of its look, and the application's sheet at that time.
@@ -107,128 +93,6 @@ private:
     const QFont m_font = QApplication::font();
 };
 
-/// A screen of a few widgets of any class, and what can happen to their look.
-class Screen
-{
-public:
-    explicit Screen(quint32 seed);
-
-    QString change();
-    QWidget *window() { return m_window.get(); }
-
-private:
-    QString changeApplication();
-    QString changeMember();
-    void come();
-    QWidget *any() { return m_members.at(number(m_members.size())); }
-    int number(int bound) { return int(m_random.bounded(quint32(bound))); }
-
-    QRandomGenerator m_random;
-    std::unique_ptr<QWidget> m_window;
-    QVector<QWidget *> m_members;
-};
-
-Screen::Screen(quint32 seed)
-    : m_random(seed)
-{
-    come();
-}
-
-// A new screen is there before the old one goes.
-void Screen::come()
-{
-    auto window = std::make_unique<QWidget>();
-    window->resize(400, 300);
-    m_members.clear();
-    const auto &classes = walkedClasses();
-    auto *page = new QWidget(window.get()); // which leaves the size of the window alone
-    page->setGeometry(window->rect());
-    auto *column = new QVBoxLayout(page);
-    for (int i = 0; i < 4; ++i) {
-        QWidget *member = classes[size_t(number(int(classes.size())))].make(page);
-        if (auto *button = qobject_cast<QAbstractButton *>(member))
-            button->setText(QStringLiteral("Button %1").arg(i));
-        else if (auto *label = qobject_cast<QLabel *>(member))
-            label->setText(QStringLiteral("Label %1").arg(i));
-        member->setWindowFlags(Qt::Widget); // a main window would be one of its own
-        column->addWidget(member);
-        m_members += member;
-    }
-    window->show();
-    m_window = std::move(window);
-}
-
-QString Screen::change()
-{
-    switch (number(4)) {
-    case 0:
-        come();
-        return QStringLiteral("another screen");
-    case 1:
-        return changeMember();
-    default:
-        return changeApplication();
-    }
-}
-
-QString Screen::changeApplication()
-{
-    switch (number(6)) {
-    case 0:
-        VexoStylesheet(number(2) ? DAY : NIGHT, true);
-        return QStringLiteral("sheet of the library");
-    case 1:
-        qApp->setStyleSheet(sheets().at(number(sheets().size())));
-        return QStringLiteral("sheet of the application");
-    case 2:
-        QApplication::setPalette(QPalette(QColor::fromHsv(number(360), 90, 200)));
-        return QStringLiteral("palette of the application");
-    case 3: {
-        QFont font = QApplication::font();
-        font.setPixelSize(8 + number(20));
-        QApplication::setFont(font);
-        return QStringLiteral("font of the application");
-    }
-    case 4:
-        QApplication::setLayoutDirection(number(2) ? Qt::RightToLeft : Qt::LeftToRight);
-        return QStringLiteral("direction of the application");
-    default: {
-        QPixmap elsewhere(m_window->size() * 2); // as on a finer screen
-        elsewhere.setDevicePixelRatio(1 + number(5) / 4.0);
-        m_window->render(&elsewhere);
-        return QStringLiteral("another pixel ratio");
-    }
-    }
-}
-
-QString Screen::changeMember()
-{
-    QWidget *member = any();
-    switch (number(6)) {
-    case 0:
-        member->setStyleSheet(sheets().at(number(sheets().size())));
-        return QStringLiteral("sheet of a widget");
-    case 1:
-        member->setPalette(QPalette(QColor::fromHsv(number(360), 90, 200)));
-        return QStringLiteral("palette of a widget");
-    case 2:
-        member->setLayoutDirection(number(2) ? Qt::RightToLeft : Qt::LeftToRight);
-        return QStringLiteral("direction of a widget");
-    case 3:
-        member->setEnabled(!member->isEnabled());
-        return QStringLiteral("enabled or disabled");
-    case 4:
-        member->setVisible(member->isHidden());
-        return QStringLiteral("hidden or shown");
-    default: {
-        QFont font = member->font();
-        font.setPixelSize(8 + number(20));
-        member->setFont(font);
-        return QStringLiteral("font of a widget");
-    }
-    }
-}
-
 /// A button of an application that paints itself.
 template <typename Button>
 class Painted : public Button
@@ -247,60 +111,47 @@ class TestRestyle : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void sheetMayChangeAfterAScreenWasClosed_data();
+    void sheetMayChangeAfterAScreenWasClosed_data() { addWalkedClasses(); }
     void sheetMayChangeAfterAScreenWasClosed();
     void paletteReachesPartsOfAWidget();
     void arrowOfARowTakesPaddingFromASheet();
     void sheetGivesGroundToWhatPaintsItself();
-    void screenShowsWhatARepaintWouldPaint();
-    void changeLooksAsTheToolkitsOwn_data();
+    void changeLooksAsTheToolkitsOwn_data() { addWalkedClasses(); }
     void changeLooksAsTheToolkitsOwn();
     void changeIsHeardOnceWithTheNewSheet_data();
     void changeIsHeardOnceWithTheNewSheet();
-    void changeLeavesClassesTheirFonts();
-    void changeLeavesClassesTheirColours();
+    void changeLeavesClassesTheirFontsAndColours();
     void changeLeavesAWidgetItsStyle();
 };
-
-void TestRestyle::sheetMayChangeAfterAScreenWasClosed_data()
-{
-    QTest::addColumn<int>("index");
-    QTest::addColumn<bool>("sheet_first");
-    const auto &classes = walkedClasses();
-    for (size_t i = 0; i < classes.size(); ++i) {
-        QTest::addRow("%s, made under a sheet", classes[i].name) << int(i) << true;
-        QTest::addRow("%s, made before the first sheet", classes[i].name) << int(i) << false;
-    }
-}
 
 // The style keeps what it knows of a widget until that is destroyed; it forgets a widget only when
 // it was the one to mark it as styled.
 void TestRestyle::sheetMayChangeAfterAScreenWasClosed()
 {
-    QFETCH(int, index);
-    QFETCH(bool, sheet_first);
-    const ApplicationLook look;
-    if (sheet_first)
-        VexoStylesheet(DAY, true);
-    {
-        QWidget screen;
-        QWidget *widget = walkedClasses()[size_t(index)].make(&screen);
-        const QList<QWidget *> children = widget->findChildren<QWidget *>();
-        for (const QWidget *part : QList<QWidget *>{ widget } + children)
-            QVERIFY2(!part->testAttribute(Qt::WA_StyleSheet) || sheet_first
-                    || !part->styleSheet().isEmpty(),
-                part->metaObject()->className());
-        screen.show();
-        settle();
-        if (!sheet_first)
+    QFETCH(const WalkedClass *, walked);
+    for (const bool sheet_first : { true, false }) {
+        const ApplicationLook look;
+        if (sheet_first)
             VexoStylesheet(DAY, true);
+        {
+            QWidget screen;
+            QWidget *widget = walked->make(&screen);
+            for (const QWidget *part : QWidgetList{ widget } + widget->findChildren<QWidget *>())
+                QVERIFY2(!part->testAttribute(Qt::WA_StyleSheet) || sheet_first
+                        || !part->styleSheet().isEmpty(),
+                    part->metaObject()->className());
+            screen.show();
+            settle();
+            if (!sheet_first)
+                VexoStylesheet(DAY, true);
+            settle();
+        }
+        std::vector<std::unique_ptr<QByteArray>> taken; // what was freed is used anew
+        for (int i = 0; i < 200; ++i)
+            taken.push_back(std::make_unique<QByteArray>(500, 'x'));
+        VexoStylesheet(NIGHT, true);
         settle();
     }
-    std::vector<std::unique_ptr<QByteArray>> taken; // what was freed is used anew
-    for (int i = 0; i < 200; ++i)
-        taken.push_back(std::make_unique<QByteArray>(500, 'x'));
-    VexoStylesheet(NIGHT, true);
-    settle();
 }
 
 void TestRestyle::paletteReachesPartsOfAWidget()
@@ -310,8 +161,7 @@ void TestRestyle::paletteReachesPartsOfAWidget()
     QPalette palette;
     palette.setColor(QPalette::WindowText, Qt::red);
     screen.setPalette(palette);
-    const auto *caption
-        = container.findChild<QLabel *>(QStringLiteral("vexoLabeledContainerLabel"));
+    const auto *caption = container.findChild<QLabel *>("vexoLabeledContainerLabel");
     QCOMPARE(caption->palette().color(QPalette::WindowText), QColor(Qt::red));
 }
 
@@ -320,11 +170,11 @@ void TestRestyle::arrowOfARowTakesPaddingFromASheet()
     const ApplicationLook look;
     QWidget screen;
     VexoFunctionButton row(&screen, VexoFunctionButton::ActionType);
-    const auto *arrow = row.findChild<QWidget *>(QStringLiteral("vexoFunctionButtonWidgetRight"));
+    const auto *arrow = row.findChild<QWidget *>("vexoFunctionButtonWidgetRight");
     screen.show();
     settle();
     const QSize bare = arrow->size();
-    qApp->setStyleSheet(QStringLiteral("QLabel { padding: 4px; }"));
+    qApp->setStyleSheet("QLabel { padding: 4px; }");
     settle();
     QCOMPARE(arrow->size(), bare + QSize(8, 8));
     qApp->setStyleSheet(QString());
@@ -335,8 +185,7 @@ void TestRestyle::arrowOfARowTakesPaddingFromASheet()
 void TestRestyle::sheetGivesGroundToWhatPaintsItself()
 {
     const ApplicationLook look;
-    qApp->setStyleSheet(
-        QStringLiteral("QAbstractButton { background: #80c0ff; border-radius: 2px; }"));
+    qApp->setStyleSheet("QAbstractButton { background: #80c0ff; border-radius: 2px; }");
     QWidget screen;
     Painted<VexoIconButton> icon_button(&screen);
     Painted<VexoPushButton> push_button(&screen);
@@ -352,49 +201,12 @@ void TestRestyle::sheetGivesGroundToWhatPaintsItself()
     }
 }
 
-// Takes another number of changes from the environment variable HOXQ_CHANGES.
-void TestRestyle::screenShowsWhatARepaintWouldPaint()
-{
-    const int asked = qEnvironmentVariableIntValue("HOXQ_CHANGES");
-    const int changes = asked > 0 ? asked : 600;
-    const int changes_of_a_story = 60;
-    const ApplicationLook look;
-    PanelScale scale(4, 5);
-    for (int done = 0; done < changes; done += changes_of_a_story) {
-        const auto seed = quint32(done + 1);
-        Screen screen(seed);
-        QStringList story;
-        for (int i = 0; i < changes_of_a_story; ++i) {
-            story += screen.change();
-            settle();
-            const QRect wrong = wrongPixels(*screen.window());
-            if (wrong.isEmpty())
-                continue;
-            qWarning() << "seed" << seed << "wrong" << wrong << "after" << story;
-            for (const QWidget *part : screen.window()->findChildren<QWidget *>()) {
-                const QRect place(part->mapTo(screen.window(), QPoint()), part->size());
-                if (place.intersects(wrong))
-                    qWarning() << part << place;
-            }
-            QFAIL("the screen shows something else than a repaint");
-        }
-    }
-}
-
-void TestRestyle::changeLooksAsTheToolkitsOwn_data()
-{
-    QTest::addColumn<int>("index");
-    const auto &classes = walkedClasses();
-    for (size_t i = 0; i < classes.size(); ++i)
-        QTest::newRow(classes[i].name) << int(i);
-}
-
 void TestRestyle::changeLooksAsTheToolkitsOwn()
 {
-    QFETCH(int, index);
+    QFETCH(const WalkedClass *, walked);
     const ApplicationLook look;
     PanelScale scale(4, 5);
-    const QStringList texts = sheets().mid(1) + QStringList{ textOf(DAY), textOf(NIGHT) };
+    const QStringList texts = SHEETS + QStringList{ textOf(DAY), textOf(NIGHT) };
     for (int i = 0; i < texts.size(); ++i) {
         for (const int next : { 1, 2 }) {
             const QString &before = texts[i];
@@ -402,7 +214,7 @@ void TestRestyle::changeLooksAsTheToolkitsOwn()
             const auto picture = [&](const std::function<void()> &change) {
                 qApp->setStyleSheet(before);
                 QWidget window;
-                fill(&window, walkedClasses()[size_t(index)]);
+                fill(&window, *walked);
                 window.show();
                 settle();
                 change();
@@ -411,7 +223,7 @@ void TestRestyle::changeLooksAsTheToolkitsOwn()
             };
             const QImage toolkits = picture([&] { qApp->setStyleSheet(after); });
             const QImage ours = picture([&] { setSheet(after); });
-            QVERIFY2(ours == toolkits, qPrintable(before + QStringLiteral(" to ") + after));
+            QVERIFY2(ours == toolkits, qPrintable(before + " to " + after));
         }
     }
 }
@@ -420,10 +232,9 @@ void TestRestyle::changeIsHeardOnceWithTheNewSheet_data()
 {
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("after");
-    QTest::newRow("another") << sheets().at(1) << sheets().at(2);
-    QTest::newRow("one without colours")
-        << sheets().at(1) << QStringLiteral("Other { color: red }");
-    QTest::newRow("the same") << sheets().at(4) << sheets().at(4);
+    QTest::newRow("another") << SHEETS.at(0) << SHEETS.at(1);
+    QTest::newRow("one without colours") << SHEETS.at(0) << "Other { color: red }";
+    QTest::newRow("the same") << SHEETS.at(3) << SHEETS.at(3);
 }
 
 void TestRestyle::changeIsHeardOnceWithTheNewSheet()
@@ -456,40 +267,33 @@ void TestRestyle::changeIsHeardOnceWithTheNewSheet()
     }
 }
 
-void TestRestyle::changeLeavesClassesTheirFonts()
+void TestRestyle::changeLeavesClassesTheirFontsAndColours()
 {
     const ApplicationLook look;
-    qApp->setStyleSheet(sheets().at(1));
+    qApp->setStyleSheet(SHEETS.at(1));
     const auto put_back = qScopeGuard([] { QApplication::setFont(QFont(), "QMenu"); });
     QFont font;
     font.setPixelSize(33);
     QApplication::setFont(font, "QMenu");
-    setSheet(sheets().at(2));
-    QCOMPARE(QApplication::font("QMenu").pixelSize(), 33);
-}
-
-void TestRestyle::changeLeavesClassesTheirColours()
-{
-    const ApplicationLook look;
-    qApp->setStyleSheet(sheets().at(2));
     QApplication::setPalette(QPalette(Qt::red), "QMenu");
-    setSheet(sheets().at(4));
+    setSheet(SHEETS.at(3));
+    QCOMPARE(QApplication::font("QMenu").pixelSize(), 33);
     QCOMPARE(QApplication::palette("QMenu").color(QPalette::Button), QColor(Qt::red));
 }
 
 void TestRestyle::changeLeavesAWidgetItsStyle()
 {
     const ApplicationLook look;
-    const std::unique_ptr<QStyle> style(QStyleFactory::create(QStringLiteral("windows")));
-    qApp->setStyleSheet(sheets().at(1));
+    const std::unique_ptr<QStyle> style(QStyleFactory::create("windows"));
+    qApp->setStyleSheet(SHEETS.at(0));
     QWidget screen;
-    QLabel label(QStringLiteral("text"), &screen);
+    QLabel label("text", &screen);
     label.setStyle(style.get());
     for (int i = 0; i < 20; ++i)
         new QLabel(&screen); // most of a screen has the application's
     screen.show();
     settle();
-    setSheet(QStringLiteral("QLabel { padding: 9px; }"));
+    setSheet("QLabel { padding: 9px; }");
     settle();
     QCOMPARE(label.sizeHint().height(), 2 * 9 + label.fontMetrics().height());
 }

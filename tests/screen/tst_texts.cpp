@@ -7,16 +7,10 @@
 #include "ui/sliders/vexosliderdecoration.h"
 #include "ui/text/vexolabel.h"
 
-#include <QApplication>
 #include <QBuffer>
 #include <QImage>
-#include <QLabel>
-#include <QPainter>
 #include <QPdfWriter>
 #include <QTemporaryDir>
-#include <QTest>
-
-#include <functional>
 
 using namespace vexo::hox::qt::ui;
 
@@ -62,7 +56,7 @@ class TestTexts : public TestCase
 
 private Q_SLOTS:
     void initTestCase();
-    void markupOpensNoFile_data();
+    void markupOpensNoFile_data() { addWalkedClasses(); }
     void markupOpensNoFile();
     void applicationMayAskForMarkup();
     void tooLongTextKeepsItsBeginning_data();
@@ -80,27 +74,19 @@ void TestTexts::initTestCase()
 {
     TestCase::initTestCase();
     QVERIFY(m_folder.isValid());
-    const QString file = m_folder.filePath(QStringLiteral("large.png"));
+    const QString file = m_folder.filePath("large.png");
     QImage image(900, 800, QImage::Format_RGB32);
     image.fill(Qt::red);
     QVERIFY(image.save(file));
-    m_markup = QStringLiteral("Anna <img src='%1'>").arg(file);
-}
-
-void TestTexts::markupOpensNoFile_data()
-{
-    QTest::addColumn<int>("index");
-    const auto &classes = walkedClasses();
-    for (size_t i = 0; i < classes.size(); ++i)
-        QTest::newRow(classes[i].name) << int(i);
+    m_markup = QString("Anna <img src='%1'>").arg(file);
 }
 
 // Also of the parts that an application finds by their names.
 void TestTexts::markupOpensNoFile()
 {
-    QFETCH(int, index);
+    QFETCH(const WalkedClass *, walked);
     QWidget window;
-    QWidget *widget = walkedClasses()[size_t(index)].make(&window);
+    QWidget *widget = walked->make(&window);
     if (auto *row = qobject_cast<VexoFunctionButton *>(widget))
         row->setButtonType(VexoFunctionButton::ActionType);
     if (auto *decoration = qobject_cast<VexoSliderDecoration *>(widget))
@@ -158,7 +144,7 @@ void TestTexts::directionIsThatOfTheText_data()
 void TestTexts::directionIsThatOfTheText()
 {
     QFETCH(Picture, picture);
-    const QString text = QStringLiteral("(1) a.");
+    const QString text = "(1) a.";
     const QImage expected = picture(text);
     QApplication::setLayoutDirection(Qt::RightToLeft);
     const QImage later = picture(text);
@@ -171,9 +157,9 @@ void TestTexts::directionIsThatOfTheText()
 void TestTexts::textsStayTextsInAPdf()
 {
     VexoFunctionButton row;
-    row.setText(QStringLiteral("Night mode"));
+    row.setText("Night mode");
     VexoLabel label;
-    label.setText(QStringLiteral("Brightness"));
+    label.setText("Brightness");
     for (QWidget *widget : QWidgetList{ &row, &label }) {
         widget->resize(400, 80);
         widget->grab();

@@ -23,7 +23,7 @@ public:
         QFile reset(QStringLiteral("/proc/self/clear_refs"));
         if (reset.open(QIODevice::WriteOnly))
             reset.write("5"); // the peak is the present size
-        m_base_mb = megabytes("VmRSS:");
+        m_base_mb = statusKib("VmRSS:") / 1024;
         m_start_ms = cpuMs();
     }
 
@@ -33,7 +33,7 @@ public:
     }
     int peakMb() const
     {
-        return megabytes("VmHWM:") - m_base_mb;
+        return statusKib("VmHWM:") / 1024 - m_base_mb;
     }
 
     /// Not more than 100 ms, with a factor for a slow or busy machine, and 64 MB.
@@ -48,22 +48,22 @@ public:
         return QStringLiteral("%1 ms, %2 MB").arg(ms()).arg(peakMb());
     }
 
+    /// A line of the process's status.
+    static int statusKib(const QByteArray &field)
+    {
+        QFile status(QStringLiteral("/proc/self/status"));
+        if (!status.open(QIODevice::ReadOnly))
+            return 0;
+        const QByteArray text = status.readAll();
+        return text.mid(text.indexOf(field) + field.size()).simplified().split(' ')[0].toInt();
+    }
+
 private:
     static double cpuMs()
     {
         timespec time = {};
         clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
         return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
-    }
-
-    static int megabytes(const QByteArray &field)
-    {
-        QFile status(QStringLiteral("/proc/self/status"));
-        if (!status.open(QIODevice::ReadOnly))
-            return 0;
-        const QByteArray text = status.readAll();
-        const QByteArray rest = text.mid(text.indexOf(field) + field.size(), 32);
-        return rest.left(rest.indexOf('k')).trimmed().toInt() / 1024;
     }
 
     int m_base_mb = 0;

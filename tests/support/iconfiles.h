@@ -1,10 +1,10 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
-#include <QColor>
+#include "support/pixels.h"
+
 #include <QDateTime>
 #include <QFile>
-#include <QImage>
 #include <QTemporaryDir>
 
 /// Files that are gone with this object.
@@ -36,16 +36,3 @@ public:
 private:
     QTemporaryDir m_dir;
 };
-
-/// The smallest rectangle around all pixels that are exactly \a color; empty when there are none.
-inline QRect boxOf(const QImage &image, const QColor &color)
-{
-    QRect box;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixelColor(x, y) == color)
-                box |= QRect(x, y, 1, 1);
-        }
-    }
-    return box;
-}

@@ -1,6 +1,8 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
+#include "support/pixels.h"
+
 #include <QCoreApplication>
 #include <QImage>
 #include <QPixmap>
@@ -27,12 +29,6 @@ inline void settle()
         QCoreApplication::sendPostedEvents();
         QCoreApplication::processEvents();
     }
-}
-
-inline bool differ(QRgb first, QRgb second, int step)
-{
-    return qAbs(qRed(first) - qRed(second)) > step || qAbs(qGreen(first) - qGreen(second)) > step
-        || qAbs(qBlue(first) - qBlue(second)) > step;
 }
 
 /// Empty where the screen shows what a full repaint of \a window would paint, within \a step of

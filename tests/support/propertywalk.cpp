@@ -10,6 +10,7 @@
 #include <QPointF>
 #include <QSizeF>
 #include <QStringListModel>
+#include <QTest>
 #include <QVariant>
 
 #include <type_traits>
@@ -30,7 +31,7 @@ template <>
 QWidget *make<RowList>(QWidget *parent)
 {
     auto *list = new RowList(parent);
-    const QStringList texts{ QStringLiteral("Row"), QStringLiteral("Another row") };
+    const QStringList texts{ "Row", "Another row" };
     list->setModel(new QStringListModel(texts, list));
     return list;
 }
@@ -74,9 +75,16 @@ const std::vector<WalkedClass> &walkedClasses()
     return classes;
 }
 
+void addWalkedClasses()
+{
+    QTest::addColumn<const WalkedClass *>("walked");
+    for (const WalkedClass &walked : walkedClasses())
+        QTest::newRow(walked.name) << &walked;
+}
+
 namespace {
 
-const QString IMAGE = QStringLiteral(":/cb_checked"); // for the stylesheet
+const QString IMAGE = ":/cb_checked"; // for the stylesheet
 
 QVariant otherEnumerator(const QMetaProperty &property, int current)
 {
@@ -104,7 +112,7 @@ QVariant otherValue(const QMetaProperty &property, const QVariant &value, int st
     case QMetaType::Float:
         return value.toFloat() + float(step);
     case QMetaType::QString:
-        return QStringLiteral("text %1").arg(step);
+        return QString("text %1").arg(step);
     case QMetaType::QColor:
         return QColor(10 * step, 20, 30);
     case QMetaType::QSizeF:
@@ -112,7 +120,7 @@ QVariant otherValue(const QMetaProperty &property, const QVariant &value, int st
     case QMetaType::QPointF:
         return value.toPointF() + QPointF(step, step);
     case QMetaType::QPixmap:
-        return QPixmap(step == 3 ? QStringLiteral(":/rb_checked") : IMAGE);
+        return QPixmap(step == 3 ? ":/rb_checked" : IMAGE);
     case QMetaType::QIcon:
         return QIcon(QPixmap(step, step));
     default:
@@ -129,7 +137,7 @@ QString cssText(const QMetaProperty &property, const QVariant &value)
     if (value.userType() == QMetaType::QColor)
         return value.value<QColor>().name();
     if (value.userType() == QMetaType::QPixmap)
-        return QStringLiteral("url(%1)").arg(IMAGE);
+        return QString("url(%1)").arg(IMAGE);
     return QLatin1Char('"') + value.toString() + QLatin1Char('"');
 }
 
@@ -156,8 +164,8 @@ bool takesByStylesheet(const QMetaProperty &property, QWidget *widget)
         if (other.userType() == type)
             return true;
     }
-    widget->setObjectName(QStringLiteral("walked")); // not its children
-    widget->setStyleSheet(QStringLiteral("#walked { qproperty-%1: %2; }")
+    widget->setObjectName("walked"); // not its children
+    widget->setStyleSheet(QString("#walked { qproperty-%1: %2; }")
                               .arg(QLatin1String(property.name()), cssText(property, other)));
     widget->ensurePolished();
     return holds(property, widget, other);
@@ -173,13 +181,13 @@ QStringList propertyFaults(QWidget *widget)
         const QMetaProperty property = meta->property(i);
         const QString name = QLatin1String(property.name());
         if (!takesByName(property, widget))
-            faults += name + QStringLiteral(" does not keep a value written by name");
+            faults += name + " does not keep a value written by name";
         if (!property.isScriptable(widget) || !property.isStored(widget))
-            faults += name + QStringLiteral(" is not scriptable and stored");
+            faults += name + " is not scriptable and stored";
         if (!property.isDesignable(widget)) // also keeps it out of stylesheets
-            faults += name + QStringLiteral(" is not designable");
+            faults += name + " is not designable";
         else if (!takesByStylesheet(property, widget))
-            faults += name + QStringLiteral(" does not take a value from a stylesheet");
+            faults += name + " does not take a value from a stylesheet";
     }
     return faults;
 }

@@ -1,6 +1,7 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
+#include <QMetaType>
 #include <QStringList>
 #include <QVariant>
 #include <QWidget>
@@ -19,6 +20,8 @@ struct WalkedClass
 
 /// Every widget class of the public interface.
 const std::vector<WalkedClass> &walkedClasses();
+/// A row "walked" for each of them.
+void addWalkedClasses();
 
 /// A value for \a property that is not \a value; another one for each \a step. Invalid if the type
 /// of the property is not known.
@@ -28,3 +31,5 @@ QVariant otherValue(const QMetaProperty &property, const QVariant &value, int st
 /// scriptable and stored, take another value by name and give it back, and take one from a
 /// qproperty- rule of a stylesheet. Returns a line per fault.
 QStringList propertyFaults(QWidget *widget);
+
+Q_DECLARE_METATYPE(const WalkedClass *)

@@ -15,7 +15,7 @@ QStringList unexpected;
 QString lineOf(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
     static const char *const names[] = { "debug", "warning", "critical", "fatal", "info" };
-    return QStringLiteral("%1 %2: %3")
+    return QString("%1 %2: %3")
         .arg(QLatin1String(names[type]), QLatin1String(context.category), text);
 }
 

@@ -56,23 +56,24 @@ bool isGoneAfter(Signal signal, Widget *victim, const Way &way = { { 20, 15 } })
     return !widget;
 }
 
+/// Installs itself and counts the tones that it is asked for.
+struct ToneCounter : vexo::hox::qt::ui::VexoFeedbackDelegator
+{
+    ToneCounter() { tone_delegator = this; }
+    void tone() override { ++tones; }
+    void down() override { }
+    void up() override { }
+    int tones = 0;
+};
+
 /// Whether a press on a Widget rings once, and only the delegator of its construction.
 template <typename Widget>
 bool ringsOnce()
 {
-    using vexo::hox::qt::ui::VexoFeedbackDelegator;
-    struct Delegator : VexoFeedbackDelegator
-    {
-        Delegator() { tone_delegator = this; }
-        void tone() override { ++tones; }
-        void down() override { }
-        void up() override { }
-        int tones = 0;
-    };
     Widget silent;
-    const Delegator delegator;
+    const ToneCounter delegator;
     Widget widget;
-    const Delegator later;
+    const ToneCounter later;
     touch(&silent);
     touch(&widget);
     return delegator.tones == 1 && later.tones == 0;

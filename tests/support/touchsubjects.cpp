@@ -19,7 +19,7 @@
 #include <VexoVerticalButtonScrollArea>
 #include <VideoCapturePanning>
 
-#include <QAction>
+#include <QTest>
 
 using namespace vexo::hox::qt::ui;
 
@@ -120,7 +120,7 @@ const std::vector<TouchSubject> &touchSubjects()
         { "VexoPushButton", make<VexoPushButton>, "", "pressed; released; clicked",
             "clicked(bool)" },
         { "VexoHorizontalTextIconButton", make<VexoHorizontalTextIconButton>, "",
-            "pressed; released; clicked", "clicked(bool)" },
+            "pressed; released; clicked", "clicked(bool)", "", false, true },
         { "VexoCheckBox", make<VexoCheckBox>, "", "pressed; clicked; toggled", "clicked(bool)" },
         { "VexoRadioButton", make<VexoRadioButton>, "", "pressed; clicked; toggled",
             "clicked(bool)" },
@@ -146,15 +146,25 @@ const std::vector<TouchSubject> &touchSubjects()
             "sliderPressed; sliderReleased", "sliderReleased()", "sliderReleased" },
         { "VexoSlider beside its handle", [] { return makeSlider(0); }, "",
             "actionTriggered; forwardPressEvent; forwardReleaseEvent",
-            "forwardReleaseEvent(QMouseEvent*)", "", true },
+            "forwardReleaseEvent(QMouseEvent*)", "", true, true },
         { "letter of a jump bar", makeJumpBar, "letterButton", "pressed; released; clicked",
-            "clicked(bool)" },
-        { "VideoCapturePanning", makePanning, "", "", "tap()" },
+            "clicked(bool)", "", false, true },
+        { "VideoCapturePanning", makePanning, "", "", "tap()", "", false, true },
     };
     return subjects;
 }
 
-QWidget *touchedPart(const TouchSubject &subject, QWidget *whole)
+void addTouchSubjects()
 {
-    return *subject.part ? whole->findChild<QWidget *>(QLatin1String(subject.part)) : whole;
+    QTest::addColumn<const TouchSubject *>("subject");
+    for (const TouchSubject &subject : touchSubjects())
+        QTest::addRow("%s", subject.name) << &subject;
+}
+
+TouchTarget::TouchTarget(const TouchSubject &of)
+    : subject(&of)
+    , whole(of.make())
+    , touched(*of.part ? whole->findChild<QWidget *>(QLatin1String(of.part)) : whole)
+    , ticks(whole->findChild<QAction *>({}, Qt::FindDirectChildrenOnly))
+{
 }

@@ -3,11 +3,14 @@
 
 #include <VexoLogging>
 
+#include <QFile>
 #include <QLoggingCategory>
-#include <QTest>
-#include <QThread>
 
+#include <atomic>
 #include <thread>
+
+#include <sys/syscall.h>
+#include <unistd.h>
 
 using vexo::hox::qt::system::VexoLogging;
 
@@ -21,6 +24,17 @@ private Q_SLOTS:
     void debugIsOffUntilARuleSwitchesItOn();
     void channelIsMadeByOneThread();
 };
+
+namespace {
+
+// Or gone.
+bool isAsleep(long thread)
+{
+    QFile status(QString("/proc/self/task/%1/stat").arg(thread));
+    return !status.open(QIODevice::ReadOnly) || !status.readAll().contains(") R");
+}
+
+} // namespace
 
 void TestVexoLogging::cleanup()
 {
@@ -37,7 +51,7 @@ void TestVexoLogging::writesOneLineOnItsCategory()
     video.Error("no picture");
     nameless.Info("x");
     const QStringList expected = { QString::fromUtf8("info hoxq.B: Grüße %s"),
-        QStringLiteral("critical hoxq.*: no picture"), QStringLiteral("info hoxq.: x") };
+        "critical hoxq.*: no picture", "info hoxq.: x" };
     QCOMPARE(messages.lines(), expected);
 }
 
@@ -49,30 +63,36 @@ void TestVexoLogging::debugIsOffUntilARuleSwitchesItOn()
     QVERIFY(!icon.isDebugging());
     icon.Debug("dropped");
 
-    QLoggingCategory::setFilterRules(QStringLiteral("hoxq.CVI.debug=true"));
+    QLoggingCategory::setFilterRules("hoxq.CVI.debug=true");
     const VexoLogging later("CVI");
     QVERIFY(icon.isDebugging() && later.isDebugging());
     QVERIFY(!button.isDebugging());
     icon.Debug("kept");
-    QCOMPARE(messages.lines(), QStringList(QStringLiteral("debug hoxq.CVI: kept")));
+    QCOMPARE(messages.lines(), QStringList("debug hoxq.CVI: kept"));
 }
 
-/// A second thread asks for a channel while the first one is still at making it.
+// A second thread asks for a channel while the first one is still at making it, until it has to
+// wait for that or has made one itself.
 void TestVexoLogging::channelIsMadeByOneThread()
 {
-    static int made = 0;
+    static std::atomic<int> made{ 0 };
     static std::thread second;
     const auto notice = [](QLoggingCategory *category) {
         if (qstrcmp(category->categoryName(), "hoxq.shared") != 0 || made++ > 0)
             return;
-        second = std::thread([] { VexoLogging("shared").isDebugging(); });
-        QThread::msleep(100);
+        std::atomic<long> id{ 0 };
+        second = std::thread([&id] {
+            id = syscall(SYS_gettid);
+            VexoLogging("shared").isDebugging();
+        });
+        while (id == 0 || !isAsleep(id))
+            std::this_thread::yield();
     };
     const auto former = QLoggingCategory::installFilter(notice);
     const VexoLogging first("shared");
     second.join();
     QLoggingCategory::installFilter(former);
-    QCOMPARE(made, 1);
+    QCOMPARE(made.load(), 1);
     Messages messages;
     first.Info("x");
     QCOMPARE(messages.lines(), QStringList(QStringLiteral("info hoxq.shared: x")));

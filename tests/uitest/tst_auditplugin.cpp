@@ -24,14 +24,12 @@ namespace {
 void start(QProcess *gallery, const QString &plugin)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), plugin);
-    environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(HOXQ_PLUGINS));
+    environment.insert("QT_QPA_GENERIC_PLUGINS", plugin);
+    environment.insert("QT_PLUGIN_PATH", QStringLiteral(HOXQ_PLUGINS));
     gallery->setProcessEnvironment(environment);
     gallery->setProcessChannelMode(QProcess::MergedChannels);
     gallery->start(QStringLiteral(HOXQ_GALLERY),
-        { QStringLiteral("-platform"), QStringLiteral("offscreen"), QStringLiteral("--page"),
-            QStringLiteral("stylesheets"), QStringLiteral("--panel"),
-            QStringLiteral("800x480@152x91") });
+        { "-platform", "offscreen", "--page", "stylesheets", "--panel", "800x480@152x91" });
 }
 
 QByteArray textOf(const QString &name)
@@ -45,9 +43,9 @@ QByteArray textOf(const QString &name)
 void TestAuditPlugin::writesEachFindingOnce()
 {
     const QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("findings.json"));
+    const QString file = folder.filePath("findings.json");
     QProcess gallery;
-    start(&gallery, QStringLiteral("hoxquiaudit:out=%1:frames=1").arg(file));
+    start(&gallery, QString("hoxquiaudit:out=%1:frames=1").arg(file));
     QTRY_VERIFY_WITH_TIMEOUT(textOf(file).contains("accessible-name")
             || gallery.state() == QProcess::NotRunning || textOf(file).count('\n') > 3,
         60000);
@@ -61,9 +59,9 @@ void TestAuditPlugin::writesEachFindingOnce()
         known.insert(line);
         const QJsonObject finding = QJsonDocument::fromJson(line).object();
         QCOMPARE(finding.keys(), QStringList({ "mm", "rule", "severity", "text", "where" }));
-        QCOMPARE(finding[QStringLiteral("mm")].toArray().size(), 4);
-        has_check_box |= finding[QStringLiteral("where")].toString().contains("QCheckBox")
-            && finding[QStringLiteral("rule")] == QLatin1String("touch-size");
+        QCOMPARE(finding["mm"].toArray().size(), 4);
+        has_check_box
+            |= finding["where"].toString().contains("QCheckBox") && finding["rule"] == "touch-size";
     }
     QVERIFY2(has_check_box, lines.join('\n').constData());
 }
@@ -71,7 +69,7 @@ void TestAuditPlugin::writesEachFindingOnce()
 void TestAuditPlugin::logsWhatItFinds()
 {
     QProcess gallery;
-    start(&gallery, QStringLiteral("hoxquiaudit:nonsense=1"));
+    start(&gallery, "hoxquiaudit:nonsense=1");
     QByteArray output;
     QTRY_VERIFY_WITH_TIMEOUT(
         (output += gallery.readAll()).contains("hoxq.audit: error: touch-size"), 60000);

@@ -6,14 +6,12 @@
 
 #include <Panel>
 
-#include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QRegularExpression>
 
 using namespace auditing;
 using namespace vexo::hox::qt::ui;
-using vexo::hox::qt::uitest::PanelAudit;
 
 namespace {
 
@@ -40,7 +38,7 @@ QVector<Accepted> readAccepted()
         return accepted;
     const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
     for (const QString &line : lines) {
-        const QStringList parts = line.split(QStringLiteral(" | "));
+        const QStringList parts = line.split(" | ");
         if (parts.size() == 4 && !line.startsWith(QLatin1Char('#')))
             accepted.append({ whole(parts.at(0)), parts.at(1),
                 QRegularExpression(parts.at(2).trimmed()), line });
@@ -51,7 +49,7 @@ QVector<Accepted> readAccepted()
 bool isFor(const Accepted &accepted, const QString &page, const Finding &finding)
 {
     return accepted.page.match(page).hasMatch() && accepted.rule == finding.rule
-        && accepted.what.match(finding.where + QStringLiteral(": ") + finding.text).hasMatch();
+        && accepted.what.match(finding.where + ": " + finding.text).hasMatch();
 }
 
 void open(MainWindow *window, int page)
@@ -133,7 +131,7 @@ void TestPanelAuditGallery::eachAcceptedLineIsNeeded()
 void TestPanelAuditGallery::settingsTakeAMoment()
 {
     MainWindow window;
-    open(&window, pageNames().indexOf(QStringLiteral("settings")));
+    open(&window, pageNames().indexOf("settings"));
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const auto time = [](const std::function<void()> &run) {
         qint64 best_ns = std::numeric_limits<qint64>::max();

@@ -5,7 +5,6 @@
 #include <VexoLineEdit>
 
 #include <QFile>
-#include <QLabel>
 #include <QPixmapCache>
 
 using namespace vexo::hox::qt::uitest;
@@ -22,7 +21,7 @@ void openAndClose()
 {
     QWidget window;
     auto *field = new vexo::hox::qt::ui::VexoLineEdit(&window);
-    field->setText(QStringLiteral("text"));
+    field->setText("text");
     window.show();
     QCoreApplication::processEvents();
 }
@@ -33,7 +32,7 @@ void fillCache()
     static int number = 0;
     QPixmap pixmap(20, 20);
     pixmap.fill(Qt::red);
-    QPixmapCache::insert(QStringLiteral("picture %1").arg(++number), pixmap);
+    QPixmapCache::insert(QString("picture %1").arg(++number), pixmap);
 }
 
 // Held once, whatever the number of rounds.
@@ -41,7 +40,7 @@ void fillCacheOnce()
 {
     QPixmap pixmap(200, 200);
     pixmap.fill(Qt::red);
-    QPixmapCache::insert(QStringLiteral("picture"), pixmap);
+    QPixmapCache::insert("picture", pixmap);
 }
 
 } // namespace
@@ -64,21 +63,20 @@ void TestSoak::findsWhatIsLeftBehind_data()
     QTest::addColumn<QString>("kind"); // empty: no leak
     QTest::newRow("nothing") << Round(openAndClose) << QString();
     QTest::newRow("a few bytes") << Round([] { kept_bytes.append(QByteArray(200, ' ')); })
-                                 << QStringLiteral("bytes of heap");
-    QTest::newRow("an object") << Round([] { kept_objects.append(new QObject); })
-                               << QStringLiteral("1.00 objects");
+                                 << "bytes of heap";
+    QTest::newRow("an object") << Round([] { kept_objects.append(new QObject); }) << "1.00 objects";
     QTest::newRow("deleted later") << Round([] { (new QObject)->deleteLater(); }) << QString();
     QTest::newRow("every fourth time") << Round([] {
         static int number = 0;
         if (++number % 4 == 0)
             kept_objects.append(new QObject);
-    }) << QStringLiteral("0.25 objects");
-    QTest::newRow("pixmaps") << Round(fillCache) << QStringLiteral("bytes in the pixmap cache");
+    }) << "0.25 objects";
+    QTest::newRow("pixmaps") << Round(fillCache) << "bytes in the pixmap cache";
     QTest::newRow("one pixmap") << Round(fillCacheOnce) << QString();
     QTest::newRow("a file") << Round([] {
-        kept_files.append(new QFile(QStringLiteral("/dev/null")));
+        kept_files.append(new QFile("/dev/null"));
         kept_files.last()->open(QIODevice::ReadOnly);
-    }) << QStringLiteral("1.00 open files");
+    }) << "1.00 open files";
     QTest::newRow("once") << Round([] {
         static int number = 0;
         if (++number == 150)
@@ -99,10 +97,10 @@ void TestSoak::findsWhatIsLeftBehind()
     const QString text = result.text();
     QVERIFY2(result.isLeaking() == !kind.isEmpty(), qPrintable(text));
     if (kind.isEmpty())
-        QCOMPARE(text, QStringLiteral("nothing grew in 240 rounds"));
+        QCOMPARE(text, "nothing grew in 240 rounds");
     else
-        QVERIFY2(text.contains(kind) && text.startsWith(QLatin1String("each of 240 rounds left")),
-            qPrintable(text));
+        QVERIFY2(
+            text.contains(kind) && text.startsWith("each of 240 rounds left"), qPrintable(text));
 }
 
 void TestSoak::countsTheRounds()

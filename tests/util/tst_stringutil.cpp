@@ -3,8 +3,6 @@
 
 #include <StringUtil>
 
-#include <QTest>
-
 #include <cerrno>
 #include <cstring>
 #include <typeinfo>

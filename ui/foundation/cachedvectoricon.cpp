@@ -3,7 +3,7 @@
 
 #include "ui/files/imagefile_p.h"
 #include "ui/foundation/pixels_p.h"
-#include "ui/painting/iconpixmap_p.h"
+#include "ui/foundation/sharpicon_p.h"
 
 #include <stdexcept>
 

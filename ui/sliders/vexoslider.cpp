@@ -2,6 +2,7 @@
 #include "ui/sliders/vexoslider.h"
 
 #include "ui/buttons/tone_p.h"
+#include "ui/foundation/accessible_p.h"
 #include "ui/foundation/saturated_p.h"
 #include "ui/foundation/withoutrepaint_p.h"
 #include "ui/sliders/slideraccessible_p.h"
@@ -17,7 +18,7 @@ namespace vexo::hox::qt::ui {
 VexoSlider::VexoSlider(QWidget *parent)
     : QSlider(parent)
 {
-    makeSlidersAccessible();
+    installAccessible<VexoSlider, SliderAccessible>();
     setPageStep(0); // a press on the groove does not page
     connect(this, &QAbstractSlider::valueChanged, this, &VexoSlider::onValueChanged);
     connectTone(this, &QAbstractSlider::sliderPressed);

@@ -8,7 +8,6 @@
 
 #include <QBoxLayout>
 #include <QPointer>
-#include <QTest>
 
 #include <stdexcept>
 
@@ -20,11 +19,11 @@ const QString DEFAULT = QLatin1String(ActiveButton::DEFAULT_STATE_NAME);
 
 void change(ActiveVectorButton *button, const QString &by, const QSizeF &size)
 {
-    if (by == QLatin1String("width"))
+    if (by == "width")
         button->setMmIconWidth(size.width());
-    else if (by == QLatin1String("height"))
+    else if (by == "height")
         button->setMmIconHeight(size.height());
-    else if (by == QLatin1String("both"))
+    else if (by == "both")
         button->setMmIconSize(size);
     else
         button->setPxIconSize(size.toSize());
@@ -42,11 +41,11 @@ public:
     Hooked()
     {
         connect(this, &ActiveVectorButton::sizeChanged, this,
-            [this](double w, double h) { calls += QStringLiteral("%1 x %2").arg(w).arg(h); });
+            [this](double w, double h) { calls += QString("%1 x %2").arg(w).arg(h); });
     }
     QIcon compute(const QString &path) override
     {
-        calls += QStringLiteral("render");
+        calls += "render";
         return ActiveVectorButton::compute(path);
     }
     QStringList calls;
@@ -89,9 +88,9 @@ void TestActiveVectorButton::tellsAndRendersItsSize_data()
     QTest::newRow("same size") << "both" << QSizeF(10, 10) << kept << "";
     QTest::newRow("same px") << "px" << QSizeF(100, 200) << kept << "";
     QTest::newRow("-px") << "px" << QSizeF(50, -1) << kept << "";
-    const QString width_error = QStringLiteral("Negative image width is impossible!");
-    const QString height_error = QStringLiteral("Negative image height is impossible!");
-    const QString size_error = QStringLiteral("Negative image size parameter is impossible!");
+    const QString width_error = "Negative image width is impossible!";
+    const QString height_error = "Negative image height is impossible!";
+    const QString size_error = "Negative image size parameter is impossible!";
     QTest::newRow("-width") << "width" << QSizeF(-0.1, 0) << kept << width_error;
     QTest::newRow("height NaN") << "height" << QSizeF(0, qQNaN()) << kept << height_error;
     QTest::newRow("both, width") << "both" << QSizeF(-1, 5) << kept << size_error;
@@ -112,7 +111,7 @@ void TestActiveVectorButton::tellsAndRendersItsSize()
     } catch (const std::out_of_range &error) {
         button.calls += QString::fromLatin1(error.what());
     }
-    QTEST(button.calls.join(QStringLiteral(", ")), "calls");
+    QTEST(button.calls.join(", "), "calls");
     QCOMPARE(mmOf(button) == QSizeF(10, 10), !px.isValid());
     QCOMPARE(button.pxIconSize(), px.isValid() ? px : QSize(100, 200));
     QCOMPARE(button.minimumSizeHint(), px.isValid() ? px : QSize(0, 0)); // until a size is set

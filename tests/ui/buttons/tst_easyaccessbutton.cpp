@@ -3,7 +3,6 @@
 
 #include <EasyAccessButton>
 
-#include <QTest>
 #include <QVector>
 
 #include <limits>

@@ -1,21 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "support/testcase.h"
+#include "support/touch.h"
 #include "support/virtualclock.h"
 
 #include <MeasuredPushButton>
-#include <VexoFeedbackDelegator>
-
-#include <QPointer>
-#include <QSignalSpy>
-#include <QTest>
-
-#include <memory>
 
 using namespace vexo::hox::qt::ui;
 
 namespace {
-
-const char *const LONG_STILL_HELD = "long, held";
 
 /// What the button emits, in order, without the times.
 class Log : public QObject
@@ -33,7 +24,7 @@ public:
         });
         connect(button, &MeasuredPushButton::keyPressHandling, this,
             [this](uint ms, bool short_pressed, bool pressed) {
-                lines += pressed ? LONG_STILL_HELD : short_pressed ? "short" : "long";
+                lines += pressed ? "long, held" : short_pressed ? "short" : "long";
                 elapsed_ms = ms;
             });
     }
@@ -43,15 +34,6 @@ public:
     QByteArrayList lines;
     uint delayed_ms = 0;
     uint elapsed_ms = 0;
-};
-
-class Delegator : public VexoFeedbackDelegator
-{
-public:
-    void tone() override { ++tones; }
-    void down() override { }
-    void up() override { }
-    int tones = 0;
 };
 
 /// Counts what the hook for subclasses is told.
@@ -67,23 +49,18 @@ protected:
 
 void press(QWidget *button)
 {
-    QTest::mousePress(button, Qt::LeftButton);
+    finger(button, QEvent::MouseButtonPress, QPoint(5, 5));
 }
 
-void release(QWidget *button)
+void release(QWidget *button, const QPoint &at = QPoint(5, 5))
 {
-    QTest::mouseRelease(button, Qt::LeftButton);
-}
-
-/// Lets the time of \a count ticks of \a interval_ms pass.
-void runLoop(int count, int interval_ms)
-{
-    virtualclock::pass(count * interval_ms);
+    finger(button, QEvent::MouseMove, at);
+    finger(button, QEvent::MouseButtonRelease, at);
 }
 
 } // namespace
 
-class TestMeasuredPushButton : public TestCase
+class TestMeasuredPushButton : public VirtualTimeTestCase
 {
     Q_OBJECT
 
@@ -91,28 +68,18 @@ public Q_SLOTS:
     void countPulse() { ++m_pulses; }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        TestCase::initTestCase();
-        virtualclock::start();
-    }
     void init();
-    void shortPressIsReportedAfterTheClick();
-    void longPressIsReportedWhileHeldAndAtTheRelease();
-    void releaseOffTheButtonIsMeasuredToo();
-    void otherMouseButtonsAreNotMeasured();
+    void pressIsMeasured_data();
+    void pressIsMeasured();
     void hookReceivesTheDurationInsteadOfTheSignal();
     void pulsesWhileHeld();
     void pulseConnectionsAddUp();
     void pulseNeedsIntervalAndPermission_data();
     void pulseNeedsIntervalAndPermission();
-    void endedPressIsSilent_data();
-    void endedPressIsSilent();
+    void slotOfPressedMayEndThePress_data();
+    void slotOfPressedMayEndThePress();
     void dialogInASlotReportsNoLongPress();
-    void mayBeDeletedInItsSignals_data();
-    void mayBeDeletedInItsSignals();
-    void ringsTheDelegatorOfItsConstruction();
-    void buddiesFollowTheButton();
+    void delegatorMayGo();
 
 private:
     int m_pulses = 0;
@@ -124,58 +91,37 @@ void TestMeasuredPushButton::init()
     m_pulses = 0;
 }
 
-void TestMeasuredPushButton::shortPressIsReportedAfterTheClick()
+void TestMeasuredPushButton::pressIsMeasured_data()
 {
-    MeasuredPushButton button;
-    const Log log(&button);
-    press(&button);
-    release(&button);
-    QCOMPARE(log.text(), QByteArray("pressed; released; clicked; delayed; short"));
-    QCOMPARE(log.delayed_ms, log.elapsed_ms);
-    QVERIFY(log.elapsed_ms < 300);
+    QTest::addColumn<int>("held_ms");
+    QTest::addColumn<QPoint>("released_at"); // on a button of 100 x 50 px
+    QTest::addColumn<QByteArray>("told");
+    const QPoint inside(5, 5);
+    QTest::newRow("short") << 290 << inside
+                           << QByteArray("pressed; released; clicked; delayed; short");
+    QTest::newRow("long") << 310 << inside
+                          << QByteArray("pressed; long, held; released; clicked; delayed; long");
+    QTest::newRow("off it") << 0 << QPoint(150, 25)
+                            << QByteArray("pressed; released; delayed; short");
 }
 
-void TestMeasuredPushButton::longPressIsReportedWhileHeldAndAtTheRelease()
+void TestMeasuredPushButton::pressIsMeasured()
 {
-    MeasuredPushButton button;
-    const Log log(&button);
-    press(&button);
-    runLoop(1, 290);
-    QCOMPARE(log.text(), QByteArray("pressed"));
-    runLoop(1, 20);
-    QCOMPARE(log.text(), QByteArray("pressed; long, held"));
-    QVERIFY2(log.elapsed_ms >= 300, qPrintable(QString::number(log.elapsed_ms)));
-    release(&button);
-    QCOMPARE(log.text(), QByteArray("pressed; long, held; released; clicked; delayed; long"));
-    QCOMPARE(log.delayed_ms, log.elapsed_ms);
-    runLoop(4, 100);
-    QCOMPARE(log.lines.size(), 6);
-}
-
-void TestMeasuredPushButton::releaseOffTheButtonIsMeasuredToo()
-{
+    QFETCH(int, held_ms);
+    QFETCH(QPoint, released_at);
+    QFETCH(QByteArray, told);
     MeasuredPushButton button;
     button.resize(100, 50);
     const Log log(&button);
     press(&button);
-    QTest::mouseMove(&button, QPoint(150, 25));
-    QMouseEvent away(QEvent::MouseMove, QPointF(150, 25), Qt::NoButton, Qt::LeftButton, {});
-    QApplication::sendEvent(&button, &away);
-    QTest::mouseRelease(&button, Qt::LeftButton, {}, QPoint(150, 25));
-    QCOMPARE(log.text(), QByteArray("pressed; released; delayed; short"));
-}
-
-void TestMeasuredPushButton::otherMouseButtonsAreNotMeasured()
-{
-    MeasuredPushButton button;
-    const Log log(&button);
-    QTest::mouseClick(&button, Qt::RightButton);
-    QCOMPARE(log.text(), QByteArray());
-    press(&button);
-    QTest::mouseClick(&button, Qt::RightButton); // ends the press
-    QVERIFY(!button.isDown());
-    release(&button);
-    QCOMPARE(log.text(), QByteArray("pressed"));
+    virtualclock::pass(held_ms);
+    QVERIFY(log.lines.size() == 1 || log.elapsed_ms >= 300);
+    release(&button, released_at);
+    QCOMPARE(log.text(), told);
+    QCOMPARE(log.delayed_ms, log.elapsed_ms);
+    QVERIFY(qAbs(int(log.elapsed_ms) - held_ms) < 10);
+    virtualclock::pass(400);
+    QCOMPARE(log.text(), told);
 }
 
 void TestMeasuredPushButton::hookReceivesTheDurationInsteadOfTheSignal()
@@ -195,20 +141,20 @@ void TestMeasuredPushButton::pulsesWhileHeld()
     button.enablePulse(true);
     press(&button);
     QCOMPARE(m_pulses, 0);
-    runLoop(4, 20);
+    virtualclock::pass(80);
     QVERIFY(m_pulses >= 3);
     release(&button);
     const int pulses = m_pulses;
-    runLoop(3, 20);
+    virtualclock::pass(60);
     QCOMPARE(m_pulses, pulses);
 
     press(&button);
-    runLoop(2, 20);
+    virtualclock::pass(40);
     QVERIFY(m_pulses > pulses);
     button.enablePulse(false);
     const int until_switched_off = m_pulses;
     button.enablePulse(true); // acts at the next press
-    runLoop(3, 20);
+    virtualclock::pass(60);
     QCOMPARE(m_pulses, until_switched_off);
 }
 
@@ -222,7 +168,7 @@ void TestMeasuredPushButton::pulseConnectionsAddUp()
     receiver.reset();
     button.enablePulse(true);
     press(&button);
-    runLoop(2, 20);
+    virtualclock::pass(40);
     QVERIFY(m_pulses > 0);
     QCOMPARE(m_pulses % 2, 0);
 }
@@ -251,49 +197,33 @@ void TestMeasuredPushButton::pulseNeedsIntervalAndPermission()
     }
     button.enablePulse(enabled);
     press(&button);
-    runLoop(3, 10);
+    virtualclock::pass(30);
     QCOMPARE(m_pulses, 0);
 }
 
-void TestMeasuredPushButton::endedPressIsSilent_data()
+void TestMeasuredPushButton::slotOfPressedMayEndThePress_data()
 {
-    QTest::addColumn<QByteArray>("by");
-    QTest::addColumn<bool>("in_slot"); // of pressed()
-    QTest::newRow("hidden") << QByteArray("hide") << false;
-    QTest::newRow("disabled") << QByteArray("disable") << false;
-    QTest::newRow("parent hidden") << QByteArray("hide parent") << false;
-    QTest::newRow("hidden by pressed()") << QByteArray("hide") << true;
-    QTest::newRow("disabled by pressed()") << QByteArray("disable") << true;
+    QTest::addColumn<bool>("hides"); // or disables
+    QTest::newRow("hide") << true;
+    QTest::newRow("disable") << false;
 }
 
-void TestMeasuredPushButton::endedPressIsSilent()
+void TestMeasuredPushButton::slotOfPressedMayEndThePress()
 {
-    QFETCH(QByteArray, by);
-    QFETCH(bool, in_slot);
+    QFETCH(bool, hides);
     QWidget parent;
     MeasuredPushButton button(&parent);
     parent.show();
     button.pulse(20, this, SLOT(countPulse()));
     button.enablePulse(true);
     const Log log(&button);
-    const auto end = [&] {
-        if (by == "disable")
-            button.setEnabled(false);
-        else if (by == "hide")
-            button.hide();
-        else
-            parent.hide();
-    };
-    if (in_slot)
-        connect(&button, &QAbstractButton::pressed, &parent, end);
+    connect(&button, &QAbstractButton::pressed, &parent,
+        [&] { hides ? button.hide() : button.setEnabled(false); });
     press(&button);
-    if (!in_slot)
-        end();
     QVERIFY(!button.isDown());
     button.setEnabled(true);
-    parent.show();
     button.show();
-    runLoop(4, 100); // longer than a long press
+    virtualclock::pass(400); // longer than a long press
     release(&button);
     QCOMPARE(log.text(), QByteArray("pressed"));
     QCOMPARE(m_pulses, 0);
@@ -303,98 +233,23 @@ void TestMeasuredPushButton::dialogInASlotReportsNoLongPress()
 {
     MeasuredPushButton button;
     const Log log(&button);
-    connect(&button, &QAbstractButton::clicked, this, [] { runLoop(4, 100); });
+    connect(&button, &QAbstractButton::clicked, this, [] { virtualclock::pass(400); });
     press(&button);
     release(&button);
     QCOMPARE(log.text(), QByteArray("pressed; released; clicked; delayed; short"));
 }
 
-void TestMeasuredPushButton::mayBeDeletedInItsSignals_data()
+void TestMeasuredPushButton::delegatorMayGo()
 {
-    QTest::addColumn<QByteArray>("signal");
-    QTest::addColumn<bool>("held");
-    QTest::newRow("pressed") << QByteArray(SIGNAL(pressed())) << false;
-    QTest::newRow("released") << QByteArray(SIGNAL(released())) << false;
-    QTest::newRow("clicked") << QByteArray(SIGNAL(clicked())) << false;
-    QTest::newRow("pressedDelayed") << QByteArray(SIGNAL(pressedDelayed(uint))) << false;
-    QTest::newRow("short") << QByteArray(SIGNAL(keyPressHandling(uint, bool, bool))) << false;
-    QTest::newRow("long") << QByteArray(SIGNAL(keyPressHandling(uint, bool, bool))) << true;
-}
-
-/// Deletes its button at once.
-class Killer : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit Killer(QWidget *victim)
-        : m_victim(victim)
-    {
-    }
-    bool isDone() const { return !m_victim; }
-
-public Q_SLOTS:
-    void kill() { delete m_victim; }
-
-private:
-    QPointer<QWidget> m_victim;
-};
-
-void TestMeasuredPushButton::mayBeDeletedInItsSignals()
-{
-    QFETCH(QByteArray, signal);
-    QFETCH(bool, held);
-    const QPointer<MeasuredPushButton> button = new MeasuredPushButton;
-    Killer killer(button);
-    connect(button, signal, &killer, SLOT(kill()));
-    press(button);
-    if (held)
-        runLoop(1, 310);
-    if (button)
-        release(button);
-    QVERIFY(killer.isDone());
-}
-
-void TestMeasuredPushButton::ringsTheDelegatorOfItsConstruction()
-{
-    MeasuredPushButton silent;
-    auto delegator = std::make_unique<Delegator>();
-    VexoFeedbackDelegator::tone_delegator = delegator.get();
+    auto former = std::make_unique<ToneCounter>();
     MeasuredPushButton button;
-    Delegator later;
-    VexoFeedbackDelegator::tone_delegator = &later;
-    QTest::mouseClick(&silent, Qt::LeftButton);
-    QTest::mouseClick(&button, Qt::LeftButton);
-    QCOMPARE(delegator->tones, 1);
-    QCOMPARE(later.tones, 0);
-
-    delegator.reset(); // was not the one installed
-    QCOMPARE(VexoFeedbackDelegator::tone_delegator, &later);
-    QTest::mouseClick(&button, Qt::LeftButton);
-    auto installed = std::make_unique<Delegator>();
-    VexoFeedbackDelegator::tone_delegator = installed.get();
+    auto installed = std::make_unique<ToneCounter>();
+    former.reset();
+    QCOMPARE(VexoFeedbackDelegator::tone_delegator, installed.get());
+    touch(&button);
+    QCOMPARE(installed->tones, 0);
     installed.reset();
     QVERIFY(!VexoFeedbackDelegator::tone_delegator);
-}
-
-void TestMeasuredPushButton::buddiesFollowTheButton()
-{
-    QWidget window;
-    MeasuredPushButton button(&window);
-    auto *label = new QWidget(&window);
-    button.addVisibleBuddy(label);
-    QVERIFY(label->testAttribute(Qt::WA_WState_ExplicitShowHide) == false);
-    button.hide();
-    QVERIFY(label->isHidden());
-    button.show();
-    QVERIFY(!label->isHidden());
-    delete label;
-    button.hide();
-    QWidget other(&window);
-    button.addVisibleBuddy(&other);
-    button.clearVisibleBuddies();
-    button.show();
-    QVERIFY(!other.testAttribute(Qt::WA_WState_ExplicitShowHide));
 }
 
 QTEST_MAIN(TestMeasuredPushButton)

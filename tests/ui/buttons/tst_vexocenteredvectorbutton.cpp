@@ -6,10 +6,6 @@
 #include <VexoCenteredVectorButton>
 #include <VexoIconButton>
 
-#include <QLabel>
-#include <QLayout>
-#include <QTest>
-
 #include <stdexcept>
 
 using namespace vexo::hox::qt::ui;
@@ -24,12 +20,12 @@ private Q_SLOTS:
     void negativeIconSizeChangesNothing();
 
 private:
+    const PanelScale m_scale{ 10, 20 };
     IconFiles m_files;
 };
 
 void TestVexoCenteredVectorButton::measuresPlaceTheIcon()
 {
-    const PanelScale scale(10, 20);
     VexoCenteredVectorButton tile;
     const auto icon = [&] { return boxOf(tile.grab().toImage(), Qt::magenta); };
     tile.setIconPath(m_files.svg(Qt::red));
@@ -57,13 +53,12 @@ void TestVexoCenteredVectorButton::measuresPlaceTheIcon()
 
 void TestVexoCenteredVectorButton::fontsKeepTheirWeights()
 {
-    const PanelScale scale(10, 20);
     VexoCenteredVectorButton tile;
     tile.setTextFontSizeInPt(12);
-    tile.setText(QStringLiteral("Camera"));
-    tile.setSubtext(QStringLiteral("off"));
-    const auto *text = tile.findChild<QLabel *>(QStringLiteral("textLabel"));
-    const auto *subtext = tile.findChild<QLabel *>(QStringLiteral("subtextLabel"));
+    tile.setText("Camera");
+    tile.setSubtext("off");
+    const auto *text = tile.findChild<QLabel *>("textLabel");
+    const auto *subtext = tile.findChild<QLabel *>("subtextLabel");
     QCOMPARE(text->font().pixelSize(), 84);
     QCOMPARE(text->font().weight(), 57);
     QCOMPARE(subtext->font().pixelSize(), 63); // 9 pt = 63.5 px

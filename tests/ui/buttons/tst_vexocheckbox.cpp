@@ -5,8 +5,6 @@
 #include <VexoCheckBox>
 #include <VexoRadioButton>
 
-#include <QTest>
-
 using namespace vexo::hox::qt::ui;
 
 /// VexoCheckBox and VexoRadioButton.
@@ -19,7 +17,6 @@ private Q_SLOTS:
     void tellsATapFromASwipe();
     void fingerThatRestsOnAMovingListTaps();
     void radioButtonsExcludeEachOther();
-    void ringsAndMayBeDeleted();
 };
 
 void TestVexoCheckBox::tellsATapFromASwipe_data()
@@ -81,15 +78,6 @@ void TestVexoCheckBox::radioButtonsExcludeEachOther()
     QCOMPARE(log, QByteArray("pressed; clicked 1; "));
     touch(&second);
     QVERIFY(log.endsWith("2 pressed; toggled 0; 2 toggled 1; 2 clicked 1; "));
-}
-
-void TestVexoCheckBox::ringsAndMayBeDeleted()
-{
-    QVERIFY(ringsOnce<VexoCheckBox>() && ringsOnce<VexoRadioButton>());
-    QVERIFY(isGoneAfter(&QAbstractButton::pressed, new VexoCheckBox));
-    QVERIFY(isGoneAfter(&QAbstractButton::clicked, new VexoCheckBox));
-    QVERIFY(isGoneAfter(&QAbstractButton::pressed, new VexoRadioButton));
-    QVERIFY(isGoneAfter(&QAbstractButton::clicked, new VexoRadioButton));
 }
 
 QTEST_MAIN(TestVexoCheckBox)

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "support/iconfiles.h"
-#include "support/paintcounter.h"
 #include "support/panelscale.h"
 #include "support/testcase.h"
 
 #include <VexoDesignVectorButton>
 
 #include <QFontMetrics>
-#include <QTest>
 
 using namespace vexo::hox::qt::ui;
 
@@ -59,7 +57,6 @@ private Q_SLOTS:
     void darkLook_data();
     void darkLook();
     void cutsLongTextsAtTheEdge();
-    void repaintsOnceForEachProperty();
 
 private:
     IconFiles m_files;
@@ -118,7 +115,7 @@ void TestVexoDesignVectorButton::placesTheBaselines()
     font.setPixelSize(text_px);
     font.setWeight(QFont::Medium);
     const int baseline = QFontMetrics(font).ascent() + below_ascent;
-    const QString letters = QStringLiteral("EEEE");
+    const QString letters = "EEEE";
     const QRect line = boxOfLine(&tile, letters, QString());
     QCOMPARE(line.bottom() + 1, baseline);
     const QRect subline = boxOfLine(&tile, QString(), letters);
@@ -136,9 +133,9 @@ void TestVexoDesignVectorButton::mainTextHasItsOwnWeight()
     dress(&tile);
     QFont bold;
     bold.setBold(true);
-    tile.setText(QStringLiteral("E"));
+    tile.setText("E");
     const QImage main_text = picture(&tile);
-    tile.setSubtext(QStringLiteral("E"));
+    tile.setSubtext("E");
     const QImage both_texts = picture(&tile);
     tile.setFont(bold);
     QVERIFY(picture(&tile) != both_texts); // the subtext follows
@@ -163,7 +160,7 @@ void TestVexoDesignVectorButton::toggleTextsNeedAllFour()
     QFETCH(bool, checkable);
     QFETCH(bool, checked);
     QFETCH(QString, shown);
-    const QString below = QStringLiteral(" below");
+    const QString below = " below";
     const PanelScale scale(10, 20);
     VexoDesignVectorButton tile;
     VexoDesignVectorButton expected;
@@ -171,7 +168,7 @@ void TestVexoDesignVectorButton::toggleTextsNeedAllFour()
         dress(each);
         each->setCheckable(checkable);
         each->setChecked(checked);
-        each->setText(QStringLiteral("plain"));
+        each->setText("plain");
         each->setSubtext(each->text() + below);
     }
     expected.setText(shown);
@@ -180,7 +177,7 @@ void TestVexoDesignVectorButton::toggleTextsNeedAllFour()
         const QString on_or_off = QString::fromLatin1(property).section(QLatin1Char('_'), 0, 0);
         tile.setProperty(property, strstr(property, "sub") ? on_or_off + below : on_or_off);
     }
-    if (shown == QLatin1String("plain"))
+    if (shown == "plain")
         tile.setProperty(QTest::currentDataTag(), QString());
     QCOMPARE(picture(&tile), picture(&expected));
 }
@@ -205,7 +202,7 @@ void TestVexoDesignVectorButton::darkLook()
     const PanelScale scale(6, 6);
     VexoDesignVectorButton tile;
     dress(&tile);
-    tile.setText(QStringLiteral("EEEE"));
+    tile.setText("EEEE");
     tile.addIcon(DEFAULT, m_files.svg(Qt::blue));
     tile.addInverseIcon(DEFAULT, m_files.svg(Qt::cyan));
     tile.setCheckable(true);
@@ -231,8 +228,8 @@ void TestVexoDesignVectorButton::cutsLongTextsAtTheEdge()
     const PanelScale scale(10, 20);
     VexoDesignVectorButton tile;
     dress(&tile);
-    const QString letter = QStringLiteral("E");
-    const QString words = letter.repeated(10000) + QStringLiteral(" E").repeated(1000);
+    const QString letter = QString("E");
+    const QString words = letter.repeated(10000) + QString(" E").repeated(1000);
     const QRect line = boxOfLine(&tile, letter, QString());
     const QRect subline = boxOfLine(&tile, QString(), letter);
     const QRect words_line = boxOfLine(&tile, words, QString());
@@ -240,12 +237,6 @@ void TestVexoDesignVectorButton::cutsLongTextsAtTheEdge()
     QVERIFY(words_line.right() > 790 && words_subline.right() > 790); // no ellipsis
     QCOMPARE(words_line.bottom(), line.bottom()); // no second line
     QCOMPARE(words_subline.bottom(), subline.bottom());
-}
-
-void TestVexoDesignVectorButton::repaintsOnceForEachProperty()
-{
-    VexoDesignVectorButton tile;
-    QCOMPARE(propertiesWithoutOneRepaint(&tile), QByteArrayList());
 }
 
 QTEST_MAIN(TestVexoDesignVectorButton)

@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "support/iconfiles.h"
-#include "support/paintcounter.h"
 #include "support/panelscale.h"
 #include "support/testcase.h"
 
 #include <VexoKeyboardButton>
-
-#include <QApplication>
-#include <QMetaProperty>
-#include <QTest>
 
 using namespace vexo::hox::qt::ui;
 
@@ -59,8 +54,6 @@ private Q_SLOTS:
     void iconIsRenderedAtTheCommonSize();
     void labelLeavesItsIconSeen();
     void directionIsThatOfTheApplication();
-    void heightIsFixed();
-    void changeRepaintsOnceAndShows();
 
 private:
     IconFiles m_files;
@@ -105,7 +98,7 @@ void TestVexoKeyboardButton::lookFollowsNameAndState()
     QCOMPARE(boxOf(image, icon), QRect(77, 32, 47, 94)); // 94 px high, as wide in mm
     key.removeIcons();
     key.setIcon(QIcon());
-    key.setText(QStringLiteral("H"));
+    key.setText("H");
     image = picture(&key);
     const QRect letter = boxOf(image, label);
     QVERIFY(qAbs(letter.height() - 66) <= 4); // of 91 px
@@ -119,7 +112,8 @@ void TestVexoKeyboardButton::edgesAreDrawnOnRequest()
     VexoKeyboardButton key;
     dress(&key);
     key.setObjectName(VexoKeyboardButton::STANDARD_KEY_OBJECT_NAME);
-    QCOMPARE(key.height(), 48);
+    QCOMPARE(key.minimumHeight(), 48);
+    QCOMPARE(key.maximumHeight(), 48);
     QImage image = picture(&key);
     QCOMPARE(image.pixelColor(100, 0), TOP);
     QCOMPARE(image.pixelColor(100, 1), STANDARD);
@@ -192,7 +186,7 @@ void TestVexoKeyboardButton::labelLeavesItsIconSeen()
     key.addIcon(DEFAULT, m_files.svg(Qt::blue));
     const QRect icon = boxOf(picture(&key), Qt::blue);
     QVERIFY(!icon.isEmpty());
-    key.setText(QStringLiteral("i"));
+    key.setText("i");
     QVERIFY(!boxOf(picture(&key), INK).isEmpty());
     QVERIFY(boxOf(picture(&key).copy(icon), SPECIAL).isEmpty()); // no ground on it
 }
@@ -202,7 +196,7 @@ void TestVexoKeyboardButton::directionIsThatOfTheApplication()
 {
     const auto made = [](VexoKeyboardButton *key) {
         dress(key);
-        key->setText(QStringLiteral("(a) b."));
+        key->setText("(a) b.");
         return picture(key);
     };
     VexoKeyboardButton before;
@@ -214,42 +208,6 @@ void TestVexoKeyboardButton::directionIsThatOfTheApplication()
     QApplication::setLayoutDirection(Qt::LeftToRight);
     QVERIFY(right_to_left != left_to_right);
     QVERIFY(later == right_to_left);
-}
-
-void TestVexoKeyboardButton::heightIsFixed()
-{
-    const PanelScale scale(10, 20);
-    VexoKeyboardButton key;
-    key.setHeightInMm(7.99);
-    QCOMPARE(key.minimumHeight(), 159);
-    QCOMPARE(key.maximumHeight(), 159);
-    key.setHeightInMm(-1);
-    QCOMPARE(key.maximumHeight(), 0);
-}
-
-/// Nothing that a paint keeps may outlive a change.
-void TestVexoKeyboardButton::changeRepaintsOnceAndShows()
-{
-    VexoKeyboardButton key;
-    QCOMPARE(
-        propertiesWithoutOneRepaint(&key), QByteArrayList{ "height_in_mm" }); // a height it has
-    const QMetaObject &meta = VexoKeyboardButton::staticMetaObject;
-    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
-        const QMetaProperty property = meta.property(i);
-        VexoKeyboardButton painted;
-        VexoKeyboardButton fresh;
-        for (VexoKeyboardButton *each : { &painted, &fresh }) {
-            dress(each);
-            each->setText(QStringLiteral("H"));
-        }
-        picture(&painted);
-        const QVariant old = property.read(&fresh);
-        const bool is_number = old.userType() == QMetaType::Double;
-        const QVariant value = is_number ? old.toDouble() * 2 : QVariant(QColor(Qt::darkCyan));
-        for (VexoKeyboardButton *each : { &painted, &fresh })
-            QVERIFY(property.write(each, old.userType() == QMetaType::Bool ? false : value));
-        QVERIFY2(picture(&painted) == picture(&fresh), property.name());
-    }
 }
 
 QTEST_MAIN(TestVexoKeyboardButton)

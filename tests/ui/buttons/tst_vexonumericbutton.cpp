@@ -9,9 +9,7 @@
 #include <VexoIconButton>
 #include <VexoNumericButton>
 
-#include <QLabel>
 #include <QMouseEvent>
-#include <QTest>
 #include <QTimer>
 
 #include <limits>
@@ -47,9 +45,9 @@ struct Stepper
     QTimer soon; // fires with the next events once it is started
     Numbers told;
     QPointer<VexoNumericButton> widget = new VexoNumericButton(&window);
-    QLabel *label = widget->findChild<QLabel *>(QStringLiteral("numberLabel"));
-    QAbstractButton *minus = widget->findChild<QAbstractButton *>(QStringLiteral("decreaseButton"));
-    QAbstractButton *plus = widget->findChild<QAbstractButton *>(QStringLiteral("increaseButton"));
+    QLabel *label = widget->findChild<QLabel *>("numberLabel");
+    QAbstractButton *minus = widget->findChild<QAbstractButton *>("decreaseButton");
+    QAbstractButton *plus = widget->findChild<QAbstractButton *>("increaseButton");
 };
 
 } // namespace
@@ -169,8 +167,7 @@ void TestVexoNumericButton::partsArePlacedInMillimetres()
     QCOMPARE(stepper.label->font().pixelSize(), 91); // 13 pt = 91.7 px
     QCOMPARE(stepper.label->font().weight(), 57);
     for (QAbstractButton *button : { stepper.minus, stepper.plus }) {
-        const QString file
-            = QStringLiteral(":/widgetimages/Icons_Round_Small/RoundButton_S_%1_%2.svg");
+        const QString file = ":/widgetimages/Icons_Round_Small/RoundButton_S_%1_%2.svg";
         const QLatin1String sign(button == stepper.plus ? "Plus" : "Minus");
         for (const char *state : { "Active", "Pressed", "Inactive" }) {
             button->setEnabled(*state != 'I');
@@ -192,7 +189,7 @@ void TestVexoNumericButton::queuedPressesDoNotNest()
     window.resize(500, 100);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
-    auto *plus = stepper.findChild<QAbstractButton *>(QStringLiteral("increaseButton"));
+    auto *plus = stepper.findChild<QAbstractButton *>("increaseButton");
     const int presses = 100;
     quintptr deepest = std::numeric_limits<quintptr>::max();
     const auto start = reinterpret_cast<quintptr>(__builtin_frame_address(0));

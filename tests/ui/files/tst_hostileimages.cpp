@@ -12,9 +12,6 @@
 #include <QDir>
 #include <QImageWriter>
 #include <QLoggingCategory>
-#include <QTest>
-
-#include <memory>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -154,7 +151,7 @@ private:
 TestHostileImages::TestHostileImages()
 {
     limitMemory();
-    QLoggingCategory::setFilterRules(QStringLiteral("hoxq.CVI.debug=true"));
+    QLoggingCategory::setFilterRules("hoxq.CVI.debug=true");
 }
 
 void TestHostileImages::init()
@@ -254,7 +251,7 @@ void TestHostileImages::addMany()
 /// What no file can be read from, as itself and as the picture in a vector.
 void TestHostileImages::addNoFiles()
 {
-    const QByteArray pipe = QFile::encodeName(m_files.path(QStringLiteral("pipe.svg")));
+    const QByteArray pipe = QFile::encodeName(m_files.path("pipe.svg"));
     mkfifo(pipe.constData(), 0600);
     QTest::newRow("pipe without writer") << QFile::decodeName(pipe);
     addWritten("shows a pipe.svg", image(pipe));
@@ -263,23 +260,22 @@ void TestHostileImages::addNoFiles()
             .replace("xmlns:xlink", "xmlns:xlink='other' xmlns:real"));
     addWritten("sheet from a pipe.svg",
         "<?xml-stylesheet type=\"text/css\" href=\"" + pipe + "\"?>" + svg("<rect/>"));
-    const QString folder = m_files.path(QStringLiteral("folder.svg"));
+    const QString folder = m_files.path("folder.svg");
     QDir().mkdir(folder);
     QTest::newRow("folder") << folder;
-    QTest::newRow("endless device") << QStringLiteral("/dev/zero");
+    QTest::newRow("endless device") << "/dev/zero";
     if (geteuid() == 0)
         return; // may read all
     addWritten("no permission.svg", svg("<rect/>"));
-    QFile::setPermissions(
-        m_files.path(QStringLiteral("no permission.svg")), QFileDevice::WriteOwner);
+    QFile::setPermissions(m_files.path("no permission.svg"), QFileDevice::WriteOwner);
 }
 
 void TestHostileImages::unreadableFileGivesTheNamedLines()
 {
     QFETCH(QString, file);
-    QStringList expected(QStringLiteral("debug hoxq.CVI: Invalid pixmap"));
-    if (file.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive))
-        expected.prepend(QStringLiteral("debug hoxq.CVI: SVG renderer invalid."));
+    QStringList expected("debug hoxq.CVI: Invalid pixmap");
+    if (file.endsWith(".svg", Qt::CaseInsensitive))
+        expected.prepend("debug hoxq.CVI: SVG renderer invalid.");
     const Messages messages;
     CachedVectorIcon icon(file, QSizeF(10, 5));
     QVERIFY(icon.toPixmap().isNull());
@@ -345,10 +341,10 @@ void TestHostileImages::flawedFileIsHarmless()
 
 void TestHostileImages::plainButtonShowsNoHostileFile()
 {
-    const QString pipe = m_files.path(QStringLiteral("pipe.png"));
+    const QString pipe = m_files.path("pipe.png");
     mkfifo(qPrintable(pipe), 0600);
-    const QString exploding = m_files.write(QStringLiteral("exploding.svg"), usesOfUses());
-    for (const QString &file : { pipe, exploding, QStringLiteral("/dev/zero") }) {
+    const QString exploding = m_files.write(QString("exploding.svg"), usesOfUses());
+    for (const QString &file : { pipe, exploding, QString("/dev/zero") }) {
         ActiveButton button;
         button.addIcon(QLatin1String(ActiveButton::DEFAULT_STATE_NAME), file);
         QVERIFY(button.icon().isNull());
@@ -360,9 +356,9 @@ void TestHostileImages::plainButtonShowsNoHostileFile()
 void TestHostileImages::plainButtonOpensNothingInAPaint()
 {
     const QByteArray halves = "<rect width='20' height='20' fill='#00ff00'/>";
-    const QString vector = m_files.write(QStringLiteral("plain.svg"), svg(halves));
-    const QString plain = m_files.write(QStringLiteral("plain"), svg(halves));
-    const QString bitmap = m_files.write(QStringLiteral("plain.png"), png(40, 20));
+    const QString vector = m_files.write("plain.svg", svg(halves));
+    const QString plain = m_files.write("plain", svg(halves));
+    const QString bitmap = m_files.write("plain.png", png(40, 20));
     for (const QString &file : { vector, plain, bitmap }) {
         ActiveButton button;
         button.addIcon(QLatin1String(ActiveButton::DEFAULT_STATE_NAME), file);
@@ -379,7 +375,7 @@ void TestHostileImages::pictureThatTakesTooLongIsNotDrawn()
 {
     const QByteArray strokes = svg("<path stroke='red' d='M0 0" + many(15000, "L40 3L0 9") + "'/>");
     for (const QByteArray &bytes : { circles(3000), strokes }) {
-        const QString file = m_files.write(QStringLiteral("slow.svg"), bytes);
+        const QString file = m_files.write("slow.svg", bytes);
         const Effort effort;
         CachedVectorIcon icon(file, QSizeF(400, 100));
         QVERIFY(icon.toPixmap().isNull());
@@ -388,7 +384,7 @@ void TestHostileImages::pictureThatTakesTooLongIsNotDrawn()
         QCOMPARE(logo.image().pixelColor(1000, 1000), QColor(Qt::white));
         QVERIFY2(effort.isSmall(2), qPrintable(effort.text()));
     }
-    CachedVectorIcon small(m_files.write(QStringLiteral("slow.svg"), circles(300)), QSizeF(10, 5));
+    CachedVectorIcon small(m_files.write("slow.svg", circles(300)), QSizeF(10, 5));
     QVERIFY(!small.toPixmap().isNull());
 }
 
@@ -407,7 +403,7 @@ void TestHostileImages::sizeBeyondAPixmapGivesNone_data()
 void TestHostileImages::sizeBeyondAPixmapGivesNone()
 {
     QFETCH(QSizeF, mm);
-    for (const QString &file : { QStringLiteral(":/XSvg"), QStringLiteral(":/cb_checked") }) {
+    for (const QString &file : { QString(":/XSvg"), QString(":/cb_checked") }) {
         const Messages messages;
         CachedVectorIcon icon(file, mm);
         QVERIFY(icon.toPixmap().isNull() && icon.isNull());

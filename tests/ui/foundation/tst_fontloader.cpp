@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "support/effort.h"
 #include "support/panelscale.h"
 #include "support/testcase.h"
 
 #include <FontLoader>
 
-#include <QApplication>
 #include <QDir>
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -13,26 +13,12 @@
 #include <QRawFont>
 #include <QResource>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <algorithm>
 
 #include <sys/stat.h>
 
 using namespace vexo::hox::qt::ui;
-
-namespace {
-
-// KiB.
-qint64 anonymousMemory()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    status.open(QIODevice::ReadOnly);
-    const QByteArray text = status.readAll();
-    return text.mid(text.indexOf("RssAnon:") + 8).simplified().split(' ').value(0).toLongLong();
-}
-
-} // namespace
 
 class TestFontLoader : public TestCase
 {
@@ -41,8 +27,7 @@ class TestFontLoader : public TestCase
 private Q_SLOTS:
     void unusableFileGivesNoFamily_data();
     void unusableFileGivesNoFamily();
-    void lightFaceBecomesTheApplicationsFont();
-    void allWeightsAndTheFallbackAreRegistered();
+    void facesAreRegisteredAndTheLightOneApplies();
     void hugeStretchIsLimited();
     void findsFontFiles_data();
     void findsFontFiles();
@@ -63,8 +48,8 @@ void TestFontLoader::unusableFileGivesNoFamily_data()
     QTest::newRow("no such file") << QByteArray(":/fonts/none.otf");
     QTest::newRow("not a font") << QByteArray(":/css/hoxq.qs");
     QTest::newRow("a directory") << QByteArray("/");
-    mkfifo(qPrintable(m_dir.filePath(QStringLiteral("pipe"))), 0600);
-    QTest::newRow("a pipe") << m_dir.filePath(QStringLiteral("pipe")).toUtf8();
+    mkfifo(qPrintable(m_dir.filePath("pipe")), 0600);
+    QTest::newRow("a pipe") << m_dir.filePath("pipe").toUtf8();
     QTest::newRow("an endless device") << QByteArray("/dev/zero");
     QTest::newRow("empty path") << QByteArray("");
     QTest::newRow("null path") << QByteArray();
@@ -76,7 +61,7 @@ void TestFontLoader::unusableFileGivesNoFamily()
     QCOMPARE(FontLoader::loadFont(path.isNull() ? nullptr : path.constData()), QString());
 }
 
-void TestFontLoader::lightFaceBecomesTheApplicationsFont()
+void TestFontLoader::facesAreRegisteredAndTheLightOneApplies()
 {
     const PanelScale scale(5, 6);
     FontLoader();
@@ -86,21 +71,11 @@ void TestFontLoader::lightFaceBecomesTheApplicationsFont()
     QCOMPARE(font.stretch(), 120);
     QVERIFY(!font.italic());
     QVERIFY(QFontInfo(font).exactMatch());
-    QCOMPARE(QRawFont::fromFont(font).styleName(), QStringLiteral("Light"));
-}
-
-void TestFontLoader::allWeightsAndTheFallbackAreRegistered()
-{
-    FontLoader();
-    const QString family = QApplication::font().family();
-    const QFontDatabase database;
-    QStringList styles = database.styles(family);
+    QCOMPARE(QRawFont::fromFont(font).styleName(), "Light");
+    QStringList styles = QFontDatabase().styles(font.family());
     styles.sort();
-    const QStringList expected = { QStringLiteral("Bold"), QStringLiteral("Light"),
-        QStringLiteral("Medium"), QStringLiteral("Regular") };
-    QCOMPARE(styles, expected);
-    const QList<QFontDatabase::WritingSystem> chinese = { QFontDatabase::SimplifiedChinese };
-    QVERIFY(!database.families(chinese.first()).isEmpty());
+    QCOMPARE(styles, QStringList({ "Bold", "Light", "Medium", "Regular" }));
+    QVERIFY(!QFontDatabase().families(QFontDatabase::SimplifiedChinese).isEmpty());
 }
 
 void TestFontLoader::hugeStretchIsLimited()
@@ -120,12 +95,10 @@ void TestFontLoader::findsFontFiles_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<int>("px"); // another in each row: faces in use are kept
-    QTest::newRow("absolute") << copyOf(":/fonts/UniversNextW1G-Bold.otf", QStringLiteral("a.otf"))
-                              << 40;
-    QTest::newRow("relative") << QStringLiteral("a.otf") << 41;
-    QTest::newRow("in a search path") << QStringLiteral("panelfonts:a.otf") << 42;
-    QTest::newRow("resource in a search path")
-        << QStringLiteral("bundle:UniversNextW1G-Bold.otf") << 43;
+    QTest::newRow("absolute") << copyOf(":/fonts/UniversNextW1G-Bold.otf", "a.otf") << 40;
+    QTest::newRow("relative") << "a.otf" << 41;
+    QTest::newRow("in a search path") << "panelfonts:a.otf" << 42;
+    QTest::newRow("resource in a search path") << "bundle:UniversNextW1G-Bold.otf" << 43;
 }
 
 /// The file of a face is opened when it is first drawn in, here from another folder.
@@ -133,27 +106,26 @@ void TestFontLoader::findsFontFiles()
 {
     QFETCH(QString, path);
     QFETCH(int, px);
-    QDir::setSearchPaths(QStringLiteral("panelfonts"), { m_dir.path() });
-    QDir::setSearchPaths(QStringLiteral("bundle"), { QStringLiteral(":/fonts") });
+    QDir::setSearchPaths("panelfonts", { m_dir.path() });
+    QDir::setSearchPaths("bundle", { ":/fonts" });
     const QString folder = QDir::currentPath();
     QDir::setCurrent(m_dir.path());
     QFont font(FontLoader::loadFont(qPrintable(path)));
     QDir::setCurrent(folder);
     font.setPixelSize(px);
     font.setWeight(QFont::Bold);
-    QCOMPARE(QRawFont::fromFont(font).styleName(), QStringLiteral("Bold"));
+    QCOMPARE(QRawFont::fromFont(font).styleName(), "Bold");
 }
 
 /// A bundle with the one \a file, as bytes that may change or go.
 QByteArray TestFontLoader::bundleOf(const QString &file, const QString &compression) const
 {
-    QFile list(m_dir.filePath(QStringLiteral("list.qrc")));
+    QFile list(m_dir.filePath("list.qrc"));
     list.open(QIODevice::WriteOnly);
     list.write("<RCC><qresource><file alias='font'>" + file.toUtf8() + "</file></qresource></RCC>");
     list.close();
     QProcess rcc;
-    rcc.start(
-        QStringLiteral(HOXQ_RCC), { QStringLiteral("--binary"), compression, list.fileName() });
+    rcc.start(QStringLiteral(HOXQ_RCC), { "--binary", compression, list.fileName() });
     return rcc.waitForFinished() ? rcc.readAllStandardOutput() : QByteArray();
 }
 
@@ -161,27 +133,27 @@ void TestFontLoader::bundleThatGoesLeavesAFaceInUse_data()
 {
     QTest::addColumn<QString>("compression");
     QTest::addColumn<int>("px");
-    QTest::newRow("as it is") << QStringLiteral("--no-compress") << 50;
-    QTest::newRow("compressed") << QStringLiteral("--compress=9") << 51;
+    QTest::newRow("as it is") << "--no-compress" << 50;
+    QTest::newRow("compressed") << "--compress=9" << 51;
 }
 
 void TestFontLoader::bundleThatGoesLeavesAFaceInUse()
 {
     QFETCH(QString, compression);
     QFETCH(int, px);
-    QByteArray bundle = bundleOf(
-        copyOf(":/fonts/UniversNextW1G-Medium.otf", QStringLiteral("medium.otf")), compression);
+    QByteArray bundle
+        = bundleOf(copyOf(":/fonts/UniversNextW1G-Medium.otf", "medium.otf"), compression);
     const auto *address = reinterpret_cast<const uchar *>(bundle.constData());
     QVERIFY(QResource::registerResource(address));
     QFont font(FontLoader::loadFont(":/font"));
-    QVERIFY(QResource(QStringLiteral(":/font")).isValid());
+    QVERIFY(QResource(":/font").isValid());
     font.setPixelSize(px);
     font.setWeight(QFont::Medium);
     const QRawFont face = QRawFont::fromFont(font);
-    QCOMPARE(face.styleName(), QStringLiteral("Medium"));
+    QCOMPARE(face.styleName(), "Medium");
     QVERIFY(QResource::unregisterResource(address));
     std::fill(bundle.begin(), bundle.end(), '\0');
-    const QVector<quint32> glyph = face.glyphIndexesForString(QStringLiteral("H"));
+    const QVector<quint32> glyph = face.glyphIndexesForString("H");
     QVERIFY(!face.pathForGlyph(glyph.value(0)).isEmpty());
 }
 
@@ -189,14 +161,14 @@ void TestFontLoader::bundleThatGoesLeavesAFaceInUse()
 void TestFontLoader::fallbackTakesNoCopyOfItsBytes()
 {
     FontLoader(); // what the toolkit takes once
-    const qint64 before = anonymousMemory();
+    const qint64 before = Effort::statusKib("RssAnon:");
     const int a_quarter_of_a_font_kib = 3451744 / 1024 / 4;
     for (int i = 0; i < 4; ++i) {
         const QString family = FontLoader::loadFont(":/fonts/DroidSansFallback.ttf");
         QVERIFY(QRawFont::fromFont(QFont(family)).supportsCharacter(QChar(0x4e00)));
     }
-    QVERIFY2(anonymousMemory() - before < 4 * a_quarter_of_a_font_kib,
-        QByteArray::number(anonymousMemory() - before));
+    QVERIFY2(Effort::statusKib("RssAnon:") - before < 4 * a_quarter_of_a_font_kib,
+        QByteArray::number(Effort::statusKib("RssAnon:") - before));
 }
 
 QTEST_MAIN(TestFontLoader)

@@ -15,11 +15,9 @@
 #include <VexoSliderDecoration>
 
 #include <QScreen>
-#include <QSignalSpy>
 #include <QStackedWidget>
 #include <QStyleFactory>
 #include <QStyleOptionSlider>
-#include <QTest>
 
 #include <cmath>
 #include <limits>
@@ -44,7 +42,7 @@ PanelOptions none()
 /// A stylesheet hides the style, but not what it takes from it.
 bool isFusion()
 {
-    const std::unique_ptr<QStyle> fusion(QStyleFactory::create(QStringLiteral("fusion")));
+    const std::unique_ptr<QStyle> fusion(QStyleFactory::create("fusion"));
     return QApplication::style()->standardPalette() == fusion->standardPalette();
 }
 
@@ -52,9 +50,8 @@ bool isFusion()
 QByteArray looks()
 {
     const QString sheet = qApp->styleSheet();
-    const bool has_sheets = sheet.contains(QLatin1String("VexoAlerMessageFrame"))
-        && sheet.indexOf(QLatin1String("VexoAlerMessageFrame"))
-            < sheet.indexOf(QLatin1String("VexoCenteredVectorButton"));
+    const bool has_sheets = sheet.contains("VexoAlerMessageFrame")
+        && sheet.indexOf("VexoAlerMessageFrame") < sheet.indexOf("VexoCenteredVectorButton");
     QByteArray found;
     found += isFusion() ? "style " : "";
     found += QApplication::palette() == Panel::palette() ? "palette " : "";
@@ -62,13 +59,6 @@ QByteArray looks()
     found += has_sheets ? "sheets " : "";
     found += sheet.endsWith(Panel::mmSheet()) ? "mm " : "";
     return found;
-}
-
-PanelOptions onlyMmSheet()
-{
-    PanelOptions options = none();
-    options.use_mm_sheet = true;
-    return options;
 }
 
 /// A shown decoration with a slider from 0 to 10.
@@ -80,7 +70,7 @@ struct Scaled
     {
         slider->setMaximum(10);
         auto *decoration = new VexoSliderDecoration(&window, style, slider);
-        decoration->setScaleText({ QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2") });
+        decoration->setScaleText({ "0", "1", "2" });
         window.setPalette(Qt::white);
         window.show();
         for (int round = 0; round < 2; ++round) { // a scale takes its length at its first paint
@@ -143,12 +133,10 @@ class TestPanel : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void cleanup();
     void doesWhatItIsAskedFor_data();
     void doesWhatItIsAskedFor();
     void takesTheGivenSize();
-    void refusesSizesThatAreNone_data();
     void refusesSizesThatAreNone();
     void namesAnUnlikelyScale_data();
     void namesAnUnlikelyScale();
@@ -162,20 +150,14 @@ private Q_SLOTS:
     void tapMayWanderTheSameMillimetres();
 
 private:
-    QFont m_font;
+    const QFont m_font = QApplication::font();
 };
-
-void TestPanel::initTestCase()
-{
-    TestCase::initTestCase();
-    m_font = QApplication::font();
-}
 
 void TestPanel::cleanup()
 {
     Panel::setUp(*qApp, none());
     qApp->setStyleSheet(QString());
-    QApplication::setStyle(QStringLiteral("windows"));
+    QApplication::setStyle("windows");
     QApplication::setPalette(QPalette());
     QApplication::setFont(m_font);
     QApplication::setLayoutDirection(Qt::LeftToRight);
@@ -205,7 +187,7 @@ void TestPanel::doesWhatItIsAskedFor()
 {
     QFETCH(PanelOptions, options);
     QFETCH(QByteArray, expected);
-    QApplication::setStyle(QStringLiteral("windows"));
+    QApplication::setStyle("windows");
     Panel::setUp(*qApp, options);
     QCOMPARE(looks(), expected);
 }
@@ -228,31 +210,20 @@ void TestPanel::takesTheGivenSize()
     QCOMPARE(before->m_pixels, QGuiApplication::primaryScreen()->size());
 }
 
-void TestPanel::refusesSizesThatAreNone_data()
-{
-    QTest::addColumn<QSize>("px");
-    QTest::addColumn<QSizeF>("mm");
-    QTest::newRow("no width") << QSize(0, 100) << QSizeF(10, 10);
-    QTest::newRow("negative height") << QSize(100, -1) << QSizeF(10, 10);
-    QTest::newRow("no mm") << QSize(100, 100) << QSizeF(10, 0);
-    QTest::newRow("not a number") << QSize(100, 100)
-                                  << QSizeF(std::numeric_limits<double>::quiet_NaN(), 10);
-}
-
 void TestPanel::refusesSizesThatAreNone()
 {
-    QFETCH(QSize, px);
-    QFETCH(QSizeF, mm);
     const PanelScale scale(10, 20);
     const QByteArray before = looks();
     const QSize pixels = ScalingInfo::inst()->m_pixels;
-    PanelOptions options;
-    options.px = px;
-    options.mm = mm;
-    QVERIFY_EXCEPTION_THROWN(Panel::setUp(*qApp, options), std::range_error);
-    QCOMPARE(looks(), before);
-    QCOMPARE(ScalingInfo::inst()->m_pixels, pixels);
-    QCOMPARE(ScalingInfo::inst()->mm2px(QSizeF(1, 1)), QSizeF(10, 20));
+    for (const QSizeF &mm : { QSizeF(10, 0), QSizeF(qQNaN(), 10) }) {
+        PanelOptions options;
+        options.px = QSize(100, 100);
+        options.mm = mm;
+        QVERIFY_EXCEPTION_THROWN(Panel::setUp(*qApp, options), std::range_error);
+        QCOMPARE(looks(), before);
+        QCOMPARE(ScalingInfo::inst()->m_pixels, pixels);
+        QCOMPARE(ScalingInfo::inst()->mm2px(QSizeF(1, 1)), QSizeF(10, 20));
+    }
 }
 
 void TestPanel::namesAnUnlikelyScale_data()
@@ -260,9 +231,9 @@ void TestPanel::namesAnUnlikelyScale_data()
     QTest::addColumn<QSizeF>("density");
     QTest::addColumn<QString>("figures");
     QTest::newRow("likely") << QSizeF(10, 10.4) << QString();
-    QTest::newRow("coarse") << QSizeF(1, 1) << QStringLiteral("1 x 1 px/mm");
-    QTest::newRow("fine") << QSizeF(26, 26) << QStringLiteral("26 x 26 px/mm");
-    QTest::newRow("not square") << QSizeF(10, 12) << QStringLiteral("10 x 12 px/mm");
+    QTest::newRow("coarse") << QSizeF(1, 1) << "1 x 1 px/mm";
+    QTest::newRow("fine") << QSizeF(26, 26) << "26 x 26 px/mm";
+    QTest::newRow("not square") << QSizeF(10, 12) << "10 x 12 px/mm";
 }
 
 void TestPanel::namesAnUnlikelyScale()
@@ -271,7 +242,7 @@ void TestPanel::namesAnUnlikelyScale()
     QFETCH(QString, figures);
     const PanelScale scale(density.width(), density.height());
     const QString fault = scaleFault(*ScalingInfo::inst());
-    QCOMPARE(fault.section(QStringLiteral("which is "), 1), figures);
+    QCOMPARE(fault.section("which is ", 1), figures);
     Panel::setUp(*qApp, none()); // no warning: the screen does not tell this
 }
 
@@ -292,25 +263,24 @@ void TestPanel::framesThatAreWindowsHaveAGround()
 void TestPanel::handleStandsAtItsMark_data()
 {
     QTest::addColumn<bool>("is_level");
-    QTest::addColumn<double>("x");
-    QTest::addColumn<double>("y");
+    QTest::addColumn<QSizeF>("px_per_mm");
     for (const bool is_level : { true, false }) {
         for (const double density : { 4.0, 5.0, 7.3, 8.0, 11.0, 12.5, 20.0 }) {
+            const QSizeF px_per_mm(density, density == 5 ? (is_level ? 8 : 3) : density);
             QTest::addRow("%s, %g px/mm", is_level ? "level" : "upright", density)
-                << is_level << density << density;
+                << is_level << px_per_mm;
         }
     }
-    QTest::newRow("level, higher than wide") << true << 5.0 << 8.0;
-    QTest::newRow("upright, wider than high") << false << 8.0 << 5.0;
 }
 
 void TestPanel::handleStandsAtItsMark()
 {
     QFETCH(bool, is_level);
-    QFETCH(double, x);
-    QFETCH(double, y);
-    const PanelScale scale(x, y);
-    Panel::setUp(*qApp, onlyMmSheet());
+    QFETCH(QSizeF, px_per_mm);
+    const PanelScale scale(px_per_mm.width(), px_per_mm.height());
+    PanelOptions options = none();
+    options.use_mm_sheet = true;
+    Panel::setUp(*qApp, options);
     Scaled scaled(is_level ? VexoSliderDecoration::HorizontalWithScale
                            : VexoSliderDecoration::VerticalWithScale);
     const QVector<int> marks = scaled.marks();
@@ -325,26 +295,25 @@ void TestPanel::handleStandsAtItsMark()
 
 void TestPanel::slidersAreFilledFromTheirMinimum_data()
 {
-    QTest::addColumn<bool>("is_level");
-    QTest::addColumn<bool>("has_scale");
+    using Decoration = VexoSliderDecoration;
+    QTest::addColumn<int>("style");
     QTest::addColumn<bool>("is_mirrored");
-    QTest::newRow("level") << true << false << false;
-    QTest::newRow("level with scale") << true << true << false;
-    QTest::newRow("upright") << false << false << false;
-    QTest::newRow("from right to left") << true << false << true;
-    QTest::newRow("from right to left with scale") << true << true << true;
+    QTest::newRow("level") << int(Decoration::HorizontalWithoutScale) << false;
+    QTest::newRow("level with scale") << int(Decoration::HorizontalWithScale) << false;
+    QTest::newRow("upright") << int(Decoration::VerticalWithoutScale) << false;
+    QTest::newRow("from right to left") << int(Decoration::HorizontalWithoutScale) << true;
+    QTest::newRow("from right to left with scale") << int(Decoration::HorizontalWithScale) << true;
 }
 
 void TestPanel::slidersAreFilledFromTheirMinimum()
 {
-    QFETCH(bool, is_level);
-    QFETCH(bool, has_scale);
+    QFETCH(int, style);
     QFETCH(bool, is_mirrored);
-    using Decoration = VexoSliderDecoration;
     const PanelScale scale(5, 6);
     QApplication::setLayoutDirection(is_mirrored ? Qt::RightToLeft : Qt::LeftToRight);
     Panel::setUp(*qApp); // against the rules of the panel's sheet
-    Scaled scaled(Decoration::SliderDecorationStyle((is_level ? 0 : 2) + (has_scale ? 1 : 0)));
+    Scaled scaled{ VexoSliderDecoration::SliderDecorationStyle(style) };
+    const bool is_level = scaled.isLevel();
     scaled.slider->setValue(4);
     const QPoint middle = scaled.slider->rect().center();
     const QImage image = scaled.slider->grab().toImage();

@@ -4,8 +4,6 @@
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/pixels_p.h"
 
-#include <QTest>
-
 #include <limits>
 
 using namespace vexo::hox::qt::ui;
@@ -19,6 +17,9 @@ private Q_SLOTS:
     void cutsTowardZero();
     void convertsEachAxis();
     void panelFontIsMeasuredInPoints();
+
+private:
+    const PanelScale m_scale{ 10, 20 };
 };
 
 void TestPixels::cutsTowardZero_data()
@@ -43,7 +44,6 @@ void TestPixels::cutsTowardZero()
 
 void TestPixels::convertsEachAxis()
 {
-    const PanelScale scale(10, 20);
     const ScalingInfo &scaling = *ScalingInfo::inst();
     QCOMPARE(pxX(scaling, 0.39), 3);
     QCOMPARE(pxY(scaling, 0.39), 7);
@@ -55,7 +55,6 @@ void TestPixels::convertsEachAxis()
 
 void TestPixels::panelFontIsMeasuredInPoints()
 {
-    const PanelScale scale(10, 20);
     QFont font = panelFont(9, QFont::Medium);
     QCOMPARE(font.pixelSize(), 63); // 63.5
     QCOMPARE(font.weight(), int(QFont::Medium));

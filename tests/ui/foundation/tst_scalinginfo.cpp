@@ -4,8 +4,6 @@
 
 #include <ScalingInfo>
 
-#include <QTest>
-
 #include <limits>
 #include <stdexcept>
 
@@ -18,12 +16,10 @@ class TestScalingInfo : public TestCase
 private Q_SLOTS:
     void readsThePrimaryScreenOnce();
     void convertsEachAxisAtItsOwnDensity();
-    void stretchesFontsByTheShapeOfAPixel_data();
     void stretchesFontsByTheShapeOfAPixel();
     void undefinedSizeIsRefusedAndTheScaleStays_data();
     void undefinedSizeIsRefusedAndTheScaleStays();
     void recalculatesFromBothStoredSizes();
-    void tellsDesktopProcessors_data();
     void tellsDesktopProcessors();
 };
 
@@ -50,21 +46,13 @@ void TestScalingInfo::convertsEachAxisAtItsOwnDensity()
     QCOMPARE(scaling->m_xy_ratio, 1.2f);
 }
 
-void TestScalingInfo::stretchesFontsByTheShapeOfAPixel_data()
-{
-    QTest::addColumn<double>("y");
-    QTest::addColumn<int>("percent");
-    QTest::newRow("square") << 5.0 << 100;
-    QTest::newRow("higher density along y") << 6.0 << 120;
-    QTest::newRow("rounded up") << 5.48 << 110;
-    QTest::newRow("rounded down") << 5.47 << 109;
-}
-
 void TestScalingInfo::stretchesFontsByTheShapeOfAPixel()
 {
-    QFETCH(double, y);
-    const PanelScale scale(5, y);
-    QTEST(ScalingInfo::inst()->fontStretch(), "percent");
+    const QMap<double, int> percents{ { 5, 100 }, { 6, 120 }, { 5.48, 110 }, { 5.47, 109 } };
+    for (auto it = percents.begin(); it != percents.end(); ++it) {
+        const PanelScale scale(5, it.key());
+        QCOMPARE(ScalingInfo::inst()->fontStretch(), it.value());
+    }
 }
 
 void TestScalingInfo::undefinedSizeIsRefusedAndTheScaleStays_data()
@@ -87,12 +75,9 @@ void TestScalingInfo::undefinedSizeIsRefusedAndTheScaleStays()
     QFETCH(QSizeF, mm);
     const PanelScale scale(5, 6);
     ScalingInfo *scaling = ScalingInfo::inst();
-    const auto spoil = [&] {
-        scaling->m_size_mm = mm;
-        scaling->setPixels(px);
-    };
+    scaling->m_size_mm = mm;
     try {
-        spoil();
+        scaling->setPixels(px);
         QFAIL("an undefined size was taken");
     } catch (const std::range_error &error) {
         QCOMPARE(error.what(), "Display size not defined!");
@@ -114,21 +99,12 @@ void TestScalingInfo::recalculatesFromBothStoredSizes()
     QCOMPARE(scaling->mm2px(QSizeF(1, 1)), QSizeF(2, 3));
 }
 
-void TestScalingInfo::tellsDesktopProcessors_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("desktop");
-    QTest::newRow("x86_64") << "x86_64" << true;
-    QTest::newRow("i386") << "i386" << true;
-    QTest::newRow("arm64") << "arm64" << false;
-    QTest::newRow("arm") << "arm" << false;
-    QTest::newRow("capitals") << "X86_64" << false;
-}
-
 void TestScalingInfo::tellsDesktopProcessors()
 {
-    QFETCH(QString, name);
-    QTEST(ScalingInfo::isDesktop(name), "desktop");
+    for (const char *desktop : { "x86_64", "i386" })
+        QVERIFY(ScalingInfo::isDesktop(QLatin1String(desktop)));
+    for (const char *other : { "arm64", "arm", "X86_64" })
+        QVERIFY(!ScalingInfo::isDesktop(QLatin1String(other)));
     QCOMPARE(ScalingInfo::isDesktop(), ScalingInfo::isDesktop(QSysInfo::currentCpuArchitecture()));
 }
 

@@ -2,12 +2,15 @@
 #include "support/testcase.h"
 #include "ui/foundation/visiblebuddies_p.h"
 
-#include <QTest>
+#include <MeasuredPushButton>
+#include <VexoFunctionButton>
+#include <VexoLabel>
+#include <VexoLabeledContainer>
+#include <VexoPushButton>
 
-#include <functional>
-#include <memory>
+#include <QPointer>
 
-using vexo::hox::qt::ui::VisibleBuddies;
+using namespace vexo::hox::qt::ui;
 
 /// Calls back on each setVisible() and keeps the order of the calls.
 class Buddy : public QWidget
@@ -34,6 +37,50 @@ private:
     const QString m_name;
 };
 
+/// Deletes a widget at the last that it hears of being hidden, still in setVisible().
+class Deleter : public QObject
+{
+public:
+    explicit Deleter(QWidget *widget) { widget->installEventFilter(this); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::HideToParent)
+            return false;
+        delete watched;
+        return true;
+    }
+};
+
+/// Whether a buddy is seen (+) or hidden (-): added, the owner shown, hidden, shown; no buddy any
+/// more, the owner hidden; one again, the owner deleted while it is hidden.
+template <typename Owner>
+QByteArray storyOfABuddy()
+{
+    QWidget window;
+    const QPointer<Owner> owner = new Owner(&window);
+    QWidget buddy(&window);
+    QByteArray story;
+    const auto note = [&] { story += buddy.isVisible() ? '+' : '-'; };
+    window.show();
+    owner->addVisibleBuddy(nullptr);
+    owner->addVisibleBuddy(&buddy);
+    note();
+    for (const bool is_shown : { true, false, true }) {
+        owner->setVisible(is_shown);
+        note();
+    }
+    owner->clearVisibleBuddies();
+    owner->hide();
+    note();
+    owner->addVisibleBuddy(&buddy);
+    owner->show();
+    const Deleter deleter(owner);
+    owner->hide();
+    note();
+    return owner ? "still there" : story;
+}
+
 class TestVisibleBuddies : public TestCase
 {
     Q_OBJECT
@@ -43,6 +90,7 @@ private Q_SLOTS:
     void listMayChangeDuringARound();
     void ownerMayGoDuringARound();
     void mutualBuddiesMakeOneRound();
+    void followEachOwner();
 };
 
 void TestVisibleBuddies::followsInTheOrderOfAdding()
@@ -61,7 +109,7 @@ void TestVisibleBuddies::followsInTheOrderOfAdding()
     buddies.add(&last);
     buddies.add(&first);
     buddies.setVisible(&owner, true, [] {});
-    QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+ c+ a+"));
+    QCOMPARE(calls.join(QLatin1Char(' ')), "a+ c+ a+");
     buddies.setVisible(&owner, false, [] {});
     QVERIFY(first.isHidden() && last.isHidden());
     calls.clear();
@@ -86,9 +134,9 @@ void TestVisibleBuddies::listMayChangeDuringARound()
         buddies.add(&added);
     };
     buddies.setVisible(&owner, true, [] {});
-    QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+"));
+    QCOMPARE(calls.join(QLatin1Char(' ')), "a+");
     buddies.setVisible(&owner, true, [] {});
-    QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+ x+"));
+    QCOMPARE(calls.join(QLatin1Char(' ')), "a+ x+");
 }
 
 void TestVisibleBuddies::ownerMayGoDuringARound()
@@ -100,7 +148,7 @@ void TestVisibleBuddies::ownerMayGoDuringARound()
     buddies->add(&buddy);
     buddy.then = [&](bool) { buddies.reset(); };
     buddies->setVisible(&owner, true, [] {});
-    QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("a+"));
+    QCOMPARE(calls.join(QLatin1Char(' ')), "a+");
 }
 
 void TestVisibleBuddies::mutualBuddiesMakeOneRound()
@@ -116,9 +164,22 @@ void TestVisibleBuddies::mutualBuddiesMakeOneRound()
     right.then = [&](bool visible) { of_right.setVisible(&right, visible, [] {}); };
     left.setVisible(true);
     QVERIFY(!left.isHidden() && !right.isHidden());
-    QCOMPARE(calls.join(QLatin1Char(' ')), QStringLiteral("l+ r+ l+"));
+    QCOMPARE(calls.join(QLatin1Char(' ')), "l+ r+ l+");
     left.setVisible(false);
     QVERIFY(left.isHidden() && right.isHidden());
+}
+
+void TestVisibleBuddies::followEachOwner()
+{
+    QCOMPARE(storyOfABuddy<MeasuredPushButton>(), QByteArray("++-+++"));
+    QCOMPARE(storyOfABuddy<VexoPushButton>(), QByteArray("++-+++"));
+    // These hide it when it is added.
+    QCOMPARE(storyOfABuddy<VexoFunctionButton>(), QByteArray("-+-+++"));
+    QCOMPARE(storyOfABuddy<VexoLabel>(), QByteArray("-+-+++"));
+    QCOMPARE(storyOfABuddy<VexoLabeledContainer>(), QByteArray("-+-+++"));
+    QWidget buddy;
+    QCOMPARE(VexoLabel().addVisibleBuddy(&buddy), &buddy);
+    QCOMPARE(VexoLabeledContainer().addVisibleBuddy(&buddy), &buddy);
 }
 
 QTEST_MAIN(TestVisibleBuddies)

@@ -2,7 +2,6 @@
 #include "support/listscreen.h"
 #include "support/paintcounter.h"
 #include "support/rowmodel.h"
-#include "support/testcase.h"
 #include "support/virtualclock.h"
 
 #include <VexoHorizontalTextIconButton>
@@ -13,8 +12,6 @@
 #include <QStandardItemModel>
 
 #include <climits>
-#include <functional>
-#include <memory>
 
 using namespace vexo::hox::qt::ui;
 
@@ -22,22 +19,17 @@ namespace {
 
 const int row_px = ListScreen::row_px;
 
-using ModelChange = std::function<void(RowModel &)>;
+using ModelChange = void (*)(RowModel &model);
 
 } // namespace
 
 Q_DECLARE_METATYPE(ModelChange)
 
-class TestRowList : public TestCase
+class TestRowList : public VirtualTimeTestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        TestCase::initTestCase();
-        virtualclock::start();
-    }
     void makesFewWidgets_data();
     void makesFewWidgets();
     void scrollStepPaintsOnlyWhatComes_data();
@@ -99,7 +91,7 @@ void TestRowList::scrollStepPaintsOnlyWhatComes()
     RowModel model;
     model.insert(0, RowModel::entries(1000, type));
     ListScreen screen(&model);
-    screen.setStyleSheet(QStringLiteral("QWidget { background: #f0f0f0; }")); // lets the list shine
+    screen.setStyleSheet("QWidget { background: #f0f0f0; }"); // lets the list shine
     settle();
     PaintCounter paints;
     QWidget *const row = screen.list->rowAt(model.index(4));
@@ -122,27 +114,23 @@ void TestRowList::whatIsSeenStays_data()
 {
     QTest::addColumn<ModelChange>("change");
     QTest::addColumn<QString>("top"); // row 50 is, when nothing has changed
-    const auto row = [](const char *name, const ModelChange &change, int top = 50) {
-        QTest::newRow(name) << change << QStringLiteral("%1").arg(top);
+    const auto row = [](const char *name, int top, ModelChange change) {
+        QTest::newRow(name) << change << QString::number(top);
     };
-    row("rows come above", [](RowModel &model) { model.insert(10, RowModel::entries(7)); });
-    row("rows come just above", [](RowModel &model) { model.insert(50, RowModel::entries(7)); });
-    row("rows come below", [](RowModel &model) { model.insert(51, RowModel::entries(7)); });
-    row("rows above go", [](RowModel &model) { model.remove(10, 7); });
-    row("all rows above go", [](RowModel &model) { model.remove(0, 50); });
-    row("rows below go", [](RowModel &model) { model.remove(52, 40); });
-    row(
-        "it goes", [](RowModel &model) { model.remove(50, 2); }, 52);
-    row(
-        "it goes with rows above", [](RowModel &model) { model.remove(40, 20); }, 60);
-    row("a row moves up past it", [](RowModel &model) { model.move(90, 3); });
-    row("a row moves down past it", [](RowModel &model) { model.move(3, 90); });
-    row(
-        "it moves", [](RowModel &model) { model.move(50, 3); }, 49);
-    row(
-        "all turn round", [](RowModel &model) { model.turnRound(); }, 149);
-    row(
-        "reset", [](RowModel &model) { model.reset({ { QStringLiteral("1") } }); }, 1);
+    row("rows come above", 50, [](RowModel &model) { model.insert(10, RowModel::entries(7)); });
+    row("rows come just above", 50,
+        [](RowModel &model) { model.insert(50, RowModel::entries(7)); });
+    row("rows come below", 50, [](RowModel &model) { model.insert(51, RowModel::entries(7)); });
+    row("rows above go", 50, [](RowModel &model) { model.remove(10, 7); });
+    row("all rows above go", 50, [](RowModel &model) { model.remove(0, 50); });
+    row("rows below go", 50, [](RowModel &model) { model.remove(52, 40); });
+    row("it goes", 52, [](RowModel &model) { model.remove(50, 2); });
+    row("it goes with rows above", 60, [](RowModel &model) { model.remove(40, 20); });
+    row("a row moves up past it", 50, [](RowModel &model) { model.move(90, 3); });
+    row("a row moves down past it", 50, [](RowModel &model) { model.move(3, 90); });
+    row("it moves", 49, [](RowModel &model) { model.move(50, 3); });
+    row("all turn round", 149, [](RowModel &model) { model.turnRound(); });
+    row("reset", 1, [](RowModel &model) { model.reset({ { "1" } }); });
 }
 
 void TestRowList::whatIsSeenStays()
@@ -172,25 +160,25 @@ void TestRowList::rowsShowWhatTheModelSays()
     QStandardItemModel model;
     for (int i = 0; i < 100; ++i) {
         auto *item = new QStandardItem(QString::number(i));
-        item->setData(QStringLiteral("value %1").arg(i), RowList::SecondTextRole);
-        item->setData(QStringLiteral(":/VexoIconGeneralTickSvg"), Qt::DecorationRole);
+        item->setData(QString("value %1").arg(i), RowList::SecondTextRole);
+        item->setData(QString(":/VexoIconGeneralTickSvg"), Qt::DecorationRole);
         model.appendRow(item);
     }
     model.item(1)->setEnabled(false);
-    model.item(2)->setData(QStringLiteral("two"), Qt::AccessibleTextRole);
+    model.item(2)->setData("two", Qt::AccessibleTextRole);
     ListScreen screen(&model);
     const auto row = [&](int i) { return screen.list->rowAt(model.index(i, 0)); };
     const auto *text_icon = qobject_cast<VexoHorizontalTextIconButton *>(row(0));
     QVERIFY(text_icon);
-    QCOMPARE(text_icon->property("left_side_text").toString(), QStringLiteral("0"));
-    QCOMPARE(text_icon->property("right_side_text").toString(), QStringLiteral("value 0"));
+    QCOMPARE(text_icon->property("left_side_text").toString(), "0");
+    QCOMPARE(text_icon->property("right_side_text").toString(), "value 0");
     QVERIFY(!text_icon->property("default_image").value<QPixmap>().isNull());
     QVERIFY(row(0)->isEnabled() && !row(1)->isEnabled());
-    QCOMPARE(row(0)->accessibleName(), QStringLiteral("0"));
-    QCOMPARE(row(2)->accessibleName(), QStringLiteral("two"));
-    model.item(2)->setText(QStringLiteral("new"));
+    QCOMPARE(row(0)->accessibleName(), "0");
+    QCOMPARE(row(2)->accessibleName(), "two");
+    model.item(2)->setText("new");
     model.item(2)->setData(QVariant(), Qt::AccessibleTextRole);
-    QCOMPARE(row(2)->accessibleName(), QStringLiteral("new"));
+    QCOMPARE(row(2)->accessibleName(), "new");
     model.item(0)->setCheckState(Qt::Checked); // now it is a row with a check box
     QVERIFY(screen.rowAt(0)->getButtonInstance()->isChecked());
     screen.scroll(50 * row_px);
@@ -202,28 +190,18 @@ void TestRowList::rowsShowWhatTheModelSays()
 void TestRowList::imageShowsOnEachGround()
 {
     QStandardItemModel model;
-    model.appendRow(new QStandardItem(QStringLiteral("text")));
-    model.item(0)->setData(QStringLiteral(":/VexoIconGeneralEnter"), Qt::DecorationRole);
+    model.appendRow(new QStandardItem("text"));
+    model.item(0)->setData(":/VexoIconGeneralEnter", Qt::DecorationRole);
     ListScreen screen(&model);
     auto *row = qobject_cast<QAbstractButton *>(screen.list->rowAt(model.index(0, 0)));
-    const auto spread = [&] {
-        const QImage end = row->grab(QRect(370, 0, 30, row->height())).toImage();
-        int darkest = 255;
-        int lightest = 0;
-        for (int i = 0; i < end.width() * end.height(); ++i) {
-            const int gray = qGray(end.pixel(i % end.width(), i / end.width()));
-            darkest = qMin(darkest, gray);
-            lightest = qMax(lightest, gray);
-        }
-        return lightest - darkest;
-    };
-    const int usual = spread();
+    const auto ends = [&] { return spread(row->grab(QRect(370, 0, 30, row->height())).toImage()); };
+    const int usual = ends();
     QVERIFY2(usual > 150, qPrintable(QString::number(usual)));
     row->setDown(true);
-    QVERIFY2(spread() > 80, qPrintable(QString::number(spread())));
+    QVERIFY2(ends() > 80, qPrintable(QString::number(ends())));
     row->setDown(false);
     model.item(0)->setEnabled(false);
-    QVERIFY2(spread() < usual - 30, qPrintable(QString::number(spread())));
+    QVERIFY2(ends() < usual - 30, qPrintable(QString::number(ends())));
 }
 
 void TestRowList::scrollsToAnIndex()
@@ -262,24 +240,24 @@ void TestRowList::showsTheChildrenOfAnIndex()
 {
     QStandardItemModel model;
     for (int i = 0; i < 3; ++i) {
-        auto *parent = new QStandardItem(QStringLiteral("parent %1").arg(i));
+        auto *parent = new QStandardItem(QString("parent %1").arg(i));
         for (int j = 0; j < 30; ++j)
-            parent->appendRow(new QStandardItem(QStringLiteral("child %1 of %2").arg(j).arg(i)));
+            parent->appendRow(new QStandardItem(QString("child %1 of %2").arg(j).arg(i)));
         model.appendRow(parent);
     }
     ListScreen screen(&model);
-    QCOMPARE(textAtTop(screen), QStringLiteral("parent 0"));
+    QCOMPARE(textAtTop(screen), "parent 0");
     const QStandardItemModel other(3, 1);
     screen.list->setRootIndex(other.index(1, 0));
     QCOMPARE(screen.list->rootIndex(), QModelIndex());
     screen.list->setRootIndex(model.index(1, 0));
     screen.scroll(5 * row_px);
-    QCOMPARE(textAtTop(screen), QStringLiteral("child 5 of 1"));
+    QCOMPARE(textAtTop(screen), "child 5 of 1");
     model.removeRow(0);
-    model.item(0)->insertRow(0, new QStandardItem(QStringLiteral("new")));
-    QCOMPARE(textAtTop(screen), QStringLiteral("child 5 of 1"));
+    model.item(0)->insertRow(0, new QStandardItem("new"));
+    QCOMPARE(textAtTop(screen), "child 5 of 1");
     model.removeRow(0);
-    QCOMPARE(textAtTop(screen), QStringLiteral("parent 2"));
+    QCOMPARE(textAtTop(screen), "parent 2");
 }
 
 void TestRowList::fetchesMoreAtTheEnd()

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/listscreen.h"
 #include "support/rowmodel.h"
-#include "support/testcase.h"
 #include "support/touchscreen.h"
 
 #include <VexoRuler>
@@ -12,9 +11,6 @@
 #include <QPushButton>
 #include <QStandardItemModel>
 
-#include <functional>
-#include <memory>
-
 using namespace vexo::hox::qt::ui;
 
 namespace {
@@ -22,23 +18,37 @@ namespace {
 const int row_px = ListScreen::row_px;
 const int delivered_ms = 250; // longer than a list holds a press back
 
-using Slot = std::function<void(ListScreen &, std::unique_ptr<RowModel> &)>;
+/// A list with a model of its own.
+struct OwnScreen : ListScreen
+{
+    explicit OwnScreen(RowModel *of)
+        : ListScreen(of)
+        , model(of)
+    {
+    }
+
+    std::unique_ptr<RowModel> model;
+};
+
+using Slot = void (*)(OwnScreen &screen);
+
+RowModel *modelOf(int count, int type = RowList::ActionRow)
+{
+    auto *model = new RowModel;
+    model->insert(0, RowModel::entries(count, type));
+    return model;
+}
 
 } // namespace
 
 Q_DECLARE_METATYPE(Slot)
 
 /// Fingers, keys and assistive technology on a RowList.
-class TestRowListInput : public TestCase
+class TestRowListInput : public VirtualTimeTestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        TestCase::initTestCase();
-        virtualclock::start();
-    }
     void flickGoesOnWhileRowsCome();
     void tapWritesTheModel_data();
     void tapWritesTheModel();
@@ -108,7 +118,7 @@ void TestRowListInput::tapWritesTheModel()
     QTEST(checked, "checked");
     QCOMPARE(screen.clicked, QStringList({ model.at(23).text, model.at(23).text }));
     QVERIFY(!model.at(22).is_checked && !model.at(24).is_checked);
-    model.set(23, { QStringLiteral("unchecked"), type });
+    model.set(23, { "unchecked", type });
     QVERIFY(!screen.rowAt(23)->getButtonInstance()->isChecked());
 }
 
@@ -128,41 +138,26 @@ void TestRowListInput::touchMeansWhatItTouched_data()
     QTest::addColumn<int>("hold_ms"); // before the list changes
     QTest::addColumn<Slot>("change");
     QTest::addColumn<bool>("clicks");
-    const auto row = [](const char *name, const Slot &change, bool clicks) {
+    const auto row = [](const char *name, Slot change, bool clicks) {
         QTest::addRow("%s, held back", name) << 0 << change << clicks;
         QTest::addRow("%s, pressed", name) << delivered_ms << change << clicks;
     };
+    const auto come_above = [](OwnScreen &s) { s.model->insert(0, RowModel::entries(300)); };
+    const auto change_type = [](OwnScreen &s) {
+        s.model->set(3, { "other", RowList::CheckboxRow });
+    };
     row(
-        "scrolls a little",
-        [](ListScreen &screen, std::unique_ptr<RowModel> &) { screen.scroll(4 * row_px); }, true);
+        "scrolls a little", [](OwnScreen &s) { s.scroll(4 * row_px); }, true);
     row(
-        "scrolls far",
-        [](ListScreen &screen, std::unique_ptr<RowModel> &) { screen.scroll(900 * row_px); }, true);
+        "scrolls far", [](OwnScreen &s) { s.scroll(900 * row_px); }, true);
     row(
-        "scrolls to an index",
-        [](ListScreen &screen, std::unique_ptr<RowModel> &model) {
-            screen.list->scrollTo(model->index(700));
-        },
-        true);
+        "scrolls to an index", [](OwnScreen &s) { s.list->scrollTo(s.model->index(700)); }, true);
+    row("rows come above", come_above, true);
     row(
-        "rows come above",
-        [](ListScreen &, std::unique_ptr<RowModel> &model) {
-            model->insert(0, RowModel::entries(300));
-        },
-        true);
+        "it goes", [](OwnScreen &s) { s.model->remove(2, 2); }, false);
     row(
-        "it goes", [](ListScreen &, std::unique_ptr<RowModel> &model) { model->remove(2, 2); },
-        false);
-    row(
-        "reset",
-        [](ListScreen &, std::unique_ptr<RowModel> &model) { model->reset(RowModel::entries(90)); },
-        false);
-    row(
-        "it becomes another type",
-        [](ListScreen &, std::unique_ptr<RowModel> &model) {
-            model->set(3, { QStringLiteral("other"), RowList::CheckboxRow });
-        },
-        false);
+        "reset", [](OwnScreen &s) { s.model->reset(RowModel::entries(90)); }, false);
+    row("it becomes another type", change_type, false);
 }
 
 void TestRowListInput::touchMeansWhatItTouched()
@@ -170,13 +165,12 @@ void TestRowListInput::touchMeansWhatItTouched()
     QFETCH(int, hold_ms);
     QFETCH(Slot, change);
     QFETCH(bool, clicks);
-    auto model = std::make_unique<RowModel>(1000);
-    ListScreen screen(model.get());
-    const QString touched = model->at(3).text;
+    OwnScreen screen(modelOf(1000));
+    const QString touched = screen.model->at(3).text;
     Finger finger(&screen);
     finger.press(screen.placeOf(3));
     virtualclock::pass(hold_ms);
-    change(screen, model);
+    change(screen);
     for (int px = 5000; px < 8000; px += 20) // all that is not held is used anew
         screen.scroll(px);
     finger.lift();
@@ -186,7 +180,7 @@ void TestRowListInput::touchMeansWhatItTouched()
     screen.clicked.clear();
     finger.press(screen.placeOf(5));
     finger.lift();
-    QCOMPARE(screen.clicked, QStringList{ model->at(5).text });
+    QCOMPARE(screen.clicked, QStringList{ screen.model->at(5).text });
 }
 
 void TestRowListInput::heldSliderStaysWithItsRow()
@@ -228,34 +222,25 @@ void TestRowListInput::heldSliderStaysWithItsRow()
 void TestRowListInput::slotMay_data()
 {
     QTest::addColumn<Slot>("slot");
-    const auto row = [](const char *name, const Slot &slot) { QTest::newRow(name) << slot; };
-    row("delete the model", [](ListScreen &, std::unique_ptr<RowModel> &model) { model.reset(); });
-    row("set another model", [](ListScreen &screen, std::unique_ptr<RowModel> &) {
-        screen.list->setModel(new QStandardItemModel(5, 1, screen.list));
-    });
-    row("set no model",
-        [](ListScreen &screen, std::unique_ptr<RowModel> &) { screen.list->setModel(nullptr); });
-    row("remove the row",
-        [](ListScreen &, std::unique_ptr<RowModel> &model) { model->remove(3, 1); });
-    row("reset the model",
-        [](ListScreen &, std::unique_ptr<RowModel> &model) { model->reset({}); });
-    row("make the rows anew", [](ListScreen &screen, std::unique_ptr<RowModel> &) {
-        screen.list->setRowFactory([](int) { return new QPushButton; });
-    });
-    row("scroll away",
-        [](ListScreen &screen, std::unique_ptr<RowModel> &) { screen.scroll(9000); });
-    row("delete the list later",
-        [](ListScreen &screen, std::unique_ptr<RowModel> &) { screen.list->deleteLater(); });
+    const auto row = [](const char *name, Slot slot) { QTest::newRow(name) << slot; };
+    row("delete the model", [](OwnScreen &s) { s.model.reset(); });
+    row("set another model",
+        [](OwnScreen &s) { s.list->setModel(new QStandardItemModel(5, 1, s.list)); });
+    row("set no model", [](OwnScreen &s) { s.list->setModel(nullptr); });
+    row("remove the row", [](OwnScreen &s) { s.model->remove(3, 1); });
+    row("reset the model", [](OwnScreen &s) { s.model->reset({}); });
+    row("make the rows anew",
+        [](OwnScreen &s) { s.list->setRowFactory([](int) { return new QPushButton; }); });
+    row("scroll away", [](OwnScreen &s) { s.scroll(9000); });
+    row("delete the list later", [](OwnScreen &s) { s.list->deleteLater(); });
 }
 
 void TestRowListInput::slotMay()
 {
     QFETCH(Slot, slot);
     for (const int type : { RowList::ActionRow, RowList::CheckboxRow, RowList::TextIconRow }) {
-        auto model = std::make_unique<RowModel>();
-        model->insert(0, RowModel::entries(1000, type));
-        ListScreen screen(model.get());
-        connect(screen.list, &RowList::clicked, this, [&] { slot(screen, model); });
+        OwnScreen screen(modelOf(1000, type));
+        connect(screen.list, &RowList::clicked, this, [&] { slot(screen); });
         Finger finger(&screen);
         finger.press(screen.placeOf(3));
         finger.lift();
@@ -315,14 +300,14 @@ void TestRowListInput::isAListForAssistiveTechnology()
 {
     RowModel model;
     model.insert(0, RowModel::entries(1000, RowList::CheckboxRow));
-    model.set(401, { QStringLiteral("off"), RowList::CheckboxRow, true, false });
+    model.set(401, { "off", RowList::CheckboxRow, true, false });
     ListScreen screen(&model);
     screen.list->setSeparatorFactory([] { return new VexoRuler; });
-    screen.list->setAccessibleName(QStringLiteral("Contacts"));
+    screen.list->setAccessibleName("Contacts");
     screen.list->scrollTo(model.index(400), QAbstractItemView::PositionAtTop);
     QAccessibleInterface *list = QAccessible::queryAccessibleInterface(screen.list->widget());
     QCOMPARE(list->role(), QAccessible::List);
-    QCOMPARE(list->text(QAccessible::Name), QStringLiteral("Contacts"));
+    QCOMPARE(list->text(QAccessible::Name), "Contacts");
     QVERIFY(list->childCount() >= 10 && list->childCount() < 20);
     int seen = 0;
     for (int i = 0, before = -1; i < list->childCount(); ++i) {
@@ -357,7 +342,7 @@ void TestRowListInput::lettersOfABarScroll_data()
 void TestRowListInput::lettersOfABarScroll()
 {
     QFETCH(QString, letter);
-    QStringList names{ QStringLiteral("1st floor") };
+    QStringList names{ "1st floor" };
     for (const char *name : { "adler", "Bauer", "Cohen", "Martin", "Meyer", "Öztürk", "Olsen" })
         names += QString::fromUtf8(name);
     QStandardItemModel model;
@@ -381,7 +366,7 @@ void TestRowListInput::lettersOfABarScroll()
             button->click();
     }
     const int scrolled = screen.scrolled();
-    if (letter != QLatin1String("X")) {
+    if (letter != "X") {
         virtualclock::pass(300);
         QCOMPARE(screen.scrolled(), scrolled);
         QVERIFY(scrolled == 0 || screen.list->firstOf(letter).row() * row_px == scrolled);

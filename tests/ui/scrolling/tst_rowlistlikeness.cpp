@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "support/onscreen.h"
 #include "support/panelscale.h"
 #include "support/rowmodel.h"
+#include "support/story.h"
 #include "support/testcase.h"
 
 #include <VexoFunctionButton>
@@ -9,10 +9,6 @@
 #include <VexoStylesheet>
 #include <VexoVerticalScrollContent>
 
-#include <QApplication>
-#include <QLayout>
-#include <QRandomGenerator>
-#include <QScopeGuard>
 #include <QScrollBar>
 
 using namespace vexo::hox::qt::ui;
@@ -23,29 +19,27 @@ using Row = VexoFunctionButton;
 
 // The second one draws check boxes from images; the toolkit draws other ones differently where they
 // are cut.
-const QStringList sheets{ QStringLiteral(":/css/hoxq.qs"), QStringLiteral(":/css/vexo-AAL.qs") };
+const QStringList sheets{ ":/css/hoxq.qs", ":/css/vexo-AAL.qs" };
 
 /// A RowList over a model that changes at random, and a list that has a widget for each row.
-class Twins
+class Twins : public StoryScreen
 {
 public:
     Twins(bool has_separators, quint32 seed);
 
     QString change();
     /// Empty if both look alike, and each as a repaint of it would.
-    QString difference();
+    QString fault();
 
 private:
     QString changeModel();
-    QString changeEntry();
+    void changeEntry();
     QString changeLook();
-    QString scroll();
+    void scroll();
     void fillPlain();
-    int number(int bound) { return int(m_random.bounded(quint32(bound))); }
     int any() { return number(qMax(1, m_model.rowCount())); }
     int value() const { return list.verticalScrollBar()->value(); }
 
-    QRandomGenerator m_random;
     const bool m_has_separators;
     RowModel m_model{ 40 };
     QWidget m_window;
@@ -57,7 +51,7 @@ private:
 };
 
 Twins::Twins(bool has_separators, quint32 seed)
-    : m_random(seed)
+    : StoryScreen(seed)
     , m_has_separators(has_separators)
 {
     if (has_separators)
@@ -97,116 +91,98 @@ void Twins::fillPlain()
     m_plain.setWidget(content);
 }
 
-QString Twins::difference()
+QString Twins::fault()
 {
     settle();
     const QRect wrong = wrongPixels(m_window);
     if (!wrong.isEmpty())
-        return QStringLiteral("a repaint looks different");
+        return "a repaint looks different";
     fillPlain();
     settle();
     const QScrollBar *bar = list.verticalScrollBar();
     QScrollBar *plain_bar = m_plain.verticalScrollBar();
     if (bar->maximum() != plain_bar->maximum())
-        return QStringLiteral("the height is another one: %1, not %2")
+        return QString("the height is another one: %1, not %2")
             .arg(bar->maximum())
             .arg(plain_bar->maximum());
     plain_bar->setValue(bar->value());
     // Painted anew: where a stock area jumps, the toolkit loses what lies on it.
     const QImage plain = m_plain_window.grab().toImage().convertToFormat(QImage::Format_RGB32);
-    return shownOnScreen(m_window) == plain ? QString()
-                                            : QStringLiteral("a list of all rows looks different");
+    return shownOnScreen(m_window) == plain ? QString() : "a list of all rows looks different";
 }
 
 QString Twins::change()
 {
-    switch (number(8)) {
-    case 0:
+    const int kind = number(8);
+    if (kind == 0)
         return changeLook();
-    case 1:
-    case 2:
+    if (kind < 3)
         return changeModel();
-    case 3:
-        return changeEntry();
-    default:
-        return scroll();
-    }
+    if (kind == 3)
+        return makeOne({ { "a row changes", [this] { changeEntry(); } } });
+    return makeOne({ { "scroll", [this] { scroll(); } } });
 }
 
 QString Twins::changeModel()
 {
     const int row = any();
     const int count = m_model.rowCount();
-    switch (number(6)) {
-    case 0:
-        if (count == 0)
-            return QString();
-        m_model.move(row, number(count + 1));
-        return QStringLiteral("move");
-    case 1:
-        m_model.turnRound();
-        return QStringLiteral("turn round");
-    case 2:
-        m_model.reset(RowModel::entries(number(50)));
-        return QStringLiteral("reset");
-    case 3:
-        m_model.insert(number(count + 1), RowModel::entries(1 + number(4), number(5)));
-        return QStringLiteral("insert");
-    default:
-        if (count == 0)
-            return QString();
-        m_model.remove(row, qMin(count - row, 1 + number(4)));
-        return QStringLiteral("remove");
-    }
+    const auto remove = [=] { m_model.remove(row, qMin(count - row, 1 + number(4))); };
+    if (count == 0)
+        return makeOne({ { "reset", [this] { m_model.reset(RowModel::entries(number(50))); } } });
+    return makeOne({
+        { "move", [=] { m_model.move(row, number(count + 1)); } },
+        { "turn round", [=] { m_model.turnRound(); } },
+        { "reset", [=] { m_model.reset(RowModel::entries(number(50))); } },
+        { "insert",
+            [=] {
+                m_model.insert(number(count + 1), RowModel::entries(1 + number(4), number(5)));
+            } },
+        { "remove", remove },
+        { "remove", remove },
+    });
 }
 
-QString Twins::changeEntry()
+void Twins::changeEntry()
 {
     if (m_model.rowCount() == 0)
-        return QString();
+        return;
     const int row = number(3) == 0 ? any() : qMin(m_model.rowCount() - 1, value() / 49 + number(4));
-    m_model.set(row,
-        { QStringLiteral("changed %1").arg(number(100)), number(5), number(2) == 0,
-            number(3) > 0 });
-    return QStringLiteral("row %1 changes").arg(row);
+    m_model.set(
+        row, { QString("changed %1").arg(number(100)), number(5), number(2) == 0, number(3) > 0 });
 }
 
 QString Twins::changeLook()
 {
-    switch (number(4)) {
-    case 0: {
-        const QSize size(200 + number(200), 60 + number(300));
-        for (QWidget *window : { &m_window, &m_plain_window })
-            window->resize(size);
-        list.resize(size);
-        m_plain.resize(size);
-        return QStringLiteral("resize");
-    }
-    case 1: {
-        const QRect place(number(200), number(150), 80, 60);
-        for (QWidget *notice : { &m_notice, &m_plain_notice })
-            notice->setGeometry(place);
-        return QStringLiteral("notice moves");
-    }
-    case 2: {
-        const bool has_bar = number(2);
-        list.setScrollBarEnabled(has_bar);
-        m_plain.setScrollBarEnabled(has_bar);
-        return QStringLiteral("scroll bar");
-    }
-    default:
-        VexoStylesheet(sheets.mid(number(2)), true);
-        return QStringLiteral("sheet");
-    }
+    const QSize size(200 + number(200), 60 + number(300));
+    const bool has_bar = number(2);
+    return makeOne({
+        { "resize",
+            [=] {
+                for (QWidget *part : { &m_window, &m_plain_window, static_cast<QWidget *>(&list),
+                         static_cast<QWidget *>(&m_plain) })
+                    part->resize(size);
+            } },
+        { "notice moves",
+            [=] {
+                m_notice.move(size.width() - 200, size.height() / 2);
+                m_plain_notice.move(m_notice.pos());
+            } },
+        { "scroll bar",
+            [=] {
+                list.setScrollBarEnabled(has_bar);
+                m_plain.setScrollBarEnabled(has_bar);
+            } },
+        { "sheet", [=] { VexoStylesheet(sheets.mid(has_bar), true); } },
+    });
 }
 
-QString Twins::scroll()
+void Twins::scroll()
 {
     settle(); // the toolkit moves pixels that are not yet painted anew
     QScrollBar *bar = list.verticalScrollBar();
     const bool is_jump = number(4) == 0;
     bar->setValue(is_jump ? number(bar->maximum() + 1) : value() + number(121) - 60);
-    return QStringLiteral("scroll to %1").arg(value());
 }
 
 } // namespace
@@ -227,32 +203,14 @@ void TestRowListLikeness::looksAsAListOfAllRows_data()
     QTest::newRow("rows with separators") << true;
 }
 
-// Takes another number of changes from the environment variable HOXQ_CHANGES.
 void TestRowListLikeness::looksAsAListOfAllRows()
 {
     QFETCH(bool, has_separators);
-    const int asked = qEnvironmentVariableIntValue("HOXQ_CHANGES");
-    const int changes = asked > 0 ? asked : 300;
-    const int changes_of_a_story = 50;
+    const PanelScale scale(4, 5);
     VexoStylesheet(sheets, true);
-    const auto finish = qScopeGuard([] { qApp->setStyleSheet(QString()); });
-    PanelScale scale(4, 5);
-    for (int done = 0; done < changes; done += changes_of_a_story) {
-        const auto seed = quint32(done + 1);
-        Twins twins(has_separators, seed);
-        QRandomGenerator turns(seed);
-        QStringList story;
-        for (int i = 0; i < changes_of_a_story; ++i) {
-            story += twins.change();
-            if (turns.bounded(4) == 0)
-                continue; // more than one change before the next paint
-            const QString difference = twins.difference();
-            if (difference.isEmpty())
-                continue;
-            qWarning() << "seed" << seed << "after" << story.mid(qMax(0, story.size() - 8));
-            QFAIL(qPrintable(difference));
-        }
-    }
+    tellStories<Twins>(
+        300, 50, [=](quint32 seed) { return std::make_unique<Twins>(has_separators, seed); });
+    qApp->setStyleSheet(QString());
 }
 
 QTEST_MAIN(TestRowListLikeness)

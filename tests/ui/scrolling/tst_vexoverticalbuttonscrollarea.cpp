@@ -6,9 +6,6 @@
 
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTest>
-
-#include <memory>
 
 using namespace vexo::hox::qt::ui;
 
@@ -19,7 +16,7 @@ namespace {
 QString lettersOf(const VexoVerticalButtonScrollArea &bar)
 {
     QString letters;
-    const auto buttons = bar.findChildren<QPushButton *>(QStringLiteral("letterButton"));
+    const auto buttons = bar.findChildren<QPushButton *>("letterButton");
     for (const QPushButton *button : buttons)
         letters += button->text();
     return letters;
@@ -48,10 +45,10 @@ void TestVexoVerticalButtonScrollArea::holdsTheButtonsOfItsType_data()
 {
     QTest::addColumn<Type>("type");
     QTest::addColumn<QString>("letters");
-    const QString alphabet = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+    const QString alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
     QTest::newRow("none") << Type::None << QString();
     QTest::newRow("letters") << Type::Alphabetic << alphabet;
-    QTest::newRow("digits") << Type::Numbers << QStringLiteral("0123456789");
+    QTest::newRow("digits") << Type::Numbers << "0123456789";
     QTest::newRow("hash") << Type::AlphabeticWithHash << QLatin1Char('#') + alphabet;
 }
 
@@ -102,16 +99,16 @@ void TestVexoVerticalButtonScrollArea::handlersGoWithButtonsAndReceiver()
     bar.setButtonConnection(nullptr, [&] { log += QLatin1Char('x'); });
     bar.setButtonConnection(this, nullptr);
     buttonOf(bar, "letterButton")->click();
-    QCOMPARE(log, QStringLiteral("aA"));
+    QCOMPARE(log, "aA");
     receiver.reset();
     buttonOf(bar, "letterButton")->click();
-    QCOMPARE(log, QStringLiteral("aAA"));
+    QCOMPARE(log, "aAA");
     bar.setType(Type::Alphabetic); // the same
     buttonOf(bar, "letterButton")->click();
-    QCOMPARE(log, QStringLiteral("aAAA"));
+    QCOMPARE(log, "aAAA");
     bar.setType(Type::Numbers);
     buttonOf(bar, "letterButton")->click();
-    QCOMPARE(log, QStringLiteral("aAAA"));
+    QCOMPARE(log, "aAAA");
 }
 
 void TestVexoVerticalButtonScrollArea::handlerMayChangeTheType()
@@ -119,7 +116,7 @@ void TestVexoVerticalButtonScrollArea::handlerMayChangeTheType()
     VexoVerticalButtonScrollArea bar;
     bar.setButtonConnection(&bar, [&] { bar.setType(Type::Numbers); });
     QTest::mouseClick(buttonOf(bar, "letterButton"), Qt::LeftButton);
-    QCOMPARE(lettersOf(bar), QStringLiteral("0123456789"));
+    QCOMPARE(lettersOf(bar), "0123456789");
 }
 
 QTEST_MAIN(TestVexoVerticalButtonScrollArea)

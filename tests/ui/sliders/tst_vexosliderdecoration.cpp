@@ -8,9 +8,7 @@
 #include <VexoSlider>
 #include <VexoSliderDecoration>
 
-#include <QApplication>
 #include <QGridLayout>
-#include <QLabel>
 
 #include <stdexcept>
 
@@ -26,7 +24,7 @@ struct Shown
     explicit Shown(int style)
         : deco(&window, Deco::SliderDecorationStyle(style), slider)
     {
-        deco.setScaleText({ QStringLiteral("0"), QStringLiteral("9") });
+        deco.setScaleText({ "0", "9" });
         deco.setMinImage(files.svg(Qt::red), 3, 3);
         deco.setMaxImage(files.svg(Qt::blue), 4, 2);
         window.resize(1000, 1000);
@@ -53,7 +51,7 @@ struct Shown
     }
     QLabel *label(const char *part) const
     {
-        const QString name = QStringLiteral("vexoSliderDecoration%1Label");
+        const QString name = "vexoSliderDecoration%1Label";
         return deco.findChild<QLabel *>(name.arg(QLatin1String(part)));
     }
     QSize minImage() const { return label("MinIcon")->pixmap(Qt::ReturnByValue).size(); }
@@ -90,7 +88,7 @@ void TestVexoSliderDecoration::partsHaveTheirCells()
         "0 - - - 0 " };
     for (int style = 0; style < cells.size(); ++style) {
         Shown shown(style);
-        shown.deco.setSliderUnit(QStringLiteral("%"));
+        shown.deco.setSliderUnit("%");
         shown.settle();
         QCOMPARE(shown.cellOf(shown.slider)
                 + shown.cellOf(shown.deco.findChild<ScaleDisplayWidget *>())
@@ -118,7 +116,7 @@ void TestVexoSliderDecoration::imagesStayAtTheSlider()
     QFETCH(int, style);
     QFETCH(QSize, more);
     Shown shown(style);
-    shown.deco.setSliderUnit(QStringLiteral("%"));
+    shown.deco.setSliderUnit("%");
     shown.settle();
     const auto places = [&shown] {
         QVector<QPoint> found;
@@ -181,7 +179,7 @@ void TestVexoSliderDecoration::imageIsRenderedAtItsMeasures()
     QCOMPARE(shown.minImage(), QSize(0, 0));
     QVERIFY_EXCEPTION_THROWN(shown.deco.setMaxImageHeightMM(-1), std::out_of_range);
     QVERIFY_EXCEPTION_THROWN(shown.deco.setMaxImageWidthMM(qQNaN()), std::out_of_range);
-    shown.deco.setMaxImage(QStringLiteral("/none.svg"), qQNaN(), qInf());
+    shown.deco.setMaxImage("/none.svg", qQNaN(), qInf());
     QCOMPARE(shown.deco.getMaxImageWidthMM(), 4.0);
 }
 
@@ -204,7 +202,7 @@ void TestVexoSliderDecoration::changesLeaveNothingBehind()
     auto *scale = shown.deco.findChild<ScaleDisplayWidget *>();
     paints.watch(scale);
     QCOMPARE(paints.take(scale), 0);
-    shown.deco.setScaleText({ QStringLiteral("9") });
+    shown.deco.setScaleText({ "9" });
     QCOMPARE(paints.take(scale), 1);
 }
 
@@ -213,9 +211,9 @@ void TestVexoSliderDecoration::stylesheetMayRebuildIt()
 {
     const Shown shown(Deco::HorizontalWithScale);
     for (const char *style : { "HorizontalWithoutScale", "VerticalWithScale" })
-        qApp->setStyleSheet(QStringLiteral("vexo--hox--qt--ui--VexoSliderDecoration {"
-                                           " qproperty-m_max_image_file: ':/XSvg';"
-                                           " qproperty-m_style: %1; }")
+        qApp->setStyleSheet(QString("vexo--hox--qt--ui--VexoSliderDecoration {"
+                                    " qproperty-m_max_image_file: ':/XSvg';"
+                                    " qproperty-m_style: %1; }")
                                 .arg(QLatin1String(style)));
     qApp->setStyleSheet(QString());
     QCOMPARE(shown.cellOf(shown.label("MaxIcon")), QByteArray("1 "));
@@ -224,8 +222,8 @@ void TestVexoSliderDecoration::stylesheetMayRebuildIt()
 void TestVexoSliderDecoration::sliderMayGo()
 {
     Shown shown(Deco::HorizontalWithScale);
-    shown.deco.setSliderUnit(QStringLiteral("%"));
-    QCOMPARE(shown.slider->accessibleDescription(), QStringLiteral("%"));
+    shown.deco.setSliderUnit("%");
+    QCOMPARE(shown.slider->accessibleDescription(), "%");
     auto *other = new VexoSlider;
     shown.deco.setSliderWidget(other);
     QVERIFY(shown.slider->isHidden());
@@ -236,7 +234,7 @@ void TestVexoSliderDecoration::sliderMayGo()
     shown.slider->setRawValue(50);
     connect(shown.slider, &VexoSlider::valueChanged, shown.slider, [&] { delete shown.slider; });
     shown.deco.setSliderWidget(shown.slider);
-    shown.deco.setScaleText({ QStringLiteral("0") });
+    shown.deco.setScaleText({ "0" });
 }
 
 QTEST_MAIN(TestVexoSliderDecoration)

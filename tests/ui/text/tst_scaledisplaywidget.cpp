@@ -17,6 +17,9 @@ private Q_SLOTS:
     void marksLieAlongTheLength_data();
     void marksLieAlongTheLength();
     void settlesAfterOneLayout();
+
+private:
+    const PanelScale m_scale{ 10, 20 };
 };
 
 void TestScaleDisplayWidget::marksLieAlongTheLength_data()
@@ -38,9 +41,8 @@ void TestScaleDisplayWidget::marksLieAlongTheLength()
     QFETCH(float, mm);
     QFETCH(int, extent);
     QFETCH(QVector<int>, ticks);
-    const PanelScale scale(10, 20);
     ScaleDisplayWidget widget(level ? Qt::Horizontal : Qt::Vertical, mm);
-    widget.setScaleText(QVector<QString>(ticks.size(), QStringLiteral("0")).toList());
+    widget.setScaleText(QVector<QString>(ticks.size(), "0").toList());
     QImage image(900, 900, QImage::Format_RGB32);
     image.fill(Qt::white);
     widget.resize(image.size());
@@ -59,7 +61,6 @@ void TestScaleDisplayWidget::marksLieAlongTheLength()
 
 void TestScaleDisplayWidget::settlesAfterOneLayout()
 {
-    const PanelScale scale(10, 20);
     QWidget window;
     window.resize(800, 200);
     ScaleDisplayWidget widget(Qt::Horizontal, 56);

@@ -5,10 +5,6 @@
 
 #include <VexoImageHeadline>
 
-#include <QLabel>
-#include <QLayout>
-#include <QTest>
-
 #include <stdexcept>
 
 using namespace vexo::hox::qt::ui;
@@ -28,9 +24,9 @@ private:
 void TestVexoImageHeadline::isMeasuredInMillimetres()
 {
     const PanelScale scale(10, 20);
-    VexoImageHeadline headline(m_files.svg(Qt::red), QSizeF(4, 3), QStringLiteral("Camera"));
-    const auto *icon = headline.findChild<QLabel *>(QStringLiteral("vexoImageHeadlineIconLabel"));
-    const auto *text = headline.findChild<QLabel *>(QStringLiteral("vexoImageHeadlineTextLabel"));
+    VexoImageHeadline headline(m_files.svg(Qt::red), QSizeF(4, 3), "Camera");
+    const auto *icon = headline.findChild<QLabel *>("vexoImageHeadlineIconLabel");
+    const auto *text = headline.findChild<QLabel *>("vexoImageHeadlineTextLabel");
     const auto gap = [&] {
         headline.layout()->activate();
         return text->x() - icon->geometry().right() - 1;
@@ -56,7 +52,7 @@ void TestVexoImageHeadline::negativeIconSizeChangesNothing()
     const QImage before = headline.grab().toImage();
     QVERIFY_EXCEPTION_THROWN(headline.setSvgImage(QString(), QSizeF(-1, 3)), std::out_of_range);
     QCOMPARE(headline.grab().toImage(), before);
-    headline.setSvgImage(m_files.path(QStringLiteral("missing.svg")), QSizeF(4, 3));
+    headline.setSvgImage(m_files.path("missing.svg"), QSizeF(4, 3));
     QVERIFY(boxOf(headline.grab().toImage(), Qt::red).isEmpty());
 }
 

@@ -5,8 +5,6 @@
 
 #include <VexoLogo>
 
-#include <QTest>
-
 #include <sys/stat.h>
 
 #include <thread>
@@ -52,10 +50,10 @@ void TestVexoLogo::isCentredAtItsWidth()
 void TestVexoLogo::unreadableFileLeavesWhite()
 {
     const QByteArray flat = "<svg xmlns='http://www.w3.org/2000/svg' width='0' height='9'/>";
-    const QString pipe = m_files.path(QStringLiteral("pipe.svg")); // nobody writes into it
+    const QString pipe = m_files.path("pipe.svg"); // nobody writes into it
     mkfifo(qPrintable(pipe), 0600);
-    for (const QString &file : { QString(), QStringLiteral(":/widgetimages"), pipe,
-             m_files.write(QStringLiteral("flat.svg"), flat) }) {
+    for (const QString &file :
+        { QString(), QString(":/widgetimages"), pipe, m_files.write(QString("flat.svg"), flat) }) {
         VexoLogo logo(20, 10, QImage::Format_RGB32, file);
         logo.paint(1);
         QImage white(20, 10, QImage::Format_RGB32);
@@ -82,7 +80,7 @@ void TestVexoLogo::bufferIsWrittenInPlace()
 
 void TestVexoLogo::emptyImageIsHarmless()
 {
-    const QString file = QStringLiteral(":/XSvg");
+    const QString file = ":/XSvg";
     for (VexoLogo logo : { VexoLogo(0, 10, QImage::Format_RGB32, file),
              VexoLogo(10, 10, QImage::Format_Invalid, file), VexoLogo(10, 10, nullptr, file),
              VexoLogo(1 << 20, 1 << 20, QImage::Format_RGB32, file) }) {

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "support/paintcounter.h"
 #include "support/panelscale.h"
 #include "support/testcase.h"
 
 #include <VexoRuler>
-
-#include <QTest>
 
 using namespace vexo::hox::qt::ui;
 
@@ -75,9 +72,6 @@ void TestVexoRuler::whiteSpaceIsInMillimetres()
 
 void TestVexoRuler::changeWaitsForStyle()
 {
-    VexoRuler shown;
-    QCOMPARE(propertiesWithoutOneRepaint(&shown),
-        (QByteArrayList{ "m_first_line_color", "m_second_line_color" }));
     VexoRuler ruler;
     ruler.setFirstLineColor(Qt::red);
     QCOMPARE(rowsOf(&ruler, 2), QByteArray("gw"));

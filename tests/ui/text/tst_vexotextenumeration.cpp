@@ -4,9 +4,6 @@
 
 #include <VexoTextEnumeration>
 
-#include <QLabel>
-#include <QTest>
-
 using namespace vexo::hox::qt::ui;
 
 class TestVexoTextEnumeration : public TestCase
@@ -22,7 +19,7 @@ void TestVexoTextEnumeration::columnsStandSideBySide()
     const PanelScale scale(10, 20);
     VexoTextEnumeration item;
     item.resize(500, item.height());
-    item.setText(QStringLiteral("ten words ").repeated(1000), -1);
+    item.setText(QString("ten words ").repeated(1000), -1);
     item.grab(); // lays it out
     const auto labels = item.findChildren<QLabel *>();
     const QLabel *number = labels.value(0);
@@ -33,7 +30,7 @@ void TestVexoTextEnumeration::columnsStandSideBySide()
     QCOMPARE(item.minimumHeight(), 290);
     QCOMPARE(placeOf(number), QRect(30, 59, 30, 231));
     QCOMPARE(placeOf(text), QRect(90, 65, 380, 225));
-    QCOMPARE(number->text(), QStringLiteral("-1."));
+    QCOMPARE(number->text(), "-1.");
     QCOMPARE(number->font().pixelSize(), 70); // 10 pt
     QCOMPARE(text->font().pixelSize(), 63); // 9 pt
     QCOMPARE(text->palette().color(text->foregroundRole()), QColor(60, 60, 60));

@@ -1,18 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "support/panelscale.h"
-#include "support/testcase.h"
-#include "support/touchscreen.h"
+#include "support/pressendings.h"
 
 #include <VexoSlider>
 
 #include <QAbstractButton>
-#include <QApplication>
-#include <QDialog>
-#include <QMenu>
-#include <QPointer>
 #include <QRandomGenerator>
-
-#include <memory>
 
 using vexo::hox::qt::ui::VexoSlider;
 using vexo::hox::qt::ui::VexoVerticalScrollArea;
@@ -22,11 +15,10 @@ namespace {
 const int far_px = 120; // further than each widget is wide with what easy access adds
 
 /// One of the classes on the screen, what it has told, and what the model expects.
-struct Target
+struct Target : TouchTarget
 {
-    const TouchSubject *subject = nullptr;
-    QWidget *whole = nullptr;
-    QWidget *touched = nullptr;
+    using TouchTarget::TouchTarget;
+
     std::unique_ptr<QSignalSpy> clicks;
     std::unique_ptr<QSignalSpy> pulses;
     bool is_in_list = false;
@@ -66,9 +58,6 @@ struct Model
             armed = nullptr;
     }
 };
-
-/// What lies over the widgets, or keeps a finger from them.
-enum Obstacle { None, Dialog, WindowDialog, Menu, OtherPage, DisabledPage, Disabled, Hidden };
 
 QByteArray nameOf(const Target &target)
 {
@@ -111,6 +100,7 @@ private:
     void clickRight();
     void putObstacle(Target *target);
     void removeObstacle();
+    bool isObstacle(PressEnding::Kind kind) const { return m_obstacle && m_obstacle->kind == kind; }
     bool isResting() const;
     Target *targetAt(const QPoint &at) const;
     void reveal(const Target &target);
@@ -121,9 +111,8 @@ private:
     std::unique_ptr<Finger> m_finger;
     QRandomGenerator m_random;
     Model m_model;
-    Obstacle m_obstacle = None;
-    QPointer<QWidget> m_over; // the dialog or menu
-    QWidget *m_out_of_order = nullptr; // what an obstacle disables or hides
+    const PressEnding *m_obstacle = nullptr; // which keeps a finger from what is touched
+    Held m_held{};
     bool m_is_down = false;
     int m_pulses = 0;
     int m_taps = 0;
@@ -152,10 +141,7 @@ RandomScreen::RandomScreen(quint32 seed)
 
 void RandomScreen::add(const TouchSubject &subject, bool is_in_list, int index)
 {
-    auto target = std::make_unique<Target>();
-    target->subject = &subject;
-    target->whole = subject.make();
-    target->touched = touchedPart(subject, target->whole);
+    auto target = std::make_unique<Target>(subject);
     target->is_in_list = is_in_list;
     if (!is_in_list) {
         target->whole->setParent(m_screen.page);
@@ -164,8 +150,8 @@ void RandomScreen::add(const TouchSubject &subject, bool is_in_list, int index)
     }
     const bool is_of_part = target->touched->metaObject()->indexOfSignal(subject.click) >= 0;
     target->clicks = spyOn(is_of_part ? target->touched : target->whole, subject.click);
-    if (auto *ticks = target->whole->findChild<QAction *>({}, Qt::FindDirectChildrenOnly))
-        target->pulses = std::make_unique<QSignalSpy>(ticks, &QAction::triggered);
+    if (target->ticks)
+        target->pulses = std::make_unique<QSignalSpy>(target->ticks, &QAction::triggered);
     m_targets.push_back(std::move(target));
 }
 
@@ -196,6 +182,7 @@ void RandomScreen::step()
 {
     if (!m_finger) {
         m_finger = std::make_unique<Finger>(&m_screen);
+        m_held = { &m_screen, m_finger.get(), nullptr };
         m_screen.windowHandle()->installEventFilter(this);
     }
     const Messages ignored; // of the offscreen platform, which cannot grab and raise
@@ -213,9 +200,9 @@ void RandomScreen::stepWithFingerUp()
         pass(10 + random(400));
     else if (choice < 20)
         clickRight();
-    else if (m_obstacle != None && choice < 80)
+    else if (m_obstacle && choice < 80)
         removeObstacle();
-    else if (m_obstacle == None && choice < 28)
+    else if (!m_obstacle && choice < 28)
         putObstacle(target);
     else
         press(target);
@@ -225,7 +212,7 @@ void RandomScreen::stepWithFingerDown()
 {
     const int choice = random(100);
     // Until it is lifted: a list holds the press back, and would not know.
-    const bool is_lasting = m_obstacle >= DisabledPage;
+    const bool is_lasting = isObstacle(PressEnding::WholePage) || isObstacle(PressEnding::OnePart);
     if (choice < 35)
         lift();
     else if (choice < 55)
@@ -236,7 +223,7 @@ void RandomScreen::stepWithFingerDown()
         pass(10 + random(400));
     else if (choice < 91)
         clickRight();
-    else if (m_obstacle == None)
+    else if (!m_obstacle)
         putObstacle(m_model.armed);
     else if (!is_lasting)
         removeObstacle();
@@ -255,18 +242,17 @@ Target *RandomScreen::targetAt(const QPoint &at) const
 
 void RandomScreen::press(Target *target)
 {
-    if (m_obstacle == None && random(4) > 0) {
+    if (!m_obstacle && random(4) > 0) {
         for (int i = 0; i < 100 && !isResting(); ++i)
             virtualclock::pass(50);
     }
     const bool is_resting = isResting();
-    if (is_resting && m_obstacle == None)
+    if (is_resting && !m_obstacle)
         reveal(*target);
     if (virtualclock::ms() - m_lifted_ms <= 40)
         virtualclock::pass(41); // so soon it would be a bounce, which counts for nothing
     const QPoint at = m_screen.placeOf(target->touched) - QPoint(random(4), random(4));
-    const bool is_open = m_obstacle == None || m_obstacle == Disabled || m_obstacle == Hidden;
-    Target *hit = is_open ? targetAt(at) : nullptr;
+    Target *hit = !m_obstacle || isObstacle(PressEnding::OnePart) ? targetAt(at) : nullptr;
     note("press " + (hit ? nameOf(*hit) : "nothing") + (is_resting ? "" : ", moving"));
     m_model = Model();
     m_model.armed = hit;
@@ -277,7 +263,7 @@ void RandomScreen::press(Target *target)
     m_double_clicks = 0;
     m_finger->press(at);
     m_model.is_double = m_double_clicks > 0;
-    if (m_obstacle == Menu && !QApplication::activePopupWidget())
+    if (isObstacle(PressEnding::PassingCover) && !QApplication::activePopupWidget())
         removeObstacle(); // a touch beside it closes it
 }
 
@@ -303,7 +289,7 @@ void RandomScreen::lift()
     if (m_model.armed && m_model.is_unsure)
         m_model.armed->expected += qBound(0, m_model.armed->excess(), 1);
     m_model.end();
-    if (m_obstacle == Disabled || m_obstacle == Hidden)
+    if (isObstacle(PressEnding::OnePart))
         removeObstacle();
 }
 
@@ -319,44 +305,32 @@ void RandomScreen::clickRight()
     m_model.end();
     m_finger->clickRight();
     QWidget *popup = QApplication::activePopupWidget(); // of a field
-    if (popup && popup != m_over)
+    if (popup && popup != m_held.over)
         popup->close();
-    if (m_obstacle == Menu && !QApplication::activePopupWidget())
+    if (isObstacle(PressEnding::PassingCover) && !QApplication::activePopupWidget())
         removeObstacle();
 }
 
 void RandomScreen::putObstacle(Target *target)
 {
-    m_obstacle = Obstacle(1 + random(target ? Hidden : DisabledPage));
-    note("obstacle " + QByteArray::number(m_obstacle));
-    m_model.end();
-    m_out_of_order = m_obstacle >= Disabled ? target->touched : m_screen.page;
-    if (m_obstacle == Dialog || m_obstacle == WindowDialog) {
-        m_over = new QDialog(&m_screen);
-        m_over->setWindowModality(m_obstacle == Dialog ? Qt::ApplicationModal : Qt::WindowModal);
-        m_over->show();
-    } else if (m_obstacle == Menu) {
-        auto *menu = new QMenu(&m_screen);
-        m_over = menu;
-        menu->addAction(QStringLiteral("Item"));
-        menu->popup(QPoint(700, 700));
+    QVector<const PressEnding *> obstacles;
+    for (const PressEnding &ending : pressEndings()) {
+        if (ending.kind != PressEnding::Passing && (target || ending.kind != PressEnding::OnePart))
+            obstacles += &ending;
     }
-    m_screen.pages->setCurrentIndex(m_obstacle == OtherPage ? 1 : 0);
-    m_out_of_order->setEnabled(m_obstacle != DisabledPage && m_obstacle != Disabled);
-    if (m_obstacle == Hidden)
-        m_out_of_order->hide();
+    m_obstacle = obstacles.at(random(obstacles.size()));
+    note(m_obstacle->name);
+    m_model.end();
+    m_held.touched = target ? target->touched : nullptr;
+    m_obstacle->end(m_held);
     QCoreApplication::processEvents(); // the list lays out
 }
 
 void RandomScreen::removeObstacle()
 {
     note("no obstacle");
-    delete m_over;
-    m_screen.pages->setCurrentIndex(0);
-    m_out_of_order->setEnabled(true);
-    if (m_obstacle == Hidden)
-        m_out_of_order->show();
-    m_obstacle = None;
+    m_obstacle->undo(m_held);
+    m_obstacle = nullptr;
     virtualclock::pass(10); // lays out
 }
 
@@ -379,39 +353,26 @@ QByteArray RandomScreen::fault()
     return fault.isEmpty() ? fault : fault + "\n" + m_history.join('\n');
 }
 
-int numberFrom(const char *variable, int otherwise)
-{
-    const QByteArray value = qgetenv(variable);
-    return value.isEmpty() ? otherwise : value.toInt();
-}
-
 } // namespace
 
 /// Every class under a finger that does what it likes. HOXQ_TOUCH_EVENTS and HOXQ_TOUCH_SEED make
 /// a longer and another run.
-class TestRandomTouch : public TestCase
+class TestRandomTouch : public VirtualTimeTestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void noClickIsLostDoubledOrUnwanted();
 
 private:
     const PanelScale m_scale{ 4, 4 };
 };
 
-void TestRandomTouch::initTestCase()
-{
-    TestCase::initTestCase();
-    virtualclock::start();
-    qRegisterMetaType<QMouseEvent *>("QMouseEvent*");
-}
-
 void TestRandomTouch::noClickIsLostDoubledOrUnwanted()
 {
-    const int seed = numberFrom("HOXQ_TOUCH_SEED", 1);
-    const int events = numberFrom("HOXQ_TOUCH_EVENTS", 5000);
+    qRegisterMetaType<QMouseEvent *>("QMouseEvent*");
+    const int seed = asked("HOXQ_TOUCH_SEED", 1);
+    const int events = asked("HOXQ_TOUCH_EVENTS", 5000);
     RandomScreen screen{ quint32(seed) };
     QVERIFY(screen.appear());
     for (int i = 0; i < events; ++i) {

@@ -5,8 +5,6 @@
 
 #include <RotationPixmap>
 
-#include <QSignalSpy>
-#include <QTest>
 #include <QTimer>
 
 #include <sys/stat.h>
@@ -30,7 +28,7 @@ private:
     {
         QImage image(px, QImage::Format_RGB32);
         image.fill(color);
-        QString path = m_files.path(color.name() + QStringLiteral(".png"));
+        QString path = m_files.path(color.name() + ".png");
         image.save(path);
         return path;
     }
@@ -91,8 +89,8 @@ void TestRotationPixmap::handsOutNullWithoutFrames()
 {
     RotationPixmap empty({}, 10, 10);
     QVERIFY(empty.rotate().isNull());
-    const QString missing = m_files.path(QStringLiteral("missing.png"));
-    const QString broken = m_files.write(QStringLiteral("broken.png"), "no image");
+    const QString missing = m_files.path("missing.png");
+    const QString broken = m_files.write("broken.png", "no image");
     RotationPixmap rotation({ missing, broken, image(Qt::red) }, 10, 10);
     rotation.wait();
     QVERIFY(rotation.rotate().isNull());
@@ -118,10 +116,10 @@ void TestRotationPixmap::mayBeDestroyedAtEachMoment()
 
 void TestRotationPixmap::hostileFilesHoldUpNothing()
 {
-    const QString pipe = m_files.path(QStringLiteral("pipe.png"));
+    const QString pipe = m_files.path("pipe.png");
     mkfifo(qPrintable(pipe), 0600);
     const QString thin = image(Qt::blue, QSize(1, 8000)); // 10 px wide it would take 3 MB a mm
-    RotationPixmap rotation({ pipe, QStringLiteral("/dev/zero"), thin, image(Qt::red) }, 300, 1);
+    RotationPixmap rotation({ pipe, "/dev/zero", thin, image(Qt::red) }, 300, 1);
     rotation.wait();
     for (int i = 0; i < 2; ++i)
         QVERIFY(rotation.rotate().isNull());

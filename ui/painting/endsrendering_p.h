@@ -14,10 +14,10 @@ class QPainter;
 namespace vexo::hox::qt::ui {
 
 /// A shape that is even between its left and its right end, such as a pill. The ends are rendered
-/// once for look, height and place among the device's pixels, and shared through the pixmap cache
-/// by all that look alike; between them each row is one colour and is filled. So a long shape keeps
-/// no more than a short one, and is as sharp as the device at each pixel ratio.
-class EndsPrint
+/// once for their place among the device's pixels, and shared by all that look alike; between them
+/// each row is one colour and is filled. So a long shape keeps no more than a short one, and is as
+/// sharp as the device at each pixel ratio. Another look needs another object.
+class EndsRendering
 {
 public:
     /// Draws the shape for a widget of that size, px.
@@ -28,11 +28,8 @@ public:
     /// with a word for its kind first; it is asked only when the ends are made.
     void draw(QPainter *painter, const QSize &size, double end, const QRect &dirty,
         const DrawShape &draw_shape, const std::function<QString()> &look);
-    /// For each change of the look.
-    void forget() { m_ends = QPixmap(); }
 
 private:
-    void keep(const QSize &px, const DrawShape &draw_shape, const QString &look);
     void drawPixels(QPainter *painter, const QRect &place, int end, const QRect &dirty) const;
     void fillRows(QPainter *painter, const QRect &part, int top, int column) const;
 

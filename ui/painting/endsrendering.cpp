@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "ui/painting/endsprint_p.h"
+#include "ui/painting/endsrendering_p.h"
 
 #include "ui/foundation/pixels_p.h"
+#include "ui/painting/renderingcache_p.h"
 
-#include <QDataStream>
-#include <QIODevice>
 #include <QImage>
-#include <QPainter>
-#include <QPixmapCache>
 #include <QtMath>
 
 namespace vexo::hox::qt::ui {
@@ -23,7 +20,7 @@ QColor unmultiplied(QRgb premultiplied)
 } // namespace
 
 // In device pixels: at a ratio such as 1.25 a pixmap that is placed in px would be blurred.
-void EndsPrint::draw(QPainter *painter, const QSize &size, double end, const QRect &dirty,
+void EndsRendering::draw(QPainter *painter, const QSize &size, double end, const QRect &dirty,
     const DrawShape &draw_shape, const std::function<QString()> &look)
 {
     const QTransform to_device = painter->deviceTransform();
@@ -41,7 +38,13 @@ void EndsPrint::draw(QPainter *painter, const QSize &size, double end, const QRe
     if (m_ends.size() != ends || m_size != shorter || m_to_ends != to_ends) {
         m_size = shorter;
         m_to_ends = to_ends;
-        keep(ends, draw_shape, look());
+        const QString name = look() + RenderingCache::name(" ", ends, m_size, m_to_ends);
+        m_ends = RenderingCache::shared(name, [&] {
+            return rendered(ends, 1, [&](QPainter *to) {
+                to->setTransform(m_to_ends);
+                draw_shape(to, m_size);
+            });
+        });
     }
     const QTransform world = painter->worldTransform();
     painter->setWorldTransform(to_device.inverted(), true);
@@ -51,25 +54,8 @@ void EndsPrint::draw(QPainter *painter, const QSize &size, double end, const QRe
     painter->setWorldTransform(world);
 }
 
-void EndsPrint::keep(const QSize &px, const DrawShape &draw_shape, const QString &look)
-{
-    QByteArray place;
-    QDataStream stream(&place, QIODevice::WriteOnly);
-    stream << m_size << m_to_ends;
-    const QString key = look + QString::fromLatin1(place.toBase64());
-    if (QPixmapCache::find(key, &m_ends) && m_ends.size() == px)
-        return;
-    m_ends = QPixmap(px);
-    m_ends.fill(Qt::transparent);
-    QPainter painter(&m_ends);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setTransform(m_to_ends);
-    draw_shape(&painter, m_size);
-    painter.end();
-    QPixmapCache::insert(key, m_ends);
-}
-
-void EndsPrint::drawPixels(QPainter *painter, const QRect &place, int end, const QRect &dirty) const
+void EndsRendering::drawPixels(
+    QPainter *painter, const QRect &place, int end, const QRect &dirty) const
 {
     const int spare = place.width() - m_ends.width();
     if (spare == 0) {
@@ -86,7 +72,7 @@ void EndsPrint::drawPixels(QPainter *painter, const QRect &place, int end, const
 }
 
 // Each row as it is in the even column of the ends.
-void EndsPrint::fillRows(QPainter *painter, const QRect &part, int top, int column) const
+void EndsRendering::fillRows(QPainter *painter, const QRect &part, int top, int column) const
 {
     const QImage ends = m_ends.toImage();
     const auto *const rows = reinterpret_cast<const QRgb *>(ends.constBits()) + column;
