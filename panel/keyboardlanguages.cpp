@@ -51,8 +51,7 @@ void KeyboardLanguages::offer(const QStringList &codes)
     if (layouts.empty())
         layouts.push_back(KeyboardLayout::builtIn(QStringLiteral("en")));
     m_layouts = layouts;
-    if (indexOf(m_layouts, m_code) < 0)
-        m_code = m_layouts.front().code;
+    m_code = m_layouts.front().code;
 }
 
 void KeyboardLanguages::add(const KeyboardLayout &layout)

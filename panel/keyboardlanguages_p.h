@@ -10,12 +10,12 @@ class KeyboardLanguages
 {
 public:
     QStringList codes() const;
-    /// Leaves out what is neither compiled in nor known here.
+    /// Leaves out what is neither compiled in nor known here, and chooses the first.
     void offer(const QStringList &codes);
     /// After the others, or in place of the same language.
     void add(const KeyboardLayout &layout);
 
-    /// The one that is chosen; the first one as long as none is.
+    /// The one that is chosen.
     const QString &code() const { return m_code; }
     /// False if it is chosen already, or not offered.
     bool choose(const QString &code);

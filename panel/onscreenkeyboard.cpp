@@ -79,10 +79,9 @@ OnScreenKeyboard::OnScreenKeyboard(QWidget *parent)
     watchFinger();
     setLanguages(usualLanguages());
     // A touch on a key is none on what lies around the keyboard and would take the focus.
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
-        setFocusProxy(now);
-        readReceiver();
-    });
+    connect(qApp, &QApplication::focusChanged, this,
+        [this](QWidget *, QWidget *now) { setFocusProxy(now); });
+    connect(qApp, &QApplication::focusObjectChanged, this, &OnScreenKeyboard::readReceiver);
 }
 
 OnScreenKeyboard::~OnScreenKeyboard()

@@ -51,7 +51,8 @@ class HOXQPANEL_EXPORT OnScreenKeyboard : public QWidget
     Q_OBJECT
 
     /// Codes of the languages that are offered, in their order. Default: that of the locale, if
-    /// there is a layout, and English. Unknown ones are left out; without any it is English.
+    /// there is a layout, and English. Unknown ones are left out; without any it is English. A change shows
+    /// the first.
     Q_PROPERTY(QStringList languages READ languages WRITE setLanguages)
     /// The one that is shown, such as "de". Default: the first. One that is not offered is ignored.
     Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY languageChanged)

@@ -104,7 +104,7 @@ void TextSender::press(Qt::Key key, const QString &text) const
 
 Qt::InputMethodHints TextSender::hints() const
 {
-    return Qt::InputMethodHints(ask(receiver(), Qt::ImHints).toInt());
+    return Qt::InputMethodHints(QFlag(ask(receiver(), Qt::ImHints).toInt()));
 }
 
 bool TextSender::isAtSentence() const

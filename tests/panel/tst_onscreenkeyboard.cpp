@@ -9,6 +9,7 @@
 #include <QCompleter>
 #include <QIntValidator>
 #include <QLineEdit>
+#include <QRegularExpressionValidator>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QSignalSpy>
@@ -202,9 +203,10 @@ void TestOnScreenKeyboard::masksValidatorsAndShortcutsWork()
     QCOMPARE(desk.field->text(), text("12-34"));
     desk.field->setInputMask(QString());
     desk.field->clear();
-    desk.field->setValidator(new QIntValidator(0, 250, desk.field));
+    desk.field->setValidator(
+        new QRegularExpressionValidator(QRegularExpression(text("[0-9]{2}")), desk.field));
     desk.typist.type(text("2x51"));
-    QCOMPARE(desk.field->text(), text("21")); // 251 is too much, so is 25 and then 1
+    QCOMPARE(desk.field->text(), text("25"));
     const QSignalSpy returns(desk.field, &QLineEdit::returnPressed);
     desk.typist.tap(text("Enter"));
     QCOMPARE(returns.count(), 1);
@@ -232,6 +234,7 @@ void TestOnScreenKeyboard::typesKeysWhereNoInputMethodIsWanted()
 {
     Desk desk;
     desk.field->setAttribute(Qt::WA_InputMethodEnabled, false);
+    desk.keyboard->readReceiver();
     desk.typist.tapAll(text("a ß Delete b"));
     QCOMPARE(desk.field->text(), text("ab"));
 }
@@ -239,8 +242,8 @@ void TestOnScreenKeyboard::typesKeysWhereNoInputMethodIsWanted()
 void TestOnScreenKeyboard::fieldOfThePanelIsTypedInAtItsEnd()
 {
     Desk desk(new ui::VexoLineEdit);
-    desk.keyboard->setReceiver(desk.field);
     desk.field->setText(text("ab"));
+    desk.keyboard->setReceiver(desk.field);
     desk.field->home(false); // as a touch does
     desk.typist.tapAll(text("c d Delete"));
     QCOMPARE(desk.field->text(), text("abc"));
@@ -290,14 +293,12 @@ void TestOnScreenKeyboard::heldKeyOffersVariants()
     if (by_mm.isNull())
         desk.finger.hold(held, 500);
     else
-        QTest::touchEvent(&desk.window, QTest::createTouchDevice());
+        desk.finger.slide(held, QPointF(5, 4), by_mm, 900);
     if (by_mm.isNull()) {
         QWidget *next = keyOf(desk.window, tapped);
         QVERIFY(next);
         desk.finger.tap(next);
         QVERIFY2(desk.finger.lastProblem().isEmpty(), qPrintable(desk.finger.lastProblem()));
-    } else {
-        desk.finger.slide(held, QPointF(5, 4), by_mm, 900);
     }
     QCOMPARE(desk.field->text(), expected);
     QCOMPARE(QApplication::topLevelWidgets().size(), windows);
@@ -363,11 +364,11 @@ void TestOnScreenKeyboard::followsHints()
     QFETCH(QString, hidden);
     Desk desk;
     desk.keyboard->setLanguages({ text("ru"), text("de") });
-    if (!(hints & Qt::ImhLatinOnly) && hints != 0)
+    if (hints != Qt::ImhLatinOnly && hints != 0)
         desk.keyboard->setLanguage(text("de"));
     else
         desk.keyboard->setLanguage(text("ru"));
-    desk.setHints(Qt::InputMethodHints(hints));
+    desk.setHints(Qt::InputMethodHints(QFlag(hints)));
     QVERIFY(keyOf(*desk.keyboard, shown));
     QVERIFY(!keyOf(*desk.keyboard, hidden));
     desk.setHints(Qt::ImhNone);
@@ -479,9 +480,8 @@ void TestOnScreenKeyboard::brokenFileChangesNothing()
         QVERIFY(text(error.what()).contains(text("swiss.txt:3: ")));
     }
     QCOMPARE(desk.keyboard->languages(), QStringList({ text("de"), text("en") }));
-    file.write("row {space} {delete}\n");
-    file.seek(0);
-    file.write("language ch Schweiz\nlayer lower\nrow a {shift}\n");
+    QVERIFY(file.resize(0) && file.seek(0));
+    file.write("language ch Schweiz\nlayer lower\nrow a {shift} {space} {delete}\n");
     file.flush();
     desk.keyboard->addLayoutFile(file.fileName());
     desk.keyboard->setLanguage(text("ch"));
