@@ -138,10 +138,12 @@ void OnScreenKeyboard::setHasHideKey(bool has)
     showKeys();
 }
 
-void OnScreenKeyboard::addLayoutFile(const QString &file)
+QString OnScreenKeyboard::addLayoutFile(const QString &file)
 {
-    m_languages->add(KeyboardLayout::languageFromFile(file));
+    const KeyboardLayout layout = KeyboardLayout::languageFromFile(file);
+    m_languages->add(layout);
     showLayout();
+    return layout.code;
 }
 
 QStringList OnScreenKeyboard::builtInLanguages()
@@ -343,6 +345,7 @@ void OnScreenKeyboard::tapShift()
     const ulong ms = m_finger->pressTime();
     const bool is_double = m_shift_ms != 0 && ms - m_shift_ms <= double_tap_ms;
     m_shift_ms = is_double ? 0 : ms;
+    m_shift_is_needed = false;
     if (is_double)
         setShift(Locked);
     else
@@ -366,8 +369,11 @@ void OnScreenKeyboard::shiftAsNeeded()
     if (m_shift == Locked || !m_pad.isEmpty())
         return;
     const bool is_needed = !(m_hints & as_typed) && m_sender->isAtSentence();
-    if (is_needed != (m_shift == Once))
-        setShift(is_needed ? Once : Off);
+    if (is_needed && m_shift == Off)
+        setShift(Once);
+    else if (!is_needed && m_shift == Once && m_shift_is_needed)
+        setShift(Off);
+    m_shift_is_needed = is_needed;
 }
 
 void OnScreenKeyboard::showShift()

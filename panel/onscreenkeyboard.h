@@ -51,8 +51,8 @@ class HOXQPANEL_EXPORT OnScreenKeyboard : public QWidget
     Q_OBJECT
 
     /// Codes of the languages that are offered, in their order. Default: that of the locale, if
-    /// there is a layout, and English. Unknown ones are left out; without any it is English. A change shows
-    /// the first.
+    /// there is a layout, and English. Unknown ones are left out; without any it is English. A
+    /// change shows the first.
     Q_PROPERTY(QStringList languages READ languages WRITE setLanguages)
     /// The one that is shown, such as "de". Default: the first. One that is not offered is ignored.
     Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY languageChanged)
@@ -80,8 +80,8 @@ public:
 
     /// Offers the language of \a file after the others, or in place of the one with the same code.
     /// Throws std::runtime_error "FILE:LINE: why" for a file that cannot be read or is broken, and
-    /// changes nothing then. See docs/keyboard.md for the format.
-    void addLayoutFile(const QString &file);
+    /// changes nothing then. Returns the code. See docs/keyboard.md for the format.
+    QString addLayoutFile(const QString &file);
     /// The codes of the languages that are compiled in.
     static QStringList builtInLanguages();
 
@@ -159,6 +159,7 @@ private:
     QString m_layer;
     Qt::InputMethodHints m_hints;
     Shift m_shift = Off;
+    bool m_shift_is_needed = false; // once, and not by the user
     ulong m_shift_ms = 0; // of the tap on shift before, 0 after another key
     bool m_repeats = false; // the delete key is held
     int m_replaceable = 0; // UTF-16 units that a variant replaces

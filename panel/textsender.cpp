@@ -113,7 +113,9 @@ bool TextSender::isAtSentence() const
     const QVariant position = ask(asked, Qt::ImCursorPosition);
     if (!position.isValid() || hints() & (Qt::ImhHiddenText | Qt::ImhSensitiveData))
         return false;
-    return endsSentence(ask(asked, Qt::ImSurroundingText).toString().left(position.toInt()));
+    const QString text = ask(asked, Qt::ImSurroundingText).toString();
+    const bool is_at_end = qobject_cast<ui::VexoLineEdit *>(asked);
+    return endsSentence(is_at_end ? text : text.left(position.toInt()));
 }
 
 } // namespace vexo::hox::qt::panel
