@@ -54,6 +54,13 @@ bool KeyFinger::eventFilter(QObject *watched, QEvent *event)
     }
 }
 
+void KeyFinger::watchPopup(QWidget *popup)
+{
+    if (popup && popup != m_popup)
+        popup->installEventFilter(this);
+    m_popup = popup;
+}
+
 bool KeyFinger::take(QEvent *event)
 {
     switch (event->type()) {
@@ -98,6 +105,8 @@ bool KeyFinger::takeTouch(const QTouchEvent &event)
 bool KeyFinger::takeMouse(QWidget *widget, const QMouseEvent &event)
 {
     const QPoint place = m_keyboard->mapFromGlobal(event.globalPos());
+    if (widget == m_popup && !m_key && !m_keyboard->rect().contains(place))
+        return false;
     if (event.type() == QEvent::MouseMove) {
         move(place);
         return true;
@@ -105,8 +114,8 @@ bool KeyFinger::takeMouse(QWidget *widget, const QMouseEvent &event)
     if (event.button() != Qt::LeftButton)
         return true;
     if (event.type() != QEvent::MouseButtonRelease) {
-        auto *key = widget == m_keyboard ? m_find(place) : qobject_cast<QAbstractButton *>(widget);
-        press(key, place, event.timestamp());
+        auto *key = qobject_cast<QAbstractButton *>(widget);
+        press(key ? key : m_find(place), place, event.timestamp());
         return true;
     }
     const QPointer<KeyFinger> self(this);

@@ -27,6 +27,9 @@ public:
 
     /// The mouse on this key is a finger, too.
     void watch(QAbstractButton *key) { key->installEventFilter(this); }
+    /// \a popup, or none, gets all touches while it is open; those on the keyboard are for the
+    /// keys.
+    void watchPopup(QWidget *popup);
     bool eventFilter(QObject *watched, QEvent *event) override;
     /// Events of the keyboard itself; true if it was one of the finger.
     bool take(QEvent *event);
@@ -59,6 +62,7 @@ private:
 
     QWidget *const m_keyboard;
     const std::function<QAbstractButton *(const QPoint &)> m_find;
+    QPointer<QWidget> m_popup;
     QPointer<QAbstractButton> m_key; // that is pressed
     int m_touch = 0; // number of its touch point
     QPoint m_press_place; // px of the keyboard

@@ -319,6 +319,7 @@ void OnScreenKeyboard::type(const QString &text)
     if (!self)
         return;
     m_replaceable = replaceable;
+    m_finger->watchPopup(QApplication::activePopupWidget()); // of a completer
     if (m_shift == Once)
         setShift(Off);
     shiftAsNeeded();
@@ -328,8 +329,10 @@ void OnScreenKeyboard::deleteBackwards()
 {
     const QPointer<OnScreenKeyboard> self(this);
     m_sender->press(Qt::Key_Backspace, QStringLiteral("\b"));
-    if (self)
-        shiftAsNeeded();
+    if (!self)
+        return;
+    m_finger->watchPopup(QApplication::activePopupWidget());
+    shiftAsNeeded();
 }
 
 void OnScreenKeyboard::replace(const QString &variant)

@@ -3,7 +3,7 @@
 
 #include <VexoLineEdit>
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 
@@ -51,10 +51,13 @@ int keyOf(const QString &text)
 
 void sendKey(QObject *to, int key, const QString &text)
 {
-    const QPointer<QObject> receiver(to);
-    if (receiver == QGuiApplication::focusObject()
-        && qt_sendShortcutOverrideEvent(receiver, 0, key, Qt::NoModifier, text))
-        return;
+    QPointer<QObject> receiver(to);
+    if (to == QGuiApplication::focusObject()) {
+        if (qt_sendShortcutOverrideEvent(to, 0, key, Qt::NoModifier, text))
+            return;
+        if (QWidget *popup = QApplication::activePopupWidget())
+            receiver = popup; // of a completer, which knows what is for the field
+    }
     for (const QEvent::Type type : { QEvent::KeyPress, QEvent::KeyRelease }) {
         QKeyEvent event(type, key, Qt::NoModifier, text);
         if (receiver)

@@ -55,8 +55,8 @@ void InputContext::showInputPanel()
 
 void InputContext::hideInputPanel()
 {
-    // A field that loses the focus calls it, too, when the next one has it already.
-    m_is_dismissed = !m_is_changing;
+    // A field calls it, too, that loses the focus to another one or to the list of a completer.
+    m_is_dismissed = !m_is_changing && !QApplication::activePopupWidget();
     settleSoon();
 }
 
@@ -82,6 +82,8 @@ void InputContext::settleSoon()
 void InputContext::settle()
 {
     m_is_changing = false;
+    if (QApplication::activePopupWidget())
+        return; // it comes and goes beside the keyboard
     QWidget *field = m_is_dismissed ? nullptr : focusedField();
     try {
         if (field)

@@ -3,7 +3,9 @@
 #include "support/panelscale.h"
 #include "support/testcase.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QCompleter>
 #include <QDialog>
 #include <QInputMethod>
 #include <QLabel>
@@ -82,6 +84,7 @@ private Q_SLOTS:
     void contentStaysUpWhateverTheLayoutDoes();
     void cursorOfALargeFieldStaysVisible();
     void typesAndFollowsHints();
+    void staysBesideTheListOfACompleter();
     void hideKeyDismissesIt();
     void buttonThatTakesTheFocusIsClicked();
     void smallDialogGrows();
@@ -218,6 +221,25 @@ void TestKeyboardPlugin::typesAndFollowsHints()
     QTRY_VERIFY(keyOf(form, text("7")));
     typist.type(text("42"));
     QCOMPARE(number->value(), 42);
+}
+
+void TestKeyboardPlugin::staysBesideTheListOfACompleter()
+{
+    Form form;
+    activate(&form);
+    const Messages messages; // of a platform that cannot raise popups
+    QCompleter completer({ text("Hamburg"), text("Hamm") });
+    form.last->setCompleter(&completer);
+    form.last->setFocus();
+    QTRY_VERIFY(keyboardOf(form));
+    uitest::Finger finger(&form);
+    Typist(*keyboardOf(form), &finger).type(text("Ha"));
+    QTRY_VERIFY(completer.popup()->isVisible());
+    QTest::qWait(20);
+    QVERIFY(keyboardOf(form));
+    completer.popup()->hide();
+    QTest::qWait(20);
+    QVERIFY(keyboardOf(form));
 }
 
 void TestKeyboardPlugin::hideKeyDismissesIt()

@@ -6,6 +6,7 @@
 #include <PanelAudit>
 #include <VexoLineEdit>
 
+#include <QAbstractItemView>
 #include <QCompleter>
 #include <QIntValidator>
 #include <QLineEdit>
@@ -132,6 +133,7 @@ private Q_SLOTS:
     void shiftLocks();
     void masksValidatorsAndShortcutsWork();
     void completerGetsTheText();
+    void listOfACompleterLetsTypeOn();
     void typesKeysWhereNoInputMethodIsWanted();
     void fieldOfThePanelIsTypedInAtItsEnd();
     void deleteRepeatsWhileHeld();
@@ -228,6 +230,27 @@ void TestOnScreenKeyboard::completerGetsTheText()
     QCOMPARE(desk.field->text(), text("Hannover"));
     desk.typist.tap(text("Enter"));
     QCOMPARE(desk.field->selectedText(), QString());
+}
+
+// Its list is a popup, which gets all touches.
+void TestOnScreenKeyboard::listOfACompleterLetsTypeOn()
+{
+    Desk desk;
+    const Messages messages; // of a platform that cannot raise popups
+    QCompleter completer({ text("Hamburg"), text("Hamm"), text("Hannover") });
+    desk.field->setCompleter(&completer);
+    desk.typist.type(text("H"));
+    QTRY_VERIFY(completer.popup()->isVisible());
+    desk.typist.type(text("amx"));
+    desk.typist.tap(text("Delete"));
+    QCOMPARE(desk.field->text(), text("Ham"));
+    QVERIFY(completer.popup()->isVisible());
+    const QRect second = completer.popup()->visualRect(completer.popup()->model()->index(1, 0));
+    QTest::mouseClick(completer.popup()->viewport(), Qt::LeftButton, {}, second.center());
+    QCOMPARE(desk.field->text(), text("Hamm"));
+    QVERIFY(!completer.popup()->isVisible());
+    desk.typist.type(text("a"));
+    QCOMPARE(desk.field->text(), text("Hamma"));
 }
 
 void TestOnScreenKeyboard::typesKeysWhereNoInputMethodIsWanted()
