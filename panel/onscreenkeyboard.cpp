@@ -81,7 +81,10 @@ OnScreenKeyboard::OnScreenKeyboard(QWidget *parent)
     // A touch on a key is none on what lies around the keyboard and would take the focus.
     connect(qApp, &QApplication::focusChanged, this,
         [this](QWidget *, QWidget *now) { setFocusProxy(now); });
-    connect(qApp, &QApplication::focusObjectChanged, this, &OnScreenKeyboard::readReceiver);
+    connect(qApp, &QApplication::focusObjectChanged, this, [this] {
+        if (isVisible())
+            readReceiver();
+    });
 }
 
 OnScreenKeyboard::~OnScreenKeyboard()
@@ -291,9 +294,9 @@ void OnScreenKeyboard::act(const KeyboardKey &key)
     case KeyboardKey::Space:
         return type(QStringLiteral(" "));
     case KeyboardKey::Enter:
-        return m_sender->press(Qt::Key_Return, QStringLiteral("\r"));
+        return press(Qt::Key_Return, QStringLiteral("\r"));
     case KeyboardKey::Tab:
-        return m_sender->press(Qt::Key_Tab, QStringLiteral("\t"));
+        return press(Qt::Key_Tab, QStringLiteral("\t"));
     case KeyboardKey::Shift:
         return tapShift();
     case KeyboardKey::Letters:
@@ -327,8 +330,13 @@ void OnScreenKeyboard::type(const QString &text)
 
 void OnScreenKeyboard::deleteBackwards()
 {
+    press(Qt::Key_Backspace, QStringLiteral("\b"));
+}
+
+void OnScreenKeyboard::press(Qt::Key key, const QString &text)
+{
     const QPointer<OnScreenKeyboard> self(this);
-    m_sender->press(Qt::Key_Backspace, QStringLiteral("\b"));
+    m_sender->press(key, text);
     if (!self)
         return;
     m_finger->watchPopup(QApplication::activePopupWidget());

@@ -127,6 +127,7 @@ private:
     void act(const KeyboardKey &key);
     void type(const QString &text);
     void deleteBackwards();
+    void press(Qt::Key key, const QString &text);
     void replace(const QString &variant);
 
     void tapShift();
