@@ -422,7 +422,8 @@ void OnScreenKeyboard::showKeys()
     for (KeyboardRow &row : rows)
         row.erase(std::remove_if(row.begin(), row.end(), is_unwanted), row.end());
     m_grid->show(rows, [this](const KeyboardKey &key) { return labelOf(key); });
-    m_grid->place(keyArea());
+    if (!testAttribute(Qt::WA_PendingResizeEvent)) // which comes before it is seen
+        m_grid->place(keyArea());
     showShift();
     nameKeys();
 }

@@ -54,8 +54,6 @@ class HOXQPANEL_EXPORT OnScreenKeyboard : public QWidget
     /// there is a layout, and English. Unknown ones are left out; without any it is English. A
     /// change shows the first.
     Q_PROPERTY(QStringList languages READ languages WRITE setLanguages)
-    /// The one that is shown, such as "de". Default: the first. One that is not offered is ignored.
-    Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY languageChanged)
     /// Height of a key, mm, where there is room. Default 9.0. Ignored unless above 0.
     Q_PROPERTY(double key_height_in_mm READ keyHeightInMm WRITE setKeyHeightInMm)
     /// Ground between the keys. Default C6.
@@ -69,7 +67,9 @@ public:
 
     QStringList languages() const;
     void setLanguages(const QStringList &codes);
+    /// The code of the language that is shown, such as "de".
     QString language() const;
+    /// One that is not offered is ignored.
     void setLanguage(const QString &code);
     double keyHeightInMm() const { return m_key_height_mm; }
     void setKeyHeightInMm(double mm);
@@ -100,6 +100,7 @@ public Q_SLOTS:
     void readReceiver();
 
 Q_SIGNALS:
+    /// Another language is shown, by the user or by a call.
     void languageChanged(const QString &code);
     /// The key that hides the keyboard was tapped; hiding it is up to the application.
     void hideRequested();

@@ -7,7 +7,6 @@
 
 #include <CachedVectorIcon>
 #include <OnScreenKeyboard>
-#include <VexoColors>
 #include <VexoLineEdit>
 
 #include <QLabel>
@@ -39,9 +38,7 @@ LoginPage::LoginPage()
     auto *keyboard = new vexo::hox::qt::panel::OnScreenKeyboard;
     keyboard->setLanguages({ "de", "en" });
     addBlock(form);
-    auto *tray = new FormGround(1, VexoColors::C6);
-    tray->addRow(keyboard);
-    addBlock(tray);
+    addBlock(keyboard);
 
     m_entry = new FieldEntry(keyboard);
     m_entry->add(m_name);

@@ -40,9 +40,7 @@ PinPage::PinPage()
     form->add("Result", m_result);
     auto *keyboard = new vexo::hox::qt::panel::OnScreenKeyboard;
     addBlock(form);
-    auto *tray = new FormGround(1, VexoColors::C6);
-    tray->addRow(keyboard);
-    addBlock(tray);
+    addBlock(keyboard);
 
     m_entry = new FieldEntry(keyboard);
     m_entry->add(m_secret);

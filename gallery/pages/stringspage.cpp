@@ -87,9 +87,7 @@ StringsPage::StringsPage()
     auto *keyboard = new vexo::hox::qt::panel::OnScreenKeyboard;
     keyboard->setLanguages({ "de", "en" });
     addBlock(createForm());
-    auto *tray = new FormGround(1, VexoColors::C6);
-    tray->addRow(keyboard);
-    addBlock(tray);
+    addBlock(keyboard);
     addSection("Decoded");
     auto *decoded = new FormGround(2);
     addResult(decoded, "Read as hexadecimal", "fromHexResult", fromHex);
