@@ -10,8 +10,11 @@ install(FILES ${PROJECT_BINARY_DIR}/ui/hoxqui_export.h ${PROJECT_BINARY_DIR}/ui/
 if(TARGET hoxqpanel)
   install(TARGETS hoxqpanel EXPORT HoxqUi
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime NAMELINK_COMPONENT Devel)
+  install(TARGETS hoxquikeyboard
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/qt5/plugins/platforminputcontexts COMPONENT Runtime)
   install(DIRECTORY panel DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui COMPONENT Devel
-    FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE)
+    FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE PATTERN plugin EXCLUDE
+    PATTERN keyboards EXCLUDE)
   install(FILES ${PROJECT_BINARY_DIR}/panel/hoxqpanel_export.h
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui/panel COMPONENT Devel)
 endif()

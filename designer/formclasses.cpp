@@ -7,6 +7,7 @@
 #include <ActiveButton>
 #include <ActiveVectorButton>
 #include <MeasuredPushButton>
+#include <OnScreenKeyboard>
 #include <RowList>
 #include <UpdatePage>
 #include <VexoCenteredVectorButton>
@@ -37,6 +38,7 @@
 #include <VideoCapturePanning>
 
 using namespace vexo::hox::qt::ui;
+using vexo::hox::qt::panel::OnScreenKeyboard;
 
 namespace {
 
@@ -81,6 +83,7 @@ const std::vector<FormClass> &formClasses()
             "orientation=Horizontal; maximum=100", 15, "value=50", dressInSheet),
         formClass<VexoSliderDecoration>(CHOICE, { 70, 12 }, "", 20, "m_style=HorizontalWithScale",
             dressWithSlider, "VexoSlider"),
+        formClass<OnScreenKeyboard>(CHOICE, { 100, 0 }, "", 60, ""),
         formClass<VexoLabel>(TEXT, { 30, 0 }, "text=Label", 7, "text=ab; indent_in_mm=1"),
         formClass<VexoHorizontalLabelWidget>(TEXT, {},
             "left_label_text=Text; right_label_text=Value; left_label_mm_width=30; "

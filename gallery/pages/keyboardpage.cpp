@@ -2,8 +2,8 @@
 #include "gallery/pages/keyboardpage.h"
 
 #include "gallery/measures.h"
-#include "gallery/widgets/keyboard.h"
 
+#include <OnScreenKeyboard>
 #include <VexoColors>
 #include <VexoKeyboardButton>
 
@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 using namespace vexo::hox::qt::ui;
+using vexo::hox::qt::panel::OnScreenKeyboard;
 
 namespace {
 
@@ -34,7 +35,7 @@ QLineEdit *createLine()
 }
 
 // The ground on which a keyboard lies, as wide as the page.
-QWidget *createTray(QLineEdit *line, Keyboard *keyboard)
+QWidget *createTray(QLineEdit *line, QWidget *keyboard)
 {
     auto *tray = new QWidget;
     tray->setAutoFillBackground(true);
@@ -60,15 +61,16 @@ VexoKeyboardButton *createKey(const QString &name)
 
 KeyboardPage::KeyboardPage()
     : Page("Keyboard",
-        "Every key is a VexoKeyboardButton. Shift holds for one letter, and the delete key repeats "
-        "while it is held.")
+        "An OnScreenKeyboard of VexoKeyboardButtons. Shift holds for one letter, tapped twice for "
+        "all; a held letter offers its variants; a swipe across the space bar changes the "
+        "language.")
 {
-    addSection("German, English, digits and symbols");
+    addSection("Nine languages, digits and symbols");
     QLineEdit *line = createLine();
-    auto *keyboard = new Keyboard;
-    connect(keyboard, &Keyboard::typed, line, &QLineEdit::insert);
-    connect(keyboard, &Keyboard::resetPressed, line, &QLineEdit::backspace);
-    connect(keyboard, &Keyboard::enterPressed, line, &QLineEdit::clear);
+    auto *keyboard = new OnScreenKeyboard;
+    keyboard->setLanguages(OnScreenKeyboard::builtInLanguages());
+    keyboard->setReceiver(line);
+    connect(line, &QLineEdit::returnPressed, line, &QLineEdit::clear);
     addBlock(createTray(line, keyboard));
 
     addSection("Looks of a key");

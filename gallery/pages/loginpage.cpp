@@ -4,10 +4,9 @@
 #include "gallery/measures.h"
 #include "gallery/widgets/fieldentry.h"
 #include "gallery/widgets/formground.h"
-#include "gallery/widgets/keyboard.h"
 
 #include <CachedVectorIcon>
-#include <VexoColors>
+#include <OnScreenKeyboard>
 #include <VexoLineEdit>
 
 #include <QLabel>
@@ -36,11 +35,10 @@ LoginPage::LoginPage()
     form->add("Name", m_name);
     form->add("Password", m_password);
     form->add("Result", m_result);
-    auto *keyboard = new Keyboard;
+    auto *keyboard = new vexo::hox::qt::panel::OnScreenKeyboard;
+    keyboard->setLanguages({ "de", "en" });
     addBlock(form);
-    auto *tray = new FormGround(1, VexoColors::C6);
-    tray->addRow(keyboard);
-    addBlock(tray);
+    addBlock(keyboard);
 
     m_entry = new FieldEntry(keyboard);
     m_entry->add(m_name);
@@ -55,6 +53,7 @@ VexoLineEdit *LoginPage::createField(const QString &name)
     field->setMmTrailingIconSize(QSizeF(3.5, 3.5));
     field->setTrailingIcon(CachedVectorIcon(":/VexoIconGeneralReset", QSizeF(0, 3.5)));
     field->enableTrailingButtonAction();
+    field->setInputMethodHints(Qt::ImhNoAutoUppercase);
     return field;
 }
 

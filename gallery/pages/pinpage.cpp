@@ -4,8 +4,8 @@
 #include "gallery/measures.h"
 #include "gallery/widgets/fieldentry.h"
 #include "gallery/widgets/formground.h"
-#include "gallery/widgets/keyboard.h"
 
+#include <OnScreenKeyboard>
 #include <VexoColors>
 #include <VexoLineEdit>
 
@@ -38,12 +38,9 @@ PinPage::PinPage()
     form->add("Secret", m_secret);
     form->add("Open", m_open);
     form->add("Result", m_result);
-    auto *keyboard = new Keyboard;
-    keyboard->showSymbols();
+    auto *keyboard = new vexo::hox::qt::panel::OnScreenKeyboard;
     addBlock(form);
-    auto *tray = new FormGround(1, VexoColors::C6);
-    tray->addRow(keyboard);
-    addBlock(tray);
+    addBlock(keyboard);
 
     m_entry = new FieldEntry(keyboard);
     m_entry->add(m_secret);
@@ -58,6 +55,7 @@ VexoLineEdit *PinPage::createField(const QString &name)
     field->setObjectName(name);
     field->setMaxLength(digits);
     field->setDrawCentered(true);
+    field->setInputMethodHints(Qt::ImhDigitsOnly);
     return field;
 }
 

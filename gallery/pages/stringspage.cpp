@@ -4,8 +4,8 @@
 #include "gallery/measures.h"
 #include "gallery/widgets/fieldentry.h"
 #include "gallery/widgets/formground.h"
-#include "gallery/widgets/keyboard.h"
 
+#include <OnScreenKeyboard>
 #include <StringUtil>
 #include <VexoColors>
 #include <VexoLineEdit>
@@ -83,11 +83,11 @@ StringsPage::StringsPage()
 {
     m_field->setObjectName("stringField");
     m_field->setMaxLength(most_characters);
-    auto *keyboard = new Keyboard;
+    m_field->setInputMethodHints(Qt::ImhNoAutoUppercase);
+    auto *keyboard = new vexo::hox::qt::panel::OnScreenKeyboard;
+    keyboard->setLanguages({ "de", "en" });
     addBlock(createForm());
-    auto *tray = new FormGround(1, VexoColors::C6);
-    tray->addRow(keyboard);
-    addBlock(tray);
+    addBlock(keyboard);
     addSection("Decoded");
     auto *decoded = new FormGround(2);
     addResult(decoded, "Read as hexadecimal", "fromHexResult", fromHex);

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/widgets/fieldentry.h"
 
-#include "gallery/widgets/keyboard.h"
-
+#include <OnScreenKeyboard>
 #include <VexoColors>
 #include <VexoLineEdit>
 
@@ -10,19 +9,20 @@ using vexo::hox::qt::ui::VexoColors;
 
 FieldEntry::FieldEntry(Keyboard *keyboard)
     : QObject(keyboard)
+    , m_keyboard(keyboard)
 {
-    connect(keyboard, &Keyboard::typed, this, &FieldEntry::type);
-    connect(keyboard, &Keyboard::resetPressed, this, [this] { erase(m_current); });
-    connect(keyboard, &Keyboard::enterPressed, this, &FieldEntry::entered);
 }
 
 void FieldEntry::add(Field *field)
 {
     m_fields += field;
     connect(field, &Field::textEditWanted, this, [this, field] { setCurrent(field); });
+    connect(field, &Field::textEdited, this, &FieldEntry::typed);
+    connect(field, &Field::returnPressed, this, &FieldEntry::entered);
     connect(field, &Field::deleteButtonClick, this, [this, field] {
         setCurrent(field);
-        erase(field);
+        field->end(false); // a touch has moved the cursor of the toolkit
+        field->backspace();
     });
     if (!m_current)
         setCurrent(field);
@@ -31,22 +31,9 @@ void FieldEntry::add(Field *field)
 void FieldEntry::setCurrent(Field *field)
 {
     m_current = field;
+    m_keyboard->setReceiver(field);
     for (Field *each : qAsConst(m_fields)) {
         each->setCursorState(each == field);
         each->setBorderColor(each == field ? VexoColors::C4 : VexoColors::C12);
     }
-}
-
-// Always at the end, where the cursor is shown: a touch has moved that of the toolkit.
-void FieldEntry::type(const QString &text)
-{
-    m_current->end(false);
-    m_current->insert(text);
-    Q_EMIT typed();
-}
-
-void FieldEntry::erase(Field *field)
-{
-    field->end(false);
-    field->backspace();
 }

@@ -4,7 +4,9 @@
 #include <QObject>
 #include <QVector>
 
-class Keyboard;
+namespace vexo::hox::qt::panel {
+class OnScreenKeyboard;
+}
 
 namespace vexo::hox::qt::ui {
 class VexoLineEdit;
@@ -19,6 +21,8 @@ class FieldEntry : public QObject
 public:
     using Field = vexo::hox::qt::ui::VexoLineEdit;
 
+    using Keyboard = vexo::hox::qt::panel::OnScreenKeyboard;
+
     explicit FieldEntry(Keyboard *keyboard);
 
     /// The first one is current. Its trailing button deletes too.
@@ -32,9 +36,7 @@ Q_SIGNALS:
     void entered();
 
 private:
-    void type(const QString &text);
-    void erase(Field *field);
-
+    Keyboard *const m_keyboard;
     QVector<Field *> m_fields;
     Field *m_current = nullptr;
 };

@@ -31,13 +31,6 @@ void FormGround::add(const QString &caption, QWidget *field)
     m_grid->addWidget(field, row + 1, column);
 }
 
-void FormGround::addRow(QWidget *widget)
-{
-    const int line = (m_count + m_columns - 1) / m_columns;
-    m_grid->addWidget(widget, startRow(line), 0, 1, m_columns);
-    m_count = (line + 1) * m_columns;
-}
-
 // Three rows of the grid: a gap to the line above, captions, fields.
 int FormGround::startRow(int line)
 {

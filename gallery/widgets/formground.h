@@ -15,8 +15,6 @@ public:
 
     /// Fills the next cell; \a caption also names the field for assistive technology.
     void add(const QString &caption, QWidget *field);
-    /// Takes the whole width below what is there.
-    void addRow(QWidget *widget);
 
 private:
     int startRow(int line);

@@ -15,6 +15,7 @@
 
 #include <type_traits>
 
+using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::system;
 using namespace vexo::hox::qt::ui;
 using namespace vexo::util;
@@ -113,6 +114,8 @@ QVariant otherValue(const QMetaProperty &property, const QVariant &value, int st
         return value.toFloat() + float(step);
     case QMetaType::QString:
         return QString("text %1").arg(step);
+    case QMetaType::QStringList: // of languages
+        return QStringList(step == 3 ? "fr" : "pl");
     case QMetaType::QColor:
         return QColor(10 * step, 20, 30);
     case QMetaType::QSizeF:
@@ -159,8 +162,9 @@ bool takesByName(const QMetaProperty &property, QWidget *widget)
 bool takesByStylesheet(const QMetaProperty &property, QWidget *widget)
 {
     const QVariant other = otherValue(property, property.read(widget), 5);
-    // The toolkit's stylesheets know no pair of numbers, and make icons of their own.
-    for (const int type : { QMetaType::QSizeF, QMetaType::QPointF, QMetaType::QIcon }) {
+    // The toolkit's stylesheets know no pair of numbers and no list, and make icons of their own.
+    for (const int type :
+        { QMetaType::QSizeF, QMetaType::QPointF, QMetaType::QIcon, QMetaType::QStringList }) {
         if (other.userType() == type)
             return true;
     }
