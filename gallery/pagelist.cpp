@@ -15,6 +15,7 @@
 #include "gallery/pages/loginpage.h"
 #include "gallery/pages/logopage.h"
 #include "gallery/pages/measuredbuttonpage.h"
+#include "gallery/pages/mmsheetspage.h"
 #include "gallery/pages/palettepage.h"
 #include "gallery/pages/pinpage.h"
 #include "gallery/pages/pushbuttonspage.h"
@@ -48,6 +49,7 @@ const QVector<PageEntry> &pageList()
         { "type", "Type", build<TypePage> },
         { "images", "Images", build<ImagesPage> },
         { "stylesheets", "Stylesheets", build<StylesheetPage> },
+        { "mm-sheets", "Sheets in mm", build<MmSheetsPage> },
         { "measured-button", "Measured button", build<MeasuredButtonPage> },
         { "icon-buttons", "Icon buttons", build<IconButtonsPage> },
         { "tiles", "Tiles", build<TilesPage> },
