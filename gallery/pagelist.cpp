@@ -21,6 +21,7 @@
 #include "gallery/pages/pushbuttonspage.h"
 #include "gallery/pages/rowspage.h"
 #include "gallery/pages/rulerspage.h"
+#include "gallery/pages/screenpage.h"
 #include "gallery/pages/settingspage.h"
 #include "gallery/pages/sliderspage.h"
 #include "gallery/pages/stepperpage.h"
@@ -47,6 +48,7 @@ const QVector<PageEntry> &pageList()
     static const QVector<PageEntry> pages{
         { "palette", "Palette and pens", build<PalettePage> },
         { "type", "Type", build<TypePage> },
+        { "screen", "Screen", build<ScreenPage> },
         { "images", "Images", build<ImagesPage> },
         { "stylesheets", "Stylesheets", build<StylesheetPage> },
         { "mm-sheets", "Sheets in mm", build<MmSheetsPage> },
