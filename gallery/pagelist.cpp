@@ -3,6 +3,8 @@
 
 #include "gallery/pages/busyanimationpage.h"
 #include "gallery/pages/checkandradiopage.h"
+#include "gallery/pages/dialogpage.h"
+#include "gallery/pages/dimmerpage.h"
 #include "gallery/pages/formpage.h"
 #include "gallery/pages/headlinespage.h"
 #include "gallery/pages/iconbuttonspage.h"
@@ -16,6 +18,8 @@
 #include "gallery/pages/logopage.h"
 #include "gallery/pages/measuredbuttonpage.h"
 #include "gallery/pages/mmsheetspage.h"
+#include "gallery/pages/noticepage.h"
+#include "gallery/pages/pagestackpage.h"
 #include "gallery/pages/palettepage.h"
 #include "gallery/pages/pinpage.h"
 #include "gallery/pages/pushbuttonspage.h"
@@ -73,6 +77,10 @@ const QVector<PageEntry> &pageList()
         { "form", "Form", build<FormPage> },
         { "lists", "Lists", build<ListsPage> },
         { "headlines", "Headlines", build<HeadlinesPage> },
+        { "page-stack", "Pages", build<PageStackPage> },
+        { "dialog", "Dialog", build<DialogPage> },
+        { "notice", "Notice", build<NoticePage> },
+        { "dimmer", "Dimmer", build<DimmerPage> },
         { "video", "Video", build<VideoPage> },
         { "busy-animation", "Busy animation", build<BusyAnimationPage> },
         { "update-window", "Update window", build<UpdateWindowPage> },
