@@ -7,6 +7,7 @@
 #include <ActiveButton>
 #include <ActiveVectorButton>
 #include <MeasuredPushButton>
+#include <PageStack>
 #include <RowList>
 #include <UpdatePage>
 #include <VexoCenteredVectorButton>
@@ -36,6 +37,7 @@
 #include <VideoArea>
 #include <VideoCapturePanning>
 
+using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::ui;
 
 namespace {
@@ -101,6 +103,7 @@ const std::vector<FormClass> &formClasses()
         formClass<VexoVerticalScrollContent>(LISTS, { 70, 50 }, "", 24, "", dressWithRows),
         formClass<RowList>(LISTS, { 70, 50 }, "", 22, "scroll_bar_enabled=true; m_mm_row_height=7",
             dressWithModel),
+        formClass<PageStack>(LISTS, { 70, 50 }, "", 20, "", dressWithPages),
         formClass<VexoLabeledContainer>(LISTS, { 70, 0 }, "label_text=Caption", 16,
             "label_text=abc; mm_left_margin=1; mm_right_margin=1; mm_top_margin=1; mm_height=14",
             dressWithField),

@@ -17,8 +17,6 @@ using vexo::hox::qt::ui::ScalingInfo;
 
 namespace {
 
-const char NAMESPACE[] = "vexo::hox::qt::ui::";
-
 QVector<std::pair<QByteArray, QString>> pairs(const char *text)
 {
     QVector<std::pair<QByteArray, QString>> found;
@@ -83,12 +81,11 @@ void writeGeometry(QXmlStreamWriter *xml, const QSize &px)
     xml->writeEndElement();
 }
 
-void startWidget(QXmlStreamWriter *xml, const QByteArray &class_name)
+void startWidget(QXmlStreamWriter *xml, const FormClass &form_class)
 {
     xml->writeStartElement(QStringLiteral("widget"));
-    xml->writeAttribute(
-        QStringLiteral("class"), QLatin1String(NAMESPACE) + QString::fromLatin1(class_name));
-    xml->writeAttribute(QStringLiteral("name"), objectName(class_name));
+    xml->writeAttribute(QStringLiteral("class"), QString::fromLatin1(form_class.meta->className()));
+    xml->writeAttribute(QStringLiteral("name"), objectName(form_class.name()));
 }
 
 void writeToolTips(QXmlStreamWriter *xml, const QMetaObject *meta)
@@ -145,12 +142,12 @@ QString domXml(const FormClass &form_class)
     xml.writeStartElement(QStringLiteral("ui"));
     xml.writeAttribute(QStringLiteral("language"), QStringLiteral("c++"));
     xml.writeAttribute(QStringLiteral("displayname"), QString::fromLatin1(form_class.name()));
-    startWidget(&xml, form_class.name());
+    startWidget(&xml, form_class);
     writeGeometry(&xml, firstSize(form_class));
     writeProperties(&xml, form_class);
     for (const FormClass &content : formClasses()) {
         if (content.name() == form_class.content) {
-            startWidget(&xml, content.name());
+            startWidget(&xml, content);
             writeProperties(&xml, content);
             xml.writeEndElement();
         }

@@ -42,4 +42,11 @@ inline QLabel *createText(double pt, int weight, QWidget *parent)
     return label;
 }
 
+inline void setInk(QLabel *label, const QColor &color)
+{
+    QPalette colors = label->palette();
+    colors.setColor(QPalette::WindowText, color);
+    label->setPalette(colors);
+}
+
 } // namespace vexo::hox::qt::panel

@@ -3,6 +3,7 @@
 
 #include "panel/coverfollower_p.h"
 #include "panel/mm_p.h"
+#include "panel/roles_p.h"
 #include "panel/roundground_p.h"
 
 #include <VexoColors>
@@ -19,13 +20,6 @@ using ui::VexoColors;
 using ui::VexoPushButton;
 
 namespace {
-
-void setInk(QLabel *label, const QColor &color)
-{
-    QPalette colors = label->palette();
-    colors.setColor(QPalette::WindowText, color);
-    label->setPalette(colors);
-}
 
 bool takesTab(const QWidget &widget)
 {
@@ -48,10 +42,8 @@ PanelDialog::PanelDialog(const QString &question, QWidget *screen)
     , m_column(new QVBoxLayout(m_box))
     , m_buttons_layout(new QBoxLayout(QBoxLayout::LeftToRight))
 {
+    installRoles();
     hide();
-    // The panel's sheet would lay the ground of a row around each button.
-    m_box->setStyleSheet(
-        QStringLiteral("vexo--hox--qt--ui--VexoPushButton { background: transparent; }"));
     m_column->setContentsMargins(mmMargins(3, 0));
     m_column->setSpacing(mmY(2));
     m_column->addSpacing(mmY(2.5));
@@ -144,6 +136,8 @@ void PanelDialog::setClosesBeside(bool closes)
 VexoPushButton *PanelDialog::addButton(const QString &text)
 {
     auto *button = new VexoPushButton(m_box);
+    // The panel's sheet would lay a ground of its own around each button.
+    button->setStyleSheet(QStringLiteral("background: transparent"));
     button->setText(text);
     dressButton(button);
     const int index = m_buttons.size();

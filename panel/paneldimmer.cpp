@@ -67,9 +67,9 @@ void PanelDimmer::setSeconds(int seconds)
         waitAnew();
 }
 
-void PanelDimmer::setDarkness(double darkness)
+void PanelDimmer::setDarkness(int percent)
 {
-    m_darkness = darkness >= 0 ? qMin(darkness, 1.0) : 0.0; // NaN is none
+    m_darkness = qBound(0, percent, 100);
     update();
 }
 
@@ -150,7 +150,7 @@ bool PanelDimmer::takes(const QEvent &event)
 
 void PanelDimmer::paintEvent(QPaintEvent *)
 {
-    QPainter(this).fillRect(rect(), QColor::fromRgbF(0, 0, 0, m_darkness));
+    QPainter(this).fillRect(rect(), QColor::fromRgbF(0, 0, 0, m_darkness / 100.0));
 }
 
 } // namespace vexo::hox::qt::panel

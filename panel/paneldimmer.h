@@ -20,8 +20,8 @@ class HOXQPANEL_EXPORT PanelDimmer : public QWidget
     /// Time without a touch until it dims, s. Default that of the constructor. A change begins
     /// anew; 0 and less: only dim() does.
     Q_PROPERTY(int m_seconds READ seconds WRITE setSeconds)
-    /// How dark, 0 to 1. Default 0.7.
-    Q_PROPERTY(double m_darkness READ darkness WRITE setDarkness)
+    /// How dark, percent. Default 70; black at 100, untouched at 0, which are the limits.
+    Q_PROPERTY(int m_darkness READ darkness WRITE setDarkness)
 
 public:
     /// Covers \a screen, which owns it; without one it only emits.
@@ -30,8 +30,9 @@ public:
 
     int seconds() const { return m_seconds; }
     void setSeconds(int seconds);
-    double darkness() const { return m_darkness; }
-    void setDarkness(double darkness);
+    int darkness() const { return m_darkness; }
+    void setDarkness(int percent);
+    /// Whether it is dark.
     bool isDimmed() const { return m_is_dimmed; }
 
 public Q_SLOTS:
@@ -57,7 +58,7 @@ private:
     void wait(qint64 ms);
 
     int m_seconds;
-    double m_darkness = 0.7;
+    int m_darkness = 70;
     bool m_is_dimmed = false;
     bool m_is_taking = false; // what follows from the touch that woke
     QBasicTimer m_timer;

@@ -2,6 +2,7 @@
 #include "panel/panelnotice.h"
 
 #include "panel/mm_p.h"
+#include "panel/roles_p.h"
 #include "panel/roundground_p.h"
 
 #include <VexoColors>
@@ -21,11 +22,12 @@ PanelNotice::PanelNotice(Qt::Edge edge, QWidget *screen)
     , m_ground(new RoundGround(VexoColors::C3, 2, this))
     , m_label(createText(8, QFont::Normal, m_ground))
 {
+    installRoles();
     hide();
     setTextColor(VexoColors::C0);
     m_label->setAlignment(Qt::AlignCenter);
     auto *inside = new QVBoxLayout(m_ground);
-    inside->setContentsMargins(mmMargins(4, 2.5));
+    inside->setContentsMargins(mmMargins(4, 3));
     inside->addWidget(m_label);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -58,16 +60,10 @@ void PanelNotice::setBackgroundColor(const QColor &color)
     m_ground->setColor(color);
 }
 
-QColor PanelNotice::textColor() const
-{
-    return m_label->palette().color(QPalette::WindowText);
-}
-
 void PanelNotice::setTextColor(const QColor &color)
 {
-    QPalette colors = m_label->palette();
-    colors.setColor(QPalette::WindowText, color);
-    m_label->setPalette(colors);
+    m_text_color = color;
+    setInk(m_label, color);
 }
 
 QString PanelNotice::text() const

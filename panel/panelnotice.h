@@ -4,6 +4,7 @@
 #include "panel/hoxqpanel_export.h"
 
 #include <QBasicTimer>
+#include <QColor>
 #include <QString>
 #include <QWidget>
 
@@ -46,9 +47,10 @@ public:
     void setMmMargin(double mm);
     QColor backgroundColor() const;
     void setBackgroundColor(const QColor &color);
-    QColor textColor() const;
+    QColor textColor() const { return m_text_color; }
     void setTextColor(const QColor &color);
 
+    /// What was told last.
     QString text() const;
 
 public Q_SLOTS:
@@ -72,6 +74,7 @@ private:
     const Qt::Edge m_edge;
     RoundGround *const m_ground;
     QLabel *const m_label;
+    QColor m_text_color;
     int m_ms = 4000;
     double m_mm_width = 100;
     double m_mm_margin = 4;

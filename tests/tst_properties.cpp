@@ -71,8 +71,9 @@ void TestProperties::propertiesOfEveryClassHold()
     QWidget window;
     QWidget *widget = walked.make(&window);
     QCOMPARE(widget->parentWidget(), &window);
-    QCOMPARE(QByteArray(widget->metaObject()->className()),
-        QByteArray("vexo::hox::qt::ui::") + walked.name);
+    const QByteArray class_name = widget->metaObject()->className();
+    QVERIFY(class_name.startsWith("vexo::hox::qt::"));
+    QVERIFY(class_name.endsWith(QByteArray("::") + walked.name));
     QCOMPARE(propertyFaults(widget).join(QLatin1Char('\n')), QString());
 }
 

@@ -134,12 +134,12 @@ QWidget *createList()
 
 QWidget *createTable()
 {
-    auto *table = named(new QTableWidget(rooms.size(), 2), "Temperatures");
+    auto *table = named(new QTableWidget(3, 2), "Temperatures");
     table->setHorizontalHeaderLabels({ "Room", "Now" });
     table->verticalHeader()->hide();
     table->verticalHeader()->setDefaultSectionSize(mmY(9.6));
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    for (int row = 0; row < rooms.size(); ++row) {
+    for (int row = 0; row < table->rowCount(); ++row) {
         table->setItem(row, 0, new QTableWidgetItem(rooms.at(row)));
         table->setItem(row, 1, new QTableWidgetItem(QString("%1 °C").arg(18 + row)));
     }

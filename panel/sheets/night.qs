@@ -40,7 +40,7 @@ QAbstractSpinBox::down-arrow:disabled, QAbstractSpinBox::down-arrow:off {
 }
 
 QProgressBar { background: #3c3c3c; color: #f5f5f5; }
-QProgressBar::chunk { background: #788200; }
+QProgressBar::chunk { background: #646e00; }
 QProgressBar:disabled { color: #6e6e6e; }
 QProgressBar::chunk:disabled { background: #5a5a5a; }
 

@@ -89,10 +89,10 @@ QCheckBox:disabled, QRadioButton:disabled { color: #c8c8c8; }
    QComboBox::setItemDelegate(new QStyledItemDelegate): the usual one knows no sheet. */
 QComboBox {
     combobox-popup: 0;
-    min-height: 8.6mm;
+    min-height: 9.2mm;
     padding: 0 2mm 0 4.5mm;
     border: 0.2mm solid #b4b4b4;
-    border-radius: 4.5mm;
+    border-radius: 4.8mm;
     background: #ffffff;
     color: #3c3c3c;
 }
@@ -112,10 +112,10 @@ QComboBox QAbstractItemView {
 
 /* Spin box: minus at its left end, plus at its right one. */
 QAbstractSpinBox {
-    min-height: 8.6mm;
+    min-height: 9.2mm;
     padding: 0 10mm;
     border: 0.2mm solid #b4b4b4;
-    border-radius: 4.5mm;
+    border-radius: 4.8mm;
     background: #ffffff;
     color: #3c3c3c;
     selection-background-color: #505050;
@@ -128,7 +128,7 @@ QAbstractSpinBox::up-button {
     subcontrol-origin: border;
     subcontrol-position: center right;
     width: 10mm;
-    height: 9mm;
+    height: 9.6mm;
     border: none;
     background: transparent;
 }
@@ -136,7 +136,7 @@ QAbstractSpinBox::down-button {
     subcontrol-origin: border;
     subcontrol-position: center left;
     width: 10mm;
-    height: 9mm;
+    height: 9.6mm;
     border: none;
     background: transparent;
 }
@@ -167,7 +167,7 @@ QProgressBar::chunk:disabled { background: #c8c8c8; }
 QTabBar { background: transparent; qproperty-drawBase: false; }
 QTabBar::tab {
     min-width: 10mm;
-    height: 8.2mm;
+    height: 8.6mm;
     padding: 0 4mm;
     border: none;
     border-bottom: 0.8mm solid #dcdcdc;
@@ -205,7 +205,7 @@ QListView::item:selected, QTreeView::item:selected, QTableView::item:selected {
 QListView::item:disabled, QTreeView::item:disabled, QTableView::item:disabled { color: #c8c8c8; }
 QHeaderView { border: none; background: #ebebeb; }
 QHeaderView::section {
-    min-height: 8mm;
+    min-height: 9.2mm;
     padding: 0 2mm;
     border: none;
     border-bottom: 0.2mm solid #c8c8c8;

@@ -12,6 +12,7 @@
 #include <memory>
 #include <type_traits>
 
+using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::system;
 using namespace vexo::hox::qt::ui;
 using namespace vexo::util;
@@ -53,8 +54,6 @@ QStringList classesForForms()
     return names;
 }
 
-const QString NAMESPACE = QStringLiteral("vexo::hox::qt::ui::");
-
 // How much two icons differ: the mean distance of their pixels, 0 to 255 for each of three colours.
 double distance(const QImage &a, const QImage &b)
 {
@@ -85,7 +84,7 @@ void TestDesignerPlugin::offersEveryPublicWidget()
 {
     QStringList names;
     for (const QDesignerCustomWidgetInterface *entry : qAsConst(m_entries))
-        names += entry->name().mid(NAMESPACE.size());
+        names += entry->name().section(QStringLiteral("::"), -1);
     QStringList expected = classesForForms();
     names.sort();
     expected.sort();

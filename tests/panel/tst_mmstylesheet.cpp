@@ -228,8 +228,8 @@ void TestMmStylesheet::readySheetFitsEachDensity()
     window.show();
     const auto mmHigh = [&](int px) { return px / px_per_mm_y; };
     const auto isAbout = [](double mm, double expected) { return qAbs(mm - expected) <= 0.6; };
-    QVERIFY(isAbout(mmHigh(box.sizeHint().height()), 9));
-    QVERIFY(isAbout(mmHigh(number.sizeHint().height()), 9));
+    QVERIFY(isAbout(mmHigh(box.sizeHint().height()), 9.6));
+    QVERIFY(isAbout(mmHigh(number.sizeHint().height()), 9.6));
     QVERIFY(isAbout(mmHigh(list.visualItemRect(list.item(0)).height()), 9.8));
     QVERIFY(isAbout(mmHigh(box.view()->sizeHintForRow(0)), 9.8));
 }

@@ -77,6 +77,12 @@ void TestPageStack::pageIsMadeWhenItIsFirstShown()
     QCOMPARE(alive, 1); // b is dropped, a is kept
     QVERIFY(stack.open(B));
     QCOMPARE(alive, 2);
+    PageStack fleeting;
+    addPages(&fleeting, PageStack::Dropped);
+    QVERIFY(fleeting.open(A) && fleeting.open(B) && fleeting.open(A));
+    fleeting.home(); // is shown already
+    settle();
+    QVERIFY(fleeting.page() && fleeting.page()->isVisibleTo(&fleeting));
 }
 
 void TestPageStack::wayBackIsRemembered()

@@ -9,6 +9,7 @@
 #include <VexoIconButton>
 #include <VexoPushButton>
 
+#include <QAccessible>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -72,7 +73,9 @@ void TestPanelDialog::buttonAnswers()
     QCOMPARE(answered.size(), 1);
     QCOMPARE(answered.first().first().toInt(), 1);
     QVERIFY(!dialog.isVisible());
-    QCOMPARE(dialog.accessibleName(), QStringLiteral("Restart?"));
+    const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&dialog);
+    QCOMPARE(interface->role(), QAccessible::Dialog);
+    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Restart?"));
 }
 
 void TestPanelDialog::coversItsScreen()

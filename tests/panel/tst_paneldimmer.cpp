@@ -125,15 +125,15 @@ void TestPanelDimmer::darkens()
     Screen screen;
     QPalette white(Qt::white);
     screen.window.setPalette(white);
-    screen.dimmer.setDarkness(0.5);
+    screen.dimmer.setDarkness(50);
     screen.dimmer.dim();
     settle();
     const QImage dark = screen.window.grab().toImage();
     QVERIFY(qAbs(qGray(dark.pixel(395, 295)) - 127) <= 2);
     screen.window.resize(500, 400);
     QCOMPARE(screen.dimmer.geometry(), screen.window.rect());
-    screen.dimmer.setDarkness(7);
-    QCOMPARE(screen.dimmer.darkness(), 1.0);
+    screen.dimmer.setDarkness(700);
+    QCOMPARE(screen.dimmer.darkness(), 100);
 }
 
 void TestPanelDimmer::mayBeDeletedInItsSignals()

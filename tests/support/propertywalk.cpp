@@ -14,6 +14,7 @@
 
 #include <type_traits>
 
+using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::system;
 using namespace vexo::hox::qt::ui;
 using namespace vexo::util;
@@ -48,6 +49,29 @@ QWidget *make<VexoNumericButton>(QWidget *parent)
     auto *stepper = new VexoNumericButton(parent);
     stepper->setMaximum(100);
     return stepper;
+}
+
+template <>
+QWidget *make<PanelDialog>(QWidget *parent)
+{
+    auto *dialog = new PanelDialog(QStringLiteral("Question"), parent);
+    dialog->addButton(QStringLiteral("Answer"));
+    dialog->open();
+    return dialog;
+}
+
+template <>
+QWidget *make<PanelDimmer>(QWidget *parent)
+{
+    return new PanelDimmer(0, parent);
+}
+
+template <>
+QWidget *make<PanelNotice>(QWidget *parent)
+{
+    auto *notice = new PanelNotice(Qt::BottomEdge, parent);
+    notice->tell(QStringLiteral("Notice"));
+    return notice;
 }
 
 template <typename Class>
