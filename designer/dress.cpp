@@ -3,6 +3,7 @@
 
 #include <ActiveButton>
 #include <CachedVectorIcon>
+#include <PageStack>
 #include <RowList>
 #include <ScaleDisplayWidget>
 #include <ScalingInfo>
@@ -27,6 +28,7 @@
 #include <QPushButton>
 #include <QStandardItemModel>
 
+using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::ui;
 
 namespace {
@@ -160,6 +162,22 @@ void dressWithPicture(QWidget *panning)
     auto *view = new QLabel(panning);
     view->setPixmap(picture(2 * px).copy(px / 2, px / 2, px, px * 2 / 3));
     view->setGeometry(px / 8, px / 5, px * 3 / 4, px * 3 / 5);
+}
+
+// The way back on a page.
+void dressWithPages(QWidget *stack)
+{
+    auto *pages = static_cast<PageStack *>(stack);
+    pages->addPage(QStringLiteral("a"), [] {
+        auto *page = new QLabel;
+        page->setPalette(VexoColors::C0);
+        page->setAutoFillBackground(true);
+        CachedVectorIcon back(QStringLiteral(":/arrowListLeftSvg"), QSizeF(0, 14));
+        page->setPixmap(back.toPixmap());
+        page->setAlignment(Qt::AlignCenter);
+        return page;
+    });
+    pages->open(QStringLiteral("a"));
 }
 
 void dressWithPlus(QWidget *button)

@@ -19,6 +19,7 @@ void dressWithInfo(QWidget *headline);
 void dressWithList(QWidget *area);
 void dressWithMenu(QWidget *button);
 void dressWithModel(QWidget *list);
+void dressWithPages(QWidget *stack);
 void dressWithPicture(QWidget *panning);
 void dressWithPlus(QWidget *button);
 void dressWithReset(QWidget *button);

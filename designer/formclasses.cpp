@@ -8,6 +8,7 @@
 #include <ActiveVectorButton>
 #include <MeasuredPushButton>
 #include <OnScreenKeyboard>
+#include <PageStack>
 #include <RowList>
 #include <UpdatePage>
 #include <VexoCenteredVectorButton>
@@ -37,8 +38,8 @@
 #include <VideoArea>
 #include <VideoCapturePanning>
 
+using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::ui;
-using vexo::hox::qt::panel::OnScreenKeyboard;
 
 namespace {
 
@@ -104,6 +105,7 @@ const std::vector<FormClass> &formClasses()
         formClass<VexoVerticalScrollContent>(LISTS, { 70, 50 }, "", 24, "", dressWithRows),
         formClass<RowList>(LISTS, { 70, 50 }, "", 22, "scroll_bar_enabled=true; m_mm_row_height=7",
             dressWithModel),
+        formClass<PageStack>(LISTS, { 70, 50 }, "", 20, "", dressWithPages),
         formClass<VexoLabeledContainer>(LISTS, { 70, 0 }, "label_text=Caption", 16,
             "label_text=abc; mm_left_margin=1; mm_right_margin=1; mm_top_margin=1; mm_height=14",
             dressWithField),

@@ -3,6 +3,8 @@
 
 #include "gallery/pages/busyanimationpage.h"
 #include "gallery/pages/checkandradiopage.h"
+#include "gallery/pages/dialogpage.h"
+#include "gallery/pages/dimmerpage.h"
 #include "gallery/pages/formpage.h"
 #include "gallery/pages/headlinespage.h"
 #include "gallery/pages/iconbuttonspage.h"
@@ -15,11 +17,15 @@
 #include "gallery/pages/loginpage.h"
 #include "gallery/pages/logopage.h"
 #include "gallery/pages/measuredbuttonpage.h"
+#include "gallery/pages/mmsheetspage.h"
+#include "gallery/pages/noticepage.h"
+#include "gallery/pages/pagestackpage.h"
 #include "gallery/pages/palettepage.h"
 #include "gallery/pages/pinpage.h"
 #include "gallery/pages/pushbuttonspage.h"
 #include "gallery/pages/rowspage.h"
 #include "gallery/pages/rulerspage.h"
+#include "gallery/pages/screenpage.h"
 #include "gallery/pages/settingspage.h"
 #include "gallery/pages/sliderspage.h"
 #include "gallery/pages/stepperpage.h"
@@ -46,8 +52,10 @@ const QVector<PageEntry> &pageList()
     static const QVector<PageEntry> pages{
         { "palette", "Palette and pens", build<PalettePage> },
         { "type", "Type", build<TypePage> },
+        { "screen", "Screen", build<ScreenPage> },
         { "images", "Images", build<ImagesPage> },
         { "stylesheets", "Stylesheets", build<StylesheetPage> },
+        { "mm-sheets", "Sheets in mm", build<MmSheetsPage> },
         { "measured-button", "Measured button", build<MeasuredButtonPage> },
         { "icon-buttons", "Icon buttons", build<IconButtonsPage> },
         { "tiles", "Tiles", build<TilesPage> },
@@ -69,6 +77,10 @@ const QVector<PageEntry> &pageList()
         { "form", "Form", build<FormPage> },
         { "lists", "Lists", build<ListsPage> },
         { "headlines", "Headlines", build<HeadlinesPage> },
+        { "page-stack", "Pages", build<PageStackPage> },
+        { "dialog", "Dialog", build<DialogPage> },
+        { "notice", "Notice", build<NoticePage> },
+        { "dimmer", "Dimmer", build<DimmerPage> },
         { "video", "Video", build<VideoPage> },
         { "busy-animation", "Busy animation", build<BusyAnimationPage> },
         { "update-window", "Update window", build<UpdateWindowPage> },

@@ -63,8 +63,9 @@ int namelessItems(QAccessibleInterface *interface)
     int nameless = 0;
     for (int i = 0; i < qMin(most_children, interface->childCount()); ++i) {
         QAccessibleInterface *child = interface->child(i);
-        if (child && child->isValid() && !child->state().invisible && !child->state().disabled
-            && child->role() != QAccessible::Separator && saysNothing(child))
+        const bool is_item = child && child->isValid() && child->role() != QAccessible::Separator
+            && child->role() != QAccessible::Pane; // the corner of a table
+        if (is_item && !child->state().invisible && !child->state().disabled && saysNothing(child))
             ++nameless;
     }
     return nameless;
@@ -75,7 +76,8 @@ QAccessibleInterface *shownFor(QAccessibleInterface *interface)
 {
     QAccessibleInterface *above = interface->parent();
     while (above && above->role() != QAccessible::Application) {
-        if (above->indexOfChild(interface) >= 0)
+        // A table prints a warning about what is no cell of it.
+        if (!above->tableInterface() && above->indexOfChild(interface) >= 0)
             return interface;
         interface = above;
         above = interface->parent();

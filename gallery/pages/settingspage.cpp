@@ -3,9 +3,9 @@
 
 #include "gallery/measures.h"
 #include "gallery/widgets/ground.h"
-#include "gallery/widgets/question.h"
 #include "gallery/widgets/rowgroup.h"
 
+#include <PanelDialog>
 #include <VexoColors>
 #include <VexoFunctionButton>
 #include <VexoNumericButton>
@@ -19,6 +19,7 @@
 #include <QVBoxLayout>
 
 using namespace vexo::hox::qt::ui;
+using vexo::hox::qt::panel::PanelDialog;
 
 namespace {
 
@@ -159,15 +160,19 @@ void SettingsPage::addService(QVBoxLayout *list)
 
 void SettingsPage::askForReset()
 {
-    const QuestionTexts texts{ "Reset to factory settings?",
-        "Brightness, language and key tone go back to what they were on the first day.", "Cancel",
-        "Reset" };
-    auto *question = new Question(texts, this);
-    connect(question, &Question::answered, this, [this](bool yes) {
-        if (yes)
+    auto *question = new PanelDialog("Reset to factory settings?", this);
+    question->setAttribute(Qt::WA_DeleteOnClose);
+    question->setExplanation(
+        "Brightness, language and key tone go back to what they were on the first day.");
+    question->addButton("Cancel");
+    question->addButton("Reset");
+    connect(question, &PanelDialog::answered, this, [this](int button) {
+        const bool is_yes = button == 1;
+        if (is_yes)
             restoreDefaults();
-        m_status->setText(yes ? "Factory settings restored" : "Nothing was changed");
+        m_status->setText(is_yes ? "Factory settings restored" : "Nothing was changed");
     });
+    question->open();
 }
 
 void SettingsPage::restoreDefaults()

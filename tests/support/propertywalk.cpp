@@ -52,6 +52,29 @@ QWidget *make<VexoNumericButton>(QWidget *parent)
     return stepper;
 }
 
+template <>
+QWidget *make<PanelDialog>(QWidget *parent)
+{
+    auto *dialog = new PanelDialog(QStringLiteral("Question"), parent);
+    dialog->addButton(QStringLiteral("Answer"));
+    dialog->open();
+    return dialog;
+}
+
+template <>
+QWidget *make<PanelDimmer>(QWidget *parent)
+{
+    return new PanelDimmer(0, parent);
+}
+
+template <>
+QWidget *make<PanelNotice>(QWidget *parent)
+{
+    auto *notice = new PanelNotice(Qt::BottomEdge, parent);
+    notice->tell(QStringLiteral("Notice"));
+    return notice;
+}
+
 template <typename Class>
 void addIfWidget(std::vector<WalkedClass> *classes, const char *name)
 {
