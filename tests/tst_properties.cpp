@@ -69,7 +69,7 @@ void TestProperties::propertiesOfEveryClassHold()
     QCOMPARE(widget->parentWidget(), &window);
     const QByteArray name = widget->metaObject()->className();
     QVERIFY2(name.startsWith("vexo::hox::qt::"), name);
-    QCOMPARE(name.mid(name.lastIndexOf(':') + 1), QByteArray(walked.name));
+    QCOMPARE(name.mid(name.lastIndexOf(':') + 1), QByteArray(walked->name));
     QCOMPARE(propertyFaults(widget).join(QLatin1Char('\n')), QString());
 }
 

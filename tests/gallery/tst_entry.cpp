@@ -4,6 +4,7 @@
 #include "gallery/pages/loginpage.h"
 #include "gallery/pages/pinpage.h"
 #include "gallery/pages/stringspage.h"
+#include "support/find.h"
 #include "support/testcase.h"
 
 #include <VexoIconButton>
