@@ -57,7 +57,7 @@ vexo--hox--qt--ui--VexoSliderDecoration[m_style="HorizontalWithScale"] QSlider::
     width: calc(3mm + 3mm - 0.4mm - 0.4mm);
     height: calc(1mm + 2.7mm + 2.7mm - 0.4mm - 0.4mm);
     border: 0.4mm solid #b4c800;
-    border-radius: 3.2mm;
+    border-radius: 3mm;
 }
 vexo--hox--qt--ui--VexoSliderDecoration[m_style="VerticalWithScale"] QSlider::groove:vertical {
     padding-bottom: 10px;
@@ -66,7 +66,7 @@ vexo--hox--qt--ui--VexoSliderDecoration[m_style="VerticalWithScale"] QSlider::ha
     width: calc(1mm + 2.7mm + 2.7mm - 0.4mm - 0.4mm);
     height: calc(3mm + 3mm - 10px - 0.4mm - 0.4mm);
     border: 0.4mm solid #b4c800;
-    border-radius: 3.2mm;
+    border-radius: calc(3mm - 5px);
 }
 
 /* Check box and radio button */

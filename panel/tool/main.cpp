@@ -55,8 +55,9 @@ int examineScreens()
         return examine(QStringLiteral("no screen"), ScreenFacts::of(nullptr));
     int exit_code = EXIT_SUCCESS;
     for (const QScreen *screen : screens) {
-        const QString name
-            = QStringLiteral("%1 on %2").arg(screen->name(), QGuiApplication::platformName());
+        const QString name = QStringLiteral("screen %1 on %2")
+                                 .arg(screen->name(), QGuiApplication::platformName())
+                                 .simplified();
         exit_code |= examine(name, ScreenFacts::of(screen));
     }
     return exit_code;
