@@ -17,9 +17,10 @@ if(TARGET hoxquitest) # no panel needs it
   install(FILES ${PROJECT_BINARY_DIR}/uitest/hoxquitest_export.h
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui/uitest COMPONENT Devel)
 endif()
-get_property(forwards GLOBAL PROPERTY HOXQ_FORWARDS)
-get_property(kit_forwards GLOBAL PROPERTY HOXQ_KIT_FORWARDS)
-install(FILES ${forwards} ${kit_forwards} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui COMPONENT Devel)
+foreach(library system ui util uitest)
+  get_property(forwards GLOBAL PROPERTY HOXQ_FORWARDS_${library})
+  install(FILES ${forwards} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/hoxqui COMPONENT Devel)
+endforeach()
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/HoxqUi)
 install(FILES LICENSE NOTICES.md DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/hoxqui COMPONENT Runtime)

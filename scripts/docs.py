@@ -8,8 +8,10 @@ from dataclasses import dataclass, field
 from pathlib import Path
 from textwrap import indent
 
+import tree
+
 PAGES = Path("docs/classes")
-TABLE = PAGES / "classes.txt"
+LINES = "the hoxq_class() lines of the build"
 BY_HAND = [Path("README.md"), *sorted(Path("docs").glob("*.md"))]
 IMAGE_LIST = Path("docs/image-list.md")
 IMAGES_PAGE = Path("gallery/pages/imagespage.cpp")
@@ -30,6 +32,9 @@ TOKEN = re.compile(r'\\a\s+(\w+)|\w+(?:::\w+)+(?:\(\))?|\w+\([^()]*\)|\w*_\w+(?:
 # <!-- code: FILE FUNCTION... --> before a block of code: what the block shows.
 EMBEDDED = re.compile(r"(?P<mark><!-- code: (?P<file>\S+)(?P<names>[\w ]*) -->\n```\w+\n)"
                       r"(?P<code>.*?)(?P<end>^```$)", re.M | re.S)
+
+# <!-- made: KIND --> and <!-- end -->: what lies between is made.
+MADE = re.compile(r"(?P<mark><!-- made: (?P<kind>\w+) -->\n).*?(?P<end><!-- end -->)", re.S)
 
 
 @dataclass
@@ -187,11 +192,6 @@ def headers():
                   if not re.search("_(p|export)\\.h$", path.name) and "plugin" not in path.parts)
 
 
-def read_table():
-    rows = [line for line in TABLE.read_text().splitlines() if line and not line.startswith("#")]
-    return {name: (need, page) for name, need, page in (re.split(r" *\| *", row) for row in rows)}
-
-
 def markdown(text, classes, own=""):
     def mark(found):
         token = found[0]
@@ -289,10 +289,37 @@ def page_of(entry, classes, shown_on, rows):
     return "\n\n".join(blocks) + "\n"
 
 
+def class_table(rows, folder=""):
+    lines = [[row.need, f"[{name}]({folder}{name}.md)"] for name, row in rows.items()]
+    return table(["You see or need", "Class"], lines)
+
+
 def index(rows):
-    lines = [[need, f"[{name}]({name}.md)"] for name, (need, page) in rows.items()]
-    listed = table(["You see or need", "Class"], lines)
-    return f"{NOTICE.format(TABLE.name)}# Classes\n\n{listed}\n"
+    return f"{NOTICE.format(LINES)}# Classes\n\n{class_table(rows)}\n"
+
+
+def class_tree(classes, rows):
+    """Each class below its first base, with the further ones and what it is for."""
+    below = {}
+    for name in rows:
+        base = next(iter(classes[name].bases), "")
+        below.setdefault(base, []).append(name)
+
+    def lines(base, depth):
+        for name in below.get(base, ()):
+            further = " ".join(f"+ {other}" for other in classes[name].bases[1:])
+            head = "  " * depth + f"{name} {further}".rstrip()
+            yield f"{head:<46} {rows[name].need}"
+            yield from lines(name, depth + 1)
+
+    foreign = sorted(base for base in below if base and base not in rows)
+    drawn = [line for base in foreign for line in (base, *lines(base, 1))]
+    return "\n".join(["```", *lines("", 0), *drawn, "```"])
+
+
+def room_picture():
+    drawn = [f"    {room} --> {other}" for room, other in tree.arrows(tree.rooms())]
+    return "\n".join(["```mermaid", "graph TD", *drawn, "```"])
 
 
 def function_in(text, name):
@@ -313,9 +340,10 @@ def code_of(found):
     return re.sub(r"\A(//|#) SPDX[^\n]*\n+", "", text)
 
 
-def with_code(path):
-    return EMBEDDED.sub(lambda found: found["mark"] + code_of(found) + found["end"],
+def with_code(path, made):
+    text = EMBEDDED.sub(lambda found: found["mark"] + code_of(found) + found["end"],
                         path.read_text())
+    return MADE.sub(lambda found: found["mark"] + made[found["kind"]] + "\n" + found["end"], text)
 
 
 def images():
@@ -359,9 +387,9 @@ def faults(classes, rows):
         if name not in rows and classes[name].header in described:
             continue
         if name not in rows:
-            yield f"{TABLE}: no line for {name}"
+            yield f"{classes[name].header}: no hoxq_class() line names {name}"
         elif name not in classes:
-            yield f"{TABLE}: no header documents a class {name}"
+            yield f"{name}: no header documents a class of this name"
         elif not Path(f"docs/snippets/{name.lower()}.cpp").exists():
             yield f"docs/snippets/{name.lower()}.cpp: missing"
     for entry in classes.values():
@@ -369,6 +397,12 @@ def faults(classes, rows):
             yield f"{entry.header}: no comment describes {code}"
     for path in sorted({*headers()} - {entry.header for entry in classes.values()}):
         yield f"{path}: documents no class"
+    folders = Path("CONTRIBUTING.md").read_text()
+    for folder in sorted(path.parent for path in Path().glob("[a-z]*/CMakeLists.txt")):
+        if f"`{folder}/`" not in folders:
+            yield f"CONTRIBUTING.md: tells nothing of {folder}/"
+    for room in tree.circles(tree.rooms()):
+        yield f"ui/{room}: includes what includes it"
 
 
 def dead_links():
@@ -384,7 +418,7 @@ def missing_pictures(rows):
     for path, *_ in images():
         if f'"{path}"' not in shown:
             yield f"{IMAGES_PAGE}: does not show {path}"
-    for page in sorted({page for need, page in rows.values()} - {"-"}):
+    for page in sorted({row.page for row in rows.values()} - {"-"}):
         if not Path(f"docs/images/{page}.png").exists():
             yield f"docs/images/{page}.png: missing; scripts/docs --pictures renders it"
 
@@ -407,13 +441,15 @@ def differences(pages):
 
 def main(mode):
     classes = {entry.name: entry for path in headers() for entry in read_header(path)}
-    rows = read_table()
+    rows = tree.public_classes()
     findings = list(faults(classes, rows))
     if not findings:
-        pages = {PAGES / f"{name}.md": page_of(classes[name], classes, page, rows)
-                 for name, (need, page) in rows.items()}
+        pages = {PAGES / f"{name}.md": page_of(classes[name], classes, row.page, rows)
+                 for name, row in rows.items()}
         pages[PAGES / "README.md"] = index(rows)
-        pages |= {path: with_code(path) for path in BY_HAND if path != IMAGE_LIST}
+        made = {"classes": class_table(rows, f"{PAGES}/"), "tree": class_tree(classes, rows),
+                "rooms": room_picture()}
+        pages |= {path: with_code(path, made) for path in BY_HAND if path != IMAGE_LIST}
         pages[IMAGE_LIST] = image_list()
         if mode != "--check":
             write(pages)

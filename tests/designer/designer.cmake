@@ -1,19 +1,7 @@
 # SPDX-License-Identifier: MIT
 foreach(module IN ITEMS Designer DesignerComponents UiPlugin UiTools)
-  find_package(Qt5${module} 5.15 REQUIRED)
+  hoxq_require(Qt5${module} qttools5-dev 5.15)
 endforeach()
-
-# The public headers, for which each widget class among them is found.
-get_property(forwards GLOBAL PROPERTY HOXQ_FORWARDS)
-set(public_classes "")
-foreach(forward IN LISTS forwards)
-  get_filename_component(class ${forward} NAME)
-  if(NOT class MATCHES "^Ui_")
-    string(APPEND public_includes "#include <${class}>\n")
-    string(APPEND public_classes "    HOXQ_CLASS(${class})\n")
-  endif()
-endforeach()
-configure_file(designer/publicwidgets.cpp.in publicwidgets.cpp @ONLY)
 
 add_library(designerhost STATIC designer/designerhost.cpp designer/designerhost.h)
 hoxq_compile(designerhost)
@@ -23,7 +11,7 @@ target_link_libraries(designerhost PUBLIC testsupport Qt5::Designer Qt5::Designe
 add_dependencies(designerhost hoxqdesigner)
 
 # A form as Designer saves it, and what uic makes of it.
-add_executable(writeform designer/writeform.cpp support/propertywalk.cpp support/propertywalk.h)
+add_executable(writeform designer/writeform.cpp)
 hoxq_compile(writeform)
 target_link_libraries(writeform PRIVATE designerhost)
 add_custom_command(OUTPUT everywidget.ui
@@ -34,7 +22,7 @@ add_custom_command(OUTPUT everywidget.ui
   VERBATIM)
 qt5_wrap_ui(everywidget ${CMAKE_CURRENT_BINARY_DIR}/everywidget.ui)
 
-hoxq_test(designer/tst_designerplugin.cpp ${CMAKE_CURRENT_BINARY_DIR}/publicwidgets.cpp)
+hoxq_test(designer/tst_designerplugin.cpp)
 target_link_libraries(tst_designerplugin PRIVATE Qt5::UiPlugin)
 target_compile_definitions(tst_designerplugin PRIVATE
   HOXQ_DESIGNER_PLUGIN="$<TARGET_FILE:hoxqdesigner>")
@@ -43,6 +31,6 @@ add_dependencies(tst_designerplugin hoxqdesigner)
 hoxq_test(designer/tst_designer.cpp)
 target_link_libraries(tst_designer PRIVATE designerhost)
 
-hoxq_test(designer/tst_forms.cpp ${everywidget} support/propertywalk.cpp support/propertywalk.h)
+hoxq_test(designer/tst_forms.cpp ${everywidget})
 target_include_directories(tst_forms PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
 target_link_libraries(tst_forms PRIVATE Qt5::UiTools designerhost)

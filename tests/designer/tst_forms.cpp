@@ -109,10 +109,10 @@ void TestForms::compiledFormSetsEachProperty()
         }
     }
     const QStringList expected{
+        QStringLiteral("vexoPushButton.m_text_mm_margin_x"), // Designer knows no float
         QStringLiteral("vexoFunctionButton.m_button_type"), // back from what a new one has
         QStringLiteral("vexoLineEdit.m_underscores"), // ended by the placeholder text
         QStringLiteral("vexoLineEdit.m_mm_margin"), // the labelled container takes it away
-        QStringLiteral("vexoPushButton.m_text_mm_margin_x"), // Designer knows no float
     };
     QCOMPARE(untouched, expected);
 }

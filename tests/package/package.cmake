@@ -31,19 +31,11 @@ set_tests_properties(tst_panelfonts PROPERTIES FIXTURES_REQUIRED installed
 # The library finds this program's qRegisterResourceData before the toolkit's.
 set_target_properties(tst_bundles PROPERTIES ENABLE_EXPORTS ON)
 
-# Sets out to the names of the forwarding headers that a global property lists, with blanks between.
-function(hoxq_class_names out property)
-  get_property(forwards GLOBAL PROPERTY ${property})
-  foreach(forward IN LISTS forwards)
-    get_filename_component(class ${forward} NAME)
-    list(APPEND names ${class})
-  endforeach()
-  list(SORT names)
-  list(JOIN names " " names)
-  set(${out} ${names} PARENT_SCOPE)
-endfunction()
-hoxq_class_names(public_classes HOXQ_FORWARDS)
-hoxq_class_names(kit_classes HOXQ_KIT_FORWARDS)
+# The names of the forwarding headers, with blanks between.
+foreach(library system ui util uitest)
+  get_property(classes GLOBAL PROPERTY HOXQ_CLASSES_${library})
+  string(REPLACE ";" " " HOXQ_CLASSES_${library} "${classes}")
+endforeach()
 
 # The applications that the tests build are built as the library is.
 set(consumer_flags ${CMAKE_CXX_FLAGS})
@@ -57,8 +49,9 @@ target_include_directories(packagesupport PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(packagesupport PUBLIC Qt5::Core)
 target_compile_definitions(packagesupport PUBLIC
   HOXQ_SOURCE="${PROJECT_SOURCE_DIR}" HOXQ_CONSUMER="${CMAKE_CURRENT_SOURCE_DIR}/consumer"
-  HOXQ_STAGE="${stage}" HOXQ_LIBDIR="${CMAKE_INSTALL_LIBDIR}" HOXQ_CLASSES="${public_classes}"
-  HOXQ_KIT_CLASSES="${kit_classes}"
+  HOXQ_STAGE="${stage}" HOXQ_LIBDIR="${CMAKE_INSTALL_LIBDIR}" 
+  HOXQ_SYSTEM_CLASSES="${HOXQ_CLASSES_system}" HOXQ_KIT_CLASSES="${HOXQ_CLASSES_uitest}"
+  HOXQ_CLASSES="${HOXQ_CLASSES_ui} ${HOXQ_CLASSES_util}"
   HOXQ_VERSION="${PROJECT_VERSION}"
   HOXQ_CMAKE="${CMAKE_COMMAND}" HOXQ_GENERATOR="${CMAKE_GENERATOR}"
   HOXQ_COMPILER="${CMAKE_CXX_COMPILER}" HOXQ_LAUNCHER="${CMAKE_CXX_COMPILER_LAUNCHER}"

@@ -1,38 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/propertywalk.h"
 
-#include <ActiveButton>
-#include <ActiveVectorButton>
-#include <MeasuredPushButton>
-#include <RowList>
-#include <ScaleDisplayWidget>
-#include <UpdateMainWindow>
-#include <UpdatePage>
-#include <VexoCenteredVectorButton>
-#include <VexoCheckBox>
-#include <VexoDesignVectorButton>
-#include <VexoFunctionButton>
-#include <VexoHorizontalLabelWidget>
-#include <VexoHorizontalTextIconButton>
-#include <VexoIconButton>
-#include <VexoImageHeadline>
-#include <VexoKeyboardButton>
-#include <VexoLabel>
-#include <VexoLabeledContainer>
-#include <VexoLineEdit>
-#include <VexoLineSpacer>
-#include <VexoLogoLabel>
-#include <VexoNumericButton>
-#include <VexoPushButton>
-#include <VexoRadioButton>
-#include <VexoRuler>
-#include <VexoSlider>
-#include <VexoSliderDecoration>
-#include <VexoTextEnumeration>
-#include <VexoVerticalButtonScrollArea>
-#include <VexoVerticalScrollArea>
-#include <VideoArea>
-#include <VideoCapturePanning>
+#include "publicclasses.h"
 
 #include <QColor>
 #include <QIcon>
@@ -44,7 +13,11 @@
 #include <QTest>
 #include <QVariant>
 
+#include <type_traits>
+
+using namespace vexo::hox::qt::system;
 using namespace vexo::hox::qt::ui;
+using namespace vexo::util;
 
 namespace {
 
@@ -54,7 +27,8 @@ QWidget *make(QWidget *parent)
     return new Widget(parent);
 }
 
-QWidget *makeRowList(QWidget *parent)
+template <>
+QWidget *make<RowList>(QWidget *parent)
 {
     auto *list = new RowList(parent);
     const QStringList texts{ "Row", "Another row" };
@@ -62,57 +36,42 @@ QWidget *makeRowList(QWidget *parent)
     return list;
 }
 
-QWidget *makeScale(QWidget *parent)
+template <>
+QWidget *make<ScaleDisplayWidget>(QWidget *parent)
 {
     return new ScaleDisplayWidget(Qt::Horizontal, 56, parent);
 }
 
 // Its value is clamped.
-QWidget *makeStepper(QWidget *parent)
+template <>
+QWidget *make<VexoNumericButton>(QWidget *parent)
 {
     auto *stepper = new VexoNumericButton(parent);
     stepper->setMaximum(100);
     return stepper;
 }
 
+template <typename Class>
+void addIfWidget(std::vector<WalkedClass> *classes, const char *name)
+{
+    if constexpr (std::is_base_of_v<QWidget, Class>)
+        classes->push_back({ name, make<Class> });
+}
+
+std::vector<WalkedClass> allWidgets()
+{
+    std::vector<WalkedClass> classes;
+#define HOXQ_ADD(Class) addIfWidget<Class>(&classes, #Class);
+    HOXQ_FOR_EACH_CLASS(HOXQ_ADD)
+#undef HOXQ_ADD
+    return classes;
+}
+
 } // namespace
 
 const std::vector<WalkedClass> &walkedClasses()
 {
-    static const std::vector<WalkedClass> classes = {
-        { "ActiveButton", make<ActiveButton> },
-        { "ActiveVectorButton", make<ActiveVectorButton> },
-        { "MeasuredPushButton", make<MeasuredPushButton> },
-        { "RowList", makeRowList },
-        { "ScaleDisplayWidget", makeScale },
-        { "UpdateMainWindow", make<UpdateMainWindow> },
-        { "UpdatePage", make<UpdatePage> },
-        { "VexoCenteredVectorButton", make<VexoCenteredVectorButton> },
-        { "VexoCheckBox", make<VexoCheckBox> },
-        { "VexoDesignVectorButton", make<VexoDesignVectorButton> },
-        { "VexoFunctionButton", make<VexoFunctionButton> },
-        { "VexoHorizontalLabelWidget", make<VexoHorizontalLabelWidget> },
-        { "VexoHorizontalTextIconButton", make<VexoHorizontalTextIconButton> },
-        { "VexoIconButton", make<VexoIconButton> },
-        { "VexoImageHeadline", make<VexoImageHeadline> },
-        { "VexoKeyboardButton", make<VexoKeyboardButton> },
-        { "VexoLabel", make<VexoLabel> },
-        { "VexoLabeledContainer", make<VexoLabeledContainer> },
-        { "VexoLineEdit", make<VexoLineEdit> },
-        { "VexoLineSpacer", make<VexoLineSpacer> },
-        { "VexoLogoLabel", make<VexoLogoLabel> },
-        { "VexoNumericButton", makeStepper },
-        { "VexoPushButton", make<VexoPushButton> },
-        { "VexoRadioButton", make<VexoRadioButton> },
-        { "VexoRuler", make<VexoRuler> },
-        { "VexoSlider", make<VexoSlider> },
-        { "VexoSliderDecoration", make<VexoSliderDecoration> },
-        { "VexoTextEnumeration", make<VexoTextEnumeration> },
-        { "VexoVerticalButtonScrollArea", make<VexoVerticalButtonScrollArea> },
-        { "VexoVerticalScrollArea", make<VexoVerticalScrollArea> },
-        { "VideoArea", make<VideoArea> },
-        { "VideoCapturePanning", make<VideoCapturePanning> },
-    };
+    static const std::vector<WalkedClass> classes = allWidgets();
     return classes;
 }
 

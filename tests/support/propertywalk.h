@@ -18,7 +18,7 @@ struct WalkedClass
     std::function<QWidget *(QWidget *parent)> make;
 };
 
-/// Every exported widget class. A new class adds its line here.
+/// Every widget class of the public interface.
 const std::vector<WalkedClass> &walkedClasses();
 /// A row "walked" for each of them.
 void addWalkedClasses();

@@ -2,7 +2,7 @@
 #include "ui/buttons/activebutton.h"
 
 #include "ui/files/imagefile_p.h"
-#include "ui/foundation/quietly_p.h"
+#include "ui/foundation/withoutrepaint_p.h"
 #include "ui/painting/iconpixmap_p.h"
 
 #include <QEvent>
@@ -248,7 +248,7 @@ void ActiveButton::showIcon(const QIcon &icon)
         setIcon(icon);
         return;
     }
-    quietly(this, [this, &icon] { setIcon(icon); });
+    withoutRepaint(this, [this, &icon] { setIcon(icon); });
     update(m_icon_area);
 }
 

@@ -19,7 +19,7 @@ ActiveVectorButton::ActiveVectorButton(QWidget *parent)
 
 void ActiveVectorButton::setMmIconWidth(double mm)
 {
-    if (!(mm >= 0)) // NaN too
+    if (!isMeasure(mm))
         throw std::out_of_range("Negative image width is impossible!");
     if (mm == m_mm_icon_width)
         return;
@@ -33,7 +33,7 @@ void ActiveVectorButton::setMmIconWidth(double mm)
 
 void ActiveVectorButton::setMmIconHeight(double mm)
 {
-    if (!(mm >= 0)) // NaN too
+    if (!isMeasure(mm))
         throw std::out_of_range("Negative image height is impossible!");
     if (mm == m_mm_icon_height)
         return;
@@ -47,7 +47,7 @@ void ActiveVectorButton::setMmIconHeight(double mm)
 
 void ActiveVectorButton::setMmIconSize(const QSizeF &mm)
 {
-    if (!(mm.width() >= 0 && mm.height() >= 0)) // NaN too
+    if (!isMeasure(mm))
         throw std::out_of_range("Negative image size parameter is impossible!");
     if (mm.width() == m_mm_icon_width && mm.height() == m_mm_icon_height)
         return;
@@ -93,7 +93,7 @@ QIcon ActiveVectorButton::compute(const QString &path)
     if (m_mm_icon_width == 0.0 && m_mm_icon_height == 0.0)
         return QIcon();
     CachedVectorIcon icon(path, QSizeF(m_mm_icon_width, m_mm_icon_height));
-    m_px_icon_size = QSize(truncated(icon.pxWidth()), truncated(icon.pxHeight()));
+    m_px_icon_size = truncated(QSizeF(icon.pxWidth(), icon.pxHeight()));
     return icon;
 }
 

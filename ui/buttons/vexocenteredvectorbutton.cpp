@@ -92,13 +92,13 @@ void VexoCenteredVectorButton::setSubtext(const QString &text)
 void VexoCenteredVectorButton::setWidthInMm(double mm)
 {
     m_width_in_mm = mm;
-    setFixedWidth(widgetPx(pxX(*m_scaling, mm)));
+    fixWidth(this, *m_scaling, mm);
 }
 
 void VexoCenteredVectorButton::setHeightInMm(double mm)
 {
     m_height_in_mm = mm;
-    setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+    fixHeight(this, *m_scaling, mm);
 }
 
 void VexoCenteredVectorButton::setIconSizeInMm(double mm)

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/buttons/vexocheckbox.h"
 
+#include "ui/buttons/row/choicepress_p.h"
 #include "ui/buttons/tone_p.h"
-#include "ui/touch/press_p.h"
-
-#include <QMouseEvent>
 
 namespace vexo::hox::qt::ui {
 
@@ -35,22 +33,17 @@ void VexoCheckBox::setupConnections()
 
 void VexoCheckBox::toggleButton()
 {
-    const QPointer<VexoCheckBox> self(this);
-    toggle();
-    if (self)
-        Q_EMIT clicked(isChecked());
+    ChoicePress::toggle(this);
 }
 
 void VexoCheckBox::mousePressEvent(QMouseEvent *event)
 {
-    if (Press::begin(this, event, event->globalPos()))
-        Q_EMIT pressed();
+    ChoicePress::begin(this, event);
 }
 
 void VexoCheckBox::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (Press::end(this, *event) == Press::Released)
-        toggleButton();
+    ChoicePress::end(this, *event);
 }
 
 void VexoCheckBox::mouseMoveEvent(QMouseEvent *event)

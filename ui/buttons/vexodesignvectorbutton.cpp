@@ -98,7 +98,7 @@ void VexoDesignVectorButton::setIgnoreBackgroundDarkRendering(bool ignore)
 void VexoDesignVectorButton::setMmHeight(double mm)
 {
     m_mm_height = mm;
-    setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+    fixHeight(this, *m_scaling, mm);
     calculateTextPosition();
 }
 
@@ -191,12 +191,8 @@ QIcon VexoDesignVectorButton::shownIcon(bool is_dark)
 
 void VexoDesignVectorButton::drawIcon(QPainter *painter, const QIcon &icon) const
 {
-    const double ratio = pixelRatio(*painter);
-    if (ratio == 1)
-        icon.paint(painter, m_icon_rect, Qt::AlignCenter, QIcon::Normal, QIcon::Off);
-    else
-        drawIconPixmap(painter, *style(), m_icon_rect, Qt::AlignCenter,
-            iconPixmap(icon, m_icon_rect.size(), ratio));
+    drawIconPixmap(painter, *style(), m_icon_rect, Qt::AlignCenter,
+        iconPixmap(icon, m_icon_rect.size(), pixelRatio(*painter)));
 }
 
 void VexoDesignVectorButton::drawTexts(QPainter *painter) const

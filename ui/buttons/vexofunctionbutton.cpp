@@ -1,95 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "ui/buttons/vexofunctionbutton.h"
 
+#include "ui/buttons/row/arrowlabel_p.h"
+#include "ui/buttons/row/rightwidget_p.h"
 #include "ui/buttons/row/rowaccessible_p.h"
 #include "ui/buttons/row/rowlabel_p.h"
 #include "ui/buttons/row/rowlayout_p.h"
 #include "ui/buttons/tone_p.h"
-#include "ui/buttons/vexocheckbox.h"
-#include "ui/buttons/vexoiconbutton.h"
-#include "ui/buttons/vexoradiobutton.h"
-#include "ui/files/imagefile_p.h"
-#include "ui/foundation/cachedvectoricon.h"
+#include "ui/foundation/accessible_p.h"
+#include "ui/foundation/coverrule_p.h"
 #include "ui/foundation/panelfont_p.h"
-#include "ui/foundation/plainlabel_p.h"
-#include "ui/foundation/quietly_p.h"
-#include "ui/foundation/shownpart_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
-#include "ui/painting/iconpixmap_p.h"
 #include "ui/touch/press_p.h"
 
-#include <QAccessible>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOption>
 
 namespace vexo::hox::qt::ui {
-
-namespace {
-
-const double height_mm = 9.8;
-const double tick_box_mm = 6;
-
-double rightSpacerMm(VexoFunctionButton::VexoFunctionButtonType type)
-{
-    const bool is_narrow
-        = type == VexoFunctionButton::CheckboxType || type == VexoFunctionButton::RadiobuttonType;
-    return is_narrow ? 2.0 : 3.0;
-}
-
-QString arrowFile(const char *color)
-{
-    return QStringLiteral(":widgetimages/VexoIconGeneralArrowListRight_44px_%1.svg")
-        .arg(QLatin1String(color));
-}
-
-// Shows the arrow as it is: a plain label would dim it once more while disabled.
-class ArrowLabel : public QLabel
-{
-public:
-    using QLabel::QLabel;
-
-protected:
-    // With a fixed size a change of the arrow does not lay out the screen anew.
-    bool event(QEvent *event) override
-    {
-        const bool is_handled = QLabel::event(event);
-        if (event->type() == QEvent::Polish
-            || (event->type() == QEvent::StyleChange && testAttribute(Qt::WA_WState_Polished))) {
-            setMinimumSize(0, 0);
-            setIndent(indent()); // makes the label measure itself anew: a sheet may pad it
-            setFixedSize(sizeHint());
-        }
-        return is_handled;
-    }
-
-    void paintEvent(QPaintEvent *) override
-    {
-        QPainter painter(this);
-        if (frameShape() != NoFrame) // else a sheet is asked for nothing
-            drawFrame(&painter);
-        const QPixmap arrow = pixmap(Qt::ReturnByValue);
-        if (!arrow.isNull())
-            drawIconPixmap(&painter, *style(), contentsRect(), int(alignment()), arrow);
-    }
-};
-
-// For changes in a paint of \a painted: a child of the row of which no more is shown is painted
-// right afterwards anyway.
-template <typename Change>
-void changeChild(QWidget *child, const QRegion &painted, Change change)
-{
-    const QRect shown = child->geometry() & shownPart(*child->parentWidget());
-    const bool is_painted = painted.rectCount() == 1 && painted.boundingRect().contains(shown);
-    if (shown.isEmpty() || is_painted)
-        quietly(child, change);
-    else
-        change();
-}
-
-} // namespace
 
 const QSizeF VexoFunctionButton::ICON_SIZE(0, 8);
 
@@ -105,15 +33,18 @@ VexoFunctionButton::VexoFunctionButton(QWidget *parent, const VexoFunctionButton
     , m_button_type(type)
 {
     qRegisterMetaType<VexoFunctionButtonType>("VexoFunctionButtonType");
-    makeRowsAccessible();
+    static const CoverRule cover_rule(staticMetaObject, [](const QWidget &row) {
+        return static_cast<const VexoFunctionButton &>(row).coversAll();
+    });
+    installAccessible<VexoFunctionButton, RowAccessible>();
     setAttribute(Qt::WA_StyledBackground);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    setFixedHeight(widgetPx(pxY(*m_scaling, height_mm)));
+    fixHeight(this, *m_scaling, 9.8);
     m_layout->setContentsMargins(0, 0, 0, 0);
     setLayout(m_layout);
     m_layout->addLabel(m_label);
     connectTone(this, &QAbstractButton::pressed, m_tone_delegator.data());
-    skipWhatIsCovered();
+    setBackgroundColor(m_background_color);
     setupLabel();
     setupRightWidget();
 }
@@ -133,8 +64,7 @@ void VexoFunctionButton::setButtonType(VexoFunctionButtonType type)
 
 QString VexoFunctionButton::text() const
 {
-    const RowLabel *const label = m_label;
-    return label ? label->text() : QString();
+    return m_label ? m_label->text() : QString();
 }
 
 void VexoFunctionButton::setText(const QString &text)
@@ -148,27 +78,27 @@ void VexoFunctionButton::setText(const QString &text)
 
 void VexoFunctionButton::setTextColor(const QColor &color)
 {
-    change(&m_text_color, color);
+    setColor(&m_text_color, color);
 }
 
 void VexoFunctionButton::setTextClickedColor(const QColor &color)
 {
-    change(&m_text_clicked_color, color);
+    setColor(&m_text_clicked_color, color);
 }
 
 void VexoFunctionButton::setTextInactiveColor(const QColor &color)
 {
-    change(&m_text_inactive_color, color);
+    setColor(&m_text_inactive_color, color);
 }
 
 void VexoFunctionButton::setBackgroundColor(const QColor &color)
 {
-    change(&m_background_color, color);
+    setColor(&m_background_color, color);
 }
 
 void VexoFunctionButton::setBackgroundClickedColor(const QColor &color)
 {
-    change(&m_background_clicked_color, color);
+    setColor(&m_background_clicked_color, color);
 }
 
 void VexoFunctionButton::setMmIndent(double mm)
@@ -188,26 +118,15 @@ void VexoFunctionButton::setTextFontsizeInPt(double pt, int weight)
 
 void VexoFunctionButton::setFontWeight(int weight)
 {
-    RowLabel *const label = m_label;
-    if (!label)
-        return;
-    QFont font = label->font();
-    font.setWeight(weight);
-    label->setFont(font);
+    if (RowLabel *label = m_label)
+        label->setFontWeight(weight);
 }
 
 void VexoFunctionButton::setMmRightSpacer(float mm)
 {
-    if (!(mm >= 0))
+    if (!isMeasure(mm))
         return;
-    if (m_right_spacer) {
-        m_layout->removeItem(m_right_spacer);
-        delete m_right_spacer;
-    }
-    const int px = widgetPx(pxX(*m_scaling, double(mm)));
-    m_right_spacer = new QSpacerItem(px, px, QSizePolicy::Fixed, QSizePolicy::Fixed);
-    m_right_spacer->setAlignment(Qt::AlignRight);
-    m_layout->addItem(m_right_spacer);
+    m_right_spacer = m_layout->replaceGap(m_right_spacer, widgetPx(pxX(*m_scaling, double(mm))));
 }
 
 QLabel *VexoFunctionButton::getLabelInstance() const
@@ -217,9 +136,8 @@ QLabel *VexoFunctionButton::getLabelInstance() const
 
 QAbstractButton *VexoFunctionButton::getButtonInstance() const
 {
-    if (auto *button = qobject_cast<QAbstractButton *>(m_right_widget))
-        return button;
-    return const_cast<VexoFunctionButton *>(this);
+    auto *button = qobject_cast<QAbstractButton *>(m_right_widget);
+    return button ? button : const_cast<VexoFunctionButton *>(this);
 }
 
 int VexoFunctionButton::getMouseMoveDelta() const
@@ -235,10 +153,7 @@ void VexoFunctionButton::setMouseMoveDelta(int px)
 
 QWidget *VexoFunctionButton::addVisibleBuddy(QWidget *buddy)
 {
-    m_visible_buddies->add(buddy);
-    if (buddy)
-        buddy->setVisible(false);
-    return buddy;
+    return m_visible_buddies->addHidden(buddy);
 }
 
 void VexoFunctionButton::clearVisibleBuddies()
@@ -278,17 +193,17 @@ void VexoFunctionButton::mouseMoveEvent(QMouseEvent *event)
 void VexoFunctionButton::paintEvent(QPaintEvent *event)
 {
     applyLook(event->region());
-    const QColor color = ground();
+    const QColor ground = isDark() ? m_background_clicked_color : m_background_color;
     RowLabel *const label = m_label;
     if (label && event->rect().intersects(label->geometry()))
-        label->prepare(color);
+        label->prepare(ground);
     QPainter painter(this);
-    if (color.alpha() < 255) { // else nothing of it would be seen
+    if (ground.alpha() < 255) { // else nothing of it would be seen
         QStyleOption option;
         option.initFrom(this);
         style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
     }
-    painter.fillRect(event->rect(), color);
+    painter.fillRect(event->rect(), ground);
 }
 
 void VexoFunctionButton::checkStateSet()
@@ -308,7 +223,7 @@ void VexoFunctionButton::nextCheckState()
     if (self)
         checkStateSet(); // the toolkit leaves it out on this way
     if (self)
-        toggleRightButton();
+        RightWidget::toggle(m_right_widget);
 }
 
 // The toolkit takes a chosen row, which is down, for one that is held, and would report that it has
@@ -333,15 +248,6 @@ void VexoFunctionButton::tickAgreementClicked()
     getButtonInstance()->setChecked(true);
 }
 
-// Of the right-hand widget, which assistive technology takes for a part of the row.
-void VexoFunctionButton::tellChecked()
-{
-    QAccessible::State changed;
-    changed.checked = true;
-    QAccessibleStateChangeEvent event(this, changed);
-    QAccessible::updateAccessibility(&event);
-}
-
 void VexoFunctionButton::setupLabel()
 {
     m_label->setObjectName(QStringLiteral("vexoFunctionButtonLabel"));
@@ -354,109 +260,58 @@ void VexoFunctionButton::setupLabel()
 void VexoFunctionButton::setupRightWidget()
 {
     const bool is_choice = m_button_type == FullsizeRadiobuttonType;
-    m_right_widget = createRightWidget();
+    m_right_widget = RightWidget::make(m_button_type, this);
     setCheckable(is_choice); // false unchecks the row, and tells nobody
     setAutoExclusive(is_choice);
     m_last_checked = isChecked();
     setDown(m_last_checked);
-    if (auto *button = qobject_cast<QAbstractButton *>(m_right_widget))
-        connect(button, &QAbstractButton::toggled, this, &VexoFunctionButton::tellChecked);
-    m_right_widget->setFocusPolicy(Qt::NoFocus); // the row itself takes the keys
-    m_right_widget->setObjectName(QStringLiteral("vexoFunctionButtonWidgetRight"));
+    setupArrow();
+    const auto *button = qobject_cast<QAbstractButton *>(m_right_widget);
+    if (button)
+        connect(
+            button, &QAbstractButton::toggled, this, [this] { RowAccessible::tellChecked(this); });
+    if (button && m_button_type == TickAgreementType)
+        connect(button, &QAbstractButton::clicked, this, &VexoFunctionButton::tickAgreementClicked);
     m_layout->addWidget(m_right_widget, 0, Qt::AlignRight);
-    setMmRightSpacer(float(rightSpacerMm(m_button_type)));
+    setMmRightSpacer(float(RightWidget::gapMm(m_button_type)));
 }
 
-QWidget *VexoFunctionButton::createRightWidget()
+void VexoFunctionButton::setupArrow()
 {
-    switch (m_button_type) {
-    case CheckboxType:
-        return new VexoCheckBox(this);
-    case RadiobuttonType:
-        return new VexoRadioButton(this);
-    case TickAgreementType:
-        return createTickBox();
-    default:
-        return createArrow();
-    }
-}
-
-QWidget *VexoFunctionButton::createArrow()
-{
-    m_arrow_normal = CachedVectorIcon(arrowFile("C3"), ICON_SIZE).toPixmap();
+    const auto *arrow = qobject_cast<QLabel *>(m_right_widget);
+    m_arrow_normal = arrow ? arrow->pixmap(Qt::ReturnByValue) : QPixmap();
     m_arrow_pressed = QPixmap();
     m_arrow_inactive = QPixmap();
     m_last_down = false;
     m_inactive_shown = false;
-    auto *label = showPlain(new ArrowLabel(this));
-    label->setPixmap(m_arrow_normal);
-    return label;
-}
-
-QWidget *VexoFunctionButton::createTickBox()
-{
-    auto *box = new VexoIconButton(this);
-    box->setCheckable(true);
-    box->addIcon(QLatin1String(ActiveButton::DEFAULT_STATE_NAME),
-        QStringLiteral(":widgetimages/Checkbox_Blank.svg"));
-    box->addIcon(QLatin1String(ActiveButton::CLICKED_STATE_NAME),
-        QStringLiteral(":widgetimages/RoundButton_S_Tick_Active.svg"));
-    box->setMmIconSize(QSizeF(0, tick_box_mm));
-    connect(box, &QAbstractButton::clicked, this, &VexoFunctionButton::tickAgreementClicked);
-    return box;
-}
-
-bool VexoFunctionButton::hasArrow() const
-{
-    return m_button_type == ActionType || m_button_type == FullsizeRadiobuttonType;
 }
 
 // The toolkit lets a disabled button come up; a chosen row stays dark nevertheless.
 bool VexoFunctionButton::isDark() const
 {
-    return hasArrow() && (isDown() || isChecked());
-}
-
-QColor VexoFunctionButton::ground() const
-{
-    return isDark() ? m_background_clicked_color : m_background_color;
+    return RightWidget::isArrow(m_button_type) && (isDown() || isChecked());
 }
 
 void VexoFunctionButton::tap()
 {
     const QPointer<VexoFunctionButton> self(this);
-    switch (m_button_type) {
-    case TickAgreementType:
+    const bool is_lost = !m_right_widget && !RightWidget::isArrow(m_button_type);
+    if (m_button_type == TickAgreementType || is_lost)
         return;
-    case FullsizeRadiobuttonType:
+    if (m_button_type == FullsizeRadiobuttonType) {
         setDown(true);
         setChecked(true);
-        break;
-    case ActionType:
-        break;
-    default:
-        if (!m_right_widget)
-            return;
-        toggleRightButton();
+    } else {
+        RightWidget::toggle(m_right_widget);
     }
     if (self)
         Q_EMIT clicked(false);
 }
 
-void VexoFunctionButton::toggleRightButton()
-{
-    if (auto *box = qobject_cast<VexoCheckBox *>(m_right_widget))
-        box->toggleButton();
-    else if (auto *radio = qobject_cast<VexoRadioButton *>(m_right_widget))
-        radio->toggleButton();
-    else if (auto *tick_box = qobject_cast<VexoIconButton *>(m_right_widget))
-        Q_EMIT tick_box->clicked(true); // which ticks it
-}
-
-void VexoFunctionButton::change(QColor *color, const QColor &to)
+void VexoFunctionButton::setColor(QColor *color, const QColor &to)
 {
     *color = to;
-    skipWhatIsCovered();
+    setAttribute(Qt::WA_NoSystemBackground, coversAll()); // what a stylesheet says of it is covered
     update();
 }
 
@@ -466,60 +321,36 @@ bool VexoFunctionButton::coversAll() const
     return m_background_color.alpha() == 255 && m_background_clicked_color.alpha() == 255;
 }
 
-// The ground that a stylesheet gives the row need not be painted then.
-void VexoFunctionButton::skipWhatIsCovered()
-{
-    setAttribute(Qt::WA_NoSystemBackground, coversAll());
-}
-
+// On a row with an arrow a text that is disabled already keeps its colour.
 void VexoFunctionButton::applyLook(const QRegion &painted)
 {
-    if (hasArrow())
-        applyArrowLook(painted);
-    else
-        applyTextColor(isEnabled() ? m_text_color : m_text_inactive_color, painted);
+    const bool has_arrow = RightWidget::isArrow(m_button_type);
+    const QColor enabled_ink = isDark() ? m_text_clicked_color : m_text_color;
+    RowLabel *const label = m_label;
+    if (label && (isEnabled() || !has_arrow || !m_inactive_shown))
+        label->setInk(isEnabled() ? enabled_ink : m_text_inactive_color, painted);
+    if (has_arrow)
+        applyArrow(painted);
 }
 
-void VexoFunctionButton::applyArrowLook(const QRegion &painted)
+void VexoFunctionButton::applyArrow(const QRegion &painted)
 {
     const bool was_dark = m_last_down;
+    const bool was_inactive = m_inactive_shown;
     m_last_down = isDark();
-    if (!isEnabled()) {
-        if (m_inactive_shown)
-            return;
-        m_inactive_shown = true;
-        applyTextColor(m_text_inactive_color, painted);
-        showArrow(arrowAs(&m_arrow_inactive, "RGB220"), painted);
+    m_inactive_shown = !isEnabled();
+    const bool is_same
+        = was_inactive == m_inactive_shown && (m_inactive_shown || was_dark == m_last_down);
+    auto *arrow = is_same ? nullptr : dynamic_cast<ArrowLabel *>(m_right_widget.data());
+    if (!arrow)
         return;
-    }
-    applyTextColor(m_last_down ? m_text_clicked_color : m_text_color, painted);
-    if (m_last_down != was_dark || m_inactive_shown)
-        showArrow(m_last_down ? arrowAs(&m_arrow_pressed, "C0") : m_arrow_normal, painted);
-    m_inactive_shown = false;
-}
-
-// Of the size of the normal one. Most rows of a list are never pressed, and never disabled.
-const QPixmap &VexoFunctionButton::arrowAs(QPixmap *arrow, const char *color) const
-{
-    if (arrow->isNull()) {
-        ImageFile file(arrowFile(color), ImageFile::Kind::Vector);
-        *arrow = file.pixmap(m_arrow_normal.size());
-        arrow->setDevicePixelRatio(m_arrow_normal.devicePixelRatio());
-    }
-    return *arrow;
-}
-
-void VexoFunctionButton::applyTextColor(const QColor &color, const QRegion &painted)
-{
-    RowLabel *const label = m_label;
-    if (label && label->ink() != color)
-        changeChild(label, painted, [&] { label->setInk(color); });
-}
-
-void VexoFunctionButton::showArrow(const QPixmap &arrow, const QRegion &painted)
-{
-    if (auto *label = qobject_cast<QLabel *>(m_right_widget))
-        changeChild(label, painted, [&] { label->setPixmap(arrow); });
+    if (m_inactive_shown)
+        arrow->showArrow(
+            ArrowLabel::rendered(&m_arrow_inactive, "RGB220", m_arrow_normal), painted);
+    else if (m_last_down)
+        arrow->showArrow(ArrowLabel::rendered(&m_arrow_pressed, "C0", m_arrow_normal), painted);
+    else
+        arrow->showArrow(m_arrow_normal, painted);
 }
 
 } // namespace vexo::hox::qt::ui

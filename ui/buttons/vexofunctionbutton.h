@@ -16,7 +16,6 @@ class QSpacerItem;
 
 namespace vexo::hox::qt::ui {
 
-class OpaqueRows;
 class RowLabel;
 class RowLayout;
 class ScalingInfo;
@@ -149,27 +148,15 @@ private Q_SLOTS:
     void tickAgreementClicked();
 
 private:
-    friend class OpaqueRows; // asks coversAll()
-
-    void tellChecked();
     void setupLabel();
     void setupRightWidget();
-    QWidget *createRightWidget();
-    QWidget *createArrow();
-    QWidget *createTickBox();
-    bool hasArrow() const;
+    void setupArrow();
     bool isDark() const;
-    QColor ground() const;
     void tap();
-    void toggleRightButton();
-    void change(QColor *color, const QColor &to);
+    void setColor(QColor *color, const QColor &to);
     bool coversAll() const;
-    void skipWhatIsCovered();
     void applyLook(const QRegion &painted);
-    void applyArrowLook(const QRegion &painted);
-    const QPixmap &arrowAs(QPixmap *arrow, const char *color) const;
-    void applyTextColor(const QColor &color, const QRegion &painted);
-    void showArrow(const QPixmap &arrow, const QRegion &painted);
+    void applyArrow(const QRegion &painted);
 
     const ScalingInfo *const m_scaling;
     const QPointer<VexoFeedbackDelegator> m_tone_delegator;

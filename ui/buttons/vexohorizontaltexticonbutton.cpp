@@ -2,6 +2,7 @@
 #include "ui/buttons/vexohorizontaltexticonbutton.h"
 
 #include "ui/foundation/accessible_p.h"
+#include "ui/foundation/coverrule_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/painting/iconpixmap_p.h"
 #include "ui/painting/textblock_p.h"
@@ -19,6 +20,9 @@ VexoHorizontalTextIconButton::VexoHorizontalTextIconButton(QWidget *parent)
     , m_left_text(std::make_unique<TextBlock>(QTextOption::NoWrap))
     , m_right_text(std::make_unique<TextBlock>(QTextOption::NoWrap))
 {
+    static const CoverRule cover_rule(staticMetaObject, [](const QWidget &row) {
+        return static_cast<const VexoHorizontalTextIconButton &>(row).coversAll();
+    });
     setupUi();
 }
 
@@ -69,32 +73,32 @@ void VexoHorizontalTextIconButton::setInactiveImage(const QPixmap &image)
 
 void VexoHorizontalTextIconButton::setDefaultTextColor(const QColor &color)
 {
-    change(&m_default_text_color, color);
+    setColor(&m_default_text_color, color);
 }
 
 void VexoHorizontalTextIconButton::setClickedTextColor(const QColor &color)
 {
-    change(&m_clicked_text_color, color);
+    setColor(&m_clicked_text_color, color);
 }
 
 void VexoHorizontalTextIconButton::setInactiveTextColor(const QColor &color)
 {
-    change(&m_inactive_text_color, color);
+    setColor(&m_inactive_text_color, color);
 }
 
 void VexoHorizontalTextIconButton::setDefaultBackgroundColor(const QColor &color)
 {
-    change(&m_default_background_color, color);
+    setColor(&m_default_background_color, color);
 }
 
 void VexoHorizontalTextIconButton::setClickedBackgroundColor(const QColor &color)
 {
-    change(&m_clicked_background_color, color);
+    setColor(&m_clicked_background_color, color);
 }
 
 void VexoHorizontalTextIconButton::setInactiveBackgroundColor(const QColor &color)
 {
-    change(&m_inactive_background_color, color);
+    setColor(&m_inactive_background_color, color);
 }
 
 void VexoHorizontalTextIconButton::setPtFontSize(int pt)
@@ -115,7 +119,7 @@ void VexoHorizontalTextIconButton::setMmIndent(double mm)
 void VexoHorizontalTextIconButton::setMmHeight(double mm)
 {
     m_mm_height = mm;
-    setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+    fixHeight(this, *m_scaling, mm);
 }
 
 void VexoHorizontalTextIconButton::setLeftSideTextPercentWidth(double percent)
@@ -173,7 +177,7 @@ void VexoHorizontalTextIconButton::setImage(QPixmap *image, const QPixmap &to)
     update();
 }
 
-void VexoHorizontalTextIconButton::change(QColor *color, const QColor &to)
+void VexoHorizontalTextIconButton::setColor(QColor *color, const QColor &to)
 {
     *color = to;
     update();

@@ -12,7 +12,6 @@
 
 namespace vexo::hox::qt::ui {
 
-class OpaqueRows;
 class ScalingInfo;
 class TextBlock;
 
@@ -98,8 +97,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    friend class OpaqueRows; // asks coversAll()
-
     struct Look
     {
         QColor ink;
@@ -108,7 +105,7 @@ private:
     };
 
     void setImage(QPixmap *image, const QPixmap &to);
-    void change(QColor *color, const QColor &to);
+    void setColor(QColor *color, const QColor &to);
     Look lookOfNow() const;
     bool coversAll() const;
 

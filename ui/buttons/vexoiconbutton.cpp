@@ -10,8 +10,6 @@
 #include <QPointer>
 #include <QStyle>
 
-#include <utility>
-
 namespace vexo::hox::qt::ui {
 
 namespace {
@@ -25,6 +23,7 @@ const QString INACTIVE = QStringLiteral("INACTIVE");
 
 VexoIconButton::VexoIconButton(QWidget *parent)
     : ActiveVectorButton(parent)
+    , m_icon_rendering(std::make_unique<IconRendering>())
     , m_styled_background(std::make_unique<StyledBackground>())
 {
 }
@@ -87,7 +86,10 @@ void VexoIconButton::paintEvent(QPaintEvent *)
         shown = icon();
         initialize(DEFAULT);
     }
-    drawIcon(&painter, shown);
+    const QRect area
+        = QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, pxIconSize(), rect());
+    setIconArea(area.intersected(rect()));
+    m_icon_rendering->draw(&painter, *style(), rect(), shown, pxIconSize());
 }
 
 QIcon VexoIconButton::takePressedLook(QPainter *painter)
@@ -109,29 +111,6 @@ void VexoIconButton::drawOutline(QPainter *painter) const
     const QColor color = painter->pen().color();
     painter->fillRect(0, 0, width(), 1, color);
     painter->fillRect(0, 0, 1, height(), color);
-}
-
-void VexoIconButton::drawIcon(QPainter *painter, const QIcon &icon)
-{
-    const QRect area
-        = QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, pxIconSize(), rect());
-    setIconArea(area.intersected(rect()));
-    const QPixmap pixmap = pixmapOf(icon, pixelRatio(*painter));
-    if (!pixmap.isNull())
-        drawIconPixmap(painter, *style(), rect(), Qt::AlignCenter, pixmap);
-}
-
-// An icon composes a key and searches a cache each time it is asked; the two of a blink are kept.
-QPixmap VexoIconButton::pixmapOf(const QIcon &icon, double ratio)
-{
-    for (const Drawn &drawn : m_drawn) {
-        if (drawn.icon_key == icon.cacheKey() && drawn.px == pxIconSize()
-            && drawn.pixmap.devicePixelRatio() == ratio)
-            return drawn.pixmap;
-    }
-    std::swap(m_drawn[0], m_drawn[1]);
-    m_drawn[0] = { icon.cacheKey(), pxIconSize(), iconPixmap(icon, pxIconSize(), ratio) };
-    return m_drawn[0].pixmap;
 }
 
 } // namespace vexo::hox::qt::ui

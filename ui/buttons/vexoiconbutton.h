@@ -4,12 +4,11 @@
 #include "ui/buttons/activevectorbutton.h"
 #include "ui/buttons/easyaccessbutton.h"
 
-#include <QPixmap>
-
 #include <memory>
 
 namespace vexo::hox::qt::ui {
 
+class IconRendering;
 class StyledBackground;
 
 /// The panel's plain icon button: draws nothing but the icon of its state, centred. While pressed
@@ -46,21 +45,12 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    struct Drawn
-    {
-        qint64 icon_key;
-        QSize px;
-        QPixmap pixmap;
-    };
-
     QIcon takePressedLook(QPainter *painter);
     void drawOutline(QPainter *painter) const;
-    void drawIcon(QPainter *painter, const QIcon &icon);
-    QPixmap pixmapOf(const QIcon &icon, double ratio);
 
     bool m_is_initialized = false;
     bool m_can_background_color_change = true;
-    Drawn m_drawn[2] = {}; // the pixmaps drawn last
+    const std::unique_ptr<IconRendering> m_icon_rendering;
     const std::unique_ptr<StyledBackground> m_styled_background;
 };
 

@@ -4,14 +4,19 @@
 #include "ui/foundation/cachedvectoricon.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/painting/iconpixmap_p.h"
+#include "ui/painting/roundedframe_p.h"
 #include "ui/painting/textblock_p.h"
 
 #include <QGuiApplication>
-#include <QPainterPath>
-#include <QPixmapCache>
 #include <QStylePainter>
 
 namespace vexo::hox::qt::ui {
+
+struct VexoKeyboardButton::Renderings
+{
+    LookPair<std::pair<QColor, QSize>, QPixmap> caps; // by ground; forgotten for another look
+    TextBlock label;
+};
 
 const QString VexoKeyboardButton::SHIFT_LEFT_BUTTON_OBJECT_NAME = QStringLiteral("shiftLeftButton");
 const QString VexoKeyboardButton::SHIFT_RIGHT_BUTTON_OBJECT_NAME
@@ -22,7 +27,7 @@ const QString VexoKeyboardButton::SPACE_BUTTON_OBJECT_NAME = QStringLiteral("spa
 VexoKeyboardButton::VexoKeyboardButton(QWidget *parent)
     : ActiveButton(parent)
     , m_scaling(ScalingInfo::inst())
-    , m_label(std::make_unique<TextBlock>())
+    , m_renderings(std::make_unique<Renderings>())
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::MinimumExpanding);
     m_button_font.setWeight(QFont::Light);
@@ -35,53 +40,53 @@ VexoKeyboardButton::~VexoKeyboardButton() = default;
 
 void VexoKeyboardButton::setBackgroundColor(const QColor &color)
 {
-    change(&m_background_color, color);
+    recolor(&m_background_color, color);
 }
 
 void VexoKeyboardButton::setBackgroundSpecialKeyColor(const QColor &color)
 {
-    change(&m_background_special_key_color, color);
+    recolor(&m_background_special_key_color, color);
 }
 
 void VexoKeyboardButton::setBackgroundClickedColor(const QColor &color)
 {
-    change(&m_background_clicked_color, color);
+    recolor(&m_background_clicked_color, color);
 }
 
 void VexoKeyboardButton::setBackgroundInactiveColor(const QColor &color)
 {
-    change(&m_background_inactive_color, color);
+    recolor(&m_background_inactive_color, color);
 }
 
 void VexoKeyboardButton::setBorderColor(const QColor &color)
 {
-    change(&m_border_color, color);
+    recolor(&m_border_color, color);
 }
 
 void VexoKeyboardButton::setTextColor(const QColor &color)
 {
-    change(&m_text_color, color);
+    recolor(&m_text_color, color);
 }
 
 void VexoKeyboardButton::setTextClickedColor(const QColor &color)
 {
-    change(&m_text_clicked_color, color);
+    recolor(&m_text_clicked_color, color);
 }
 
 void VexoKeyboardButton::setBorderTopColor(const QColor &color)
 {
-    change(&m_border_top_color, color);
+    recolor(&m_border_top_color, color);
 }
 
 void VexoKeyboardButton::setBorderBottomExtraColor(const QColor &color)
 {
-    change(&m_border_bottom_extra_color, color);
+    recolor(&m_border_bottom_extra_color, color);
 }
 
 void VexoKeyboardButton::setStandardBorderDrawingDisabled(bool disabled)
 {
     m_standard_border_drawing_disabled = disabled;
-    m_cap = QPixmap();
+    m_renderings->caps.forget();
     update();
 }
 
@@ -90,7 +95,7 @@ void VexoKeyboardButton::setCornerRadius(double mm)
     m_corner_radius_mm = mm;
     m_corner_radius_x = float(finitePx(m_scaling->mm2px_X(float(mm))));
     m_corner_radius_y = float(finitePx(m_scaling->mm2px_Y(float(mm))));
-    m_cap = QPixmap();
+    m_renderings->caps.forget();
     update();
 }
 
@@ -104,7 +109,7 @@ void VexoKeyboardButton::setButtonTextFontSizeInPt(double pt)
 void VexoKeyboardButton::setHeightInMm(double mm)
 {
     m_height_mm = mm;
-    setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+    fixHeight(this, *m_scaling, mm);
 }
 
 void VexoKeyboardButton::setCommonIconSizeMM(const QSizeF &mm)
@@ -144,17 +149,14 @@ void VexoKeyboardButton::paintEvent(QPaintEvent *)
     QStylePainter painter(this);
     const QRect cap = capRect();
     const bool is_dark = isChecked() || isDown();
-    const double ratio = pixelRatio(painter);
-    if (ratio == 1 && isKeepable(size()))
-        painter.drawPixmap(0, 0, capPixmap(ground(is_dark)));
-    else
-        drawCapOnScreen(&painter, ground(is_dark));
+    const QColor ground = this->ground(is_dark);
+    drawCap(&painter, ground);
     const QIcon shown = is_dark && isEnabled() ? inverseIcon() : icon();
     if (!shown.isNull())
-        drawIconPixmap(
-            &painter, *style(), cap, Qt::AlignCenter, iconPixmap(shown, iconSize(), ratio));
+        drawIconPixmap(&painter, *style(), cap, Qt::AlignCenter,
+            iconPixmap(shown, iconSize(), pixelRatio(painter)));
     // The ground that is kept with the letters would hide an icon below them.
-    drawLabel(&painter, cap, is_dark, shown.isNull() ? m_cap_ground : QColor());
+    drawLabel(&painter, cap, is_dark, shown.isNull() ? ground : QColor());
 }
 
 QRect VexoKeyboardButton::capRect() const
@@ -162,10 +164,10 @@ QRect VexoKeyboardButton::capRect() const
     return rect().adjusted(0, 0, 0, m_standard_border_drawing_disabled ? -1 : 0);
 }
 
-void VexoKeyboardButton::change(QColor *color, const QColor &to)
+void VexoKeyboardButton::recolor(QColor *color, const QColor &to)
 {
     *color = to;
-    m_cap = QPixmap();
+    m_renderings->caps.forget();
     update();
 }
 
@@ -176,53 +178,34 @@ QColor VexoKeyboardButton::ground(bool is_dark)
     return is_dark ? m_background_clicked_color : getStandardBrush().color();
 }
 
-// Caps of the same size and look are drawn once for all keys of a keyboard.
-const QPixmap &VexoKeyboardButton::capPixmap(const QColor &ground)
-{
-    if (m_cap.size() == size() && m_cap_ground == ground)
-        return m_cap;
-    QString key = QStringLiteral("hoxqcap");
-    for (const QColor &color :
-        { ground, m_border_color, m_border_top_color, m_border_bottom_extra_color })
-        key += QString::number(color.rgba(), 36) + QLatin1Char(' ');
-    for (const float number : { float(width()), float(height()), m_corner_radius_x,
-             m_corner_radius_y, float(m_standard_border_drawing_disabled) })
-        key += QString::number(double(number), 'g', 9) + QLatin1Char(' ');
-    m_cap_ground = ground;
-    if (!QPixmapCache::find(key, &m_cap)) {
-        m_cap = renderCap(ground);
-        QPixmapCache::insert(key, m_cap);
-    }
-    return m_cap;
-}
-
-QPixmap VexoKeyboardButton::renderCap(const QColor &ground) const
-{
-    QPixmap pixmap(size());
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    drawCap(&painter, ground);
-    return pixmap;
-}
-
 // Its outline lies on the edge, where half a pixel of the screen would be cut.
-void VexoKeyboardButton::drawCapOnScreen(QPainter *painter, const QColor &ground) const
+void VexoKeyboardButton::drawCap(QPainter *painter, const QColor &ground)
 {
-    painter->save();
-    stretchToScreen(painter, rect());
-    drawCap(painter, ground);
-    painter->restore();
+    if (pixelRatio(*painter) != 1 || !isKeepable(size())) {
+        painter->save();
+        stretchToScreen(painter, rect());
+        drawWholeCap(painter, ground);
+        painter->restore();
+        return;
+    }
+    QPixmap &cap = m_renderings->caps.of({ ground, size() });
+    if (cap.isNull()) {
+        const QString name = RenderingCache::name("cap ", size(), ground, m_border_color,
+            m_border_top_color, m_border_bottom_extra_color, m_corner_radius_x, m_corner_radius_y,
+            m_standard_border_drawing_disabled);
+        const auto draw = [&](QPainter *to) { drawWholeCap(to, ground); };
+        cap = RenderingCache::shared(name, [&] { return rendered(size(), 1, draw); });
+    }
+    painter->drawPixmap(0, 0, cap);
 }
 
-void VexoKeyboardButton::drawCap(QPainter *painter, const QColor &ground) const
+void VexoKeyboardButton::drawWholeCap(QPainter *painter, const QColor &ground) const
 {
     const QRect cap = capRect();
     painter->setRenderHint(QPainter::Antialiasing);
-    QPainterPath path;
-    path.addRoundedRect(
-        QRectF(cap), double(m_corner_radius_x), double(m_corner_radius_y), Qt::AbsoluteSize);
-    painter->fillPath(path, ground);
-    painter->strokePath(path, QPen(m_border_color, 1));
+    painter->setPen(QPen(m_border_color, 1));
+    painter->setBrush(ground);
+    drawRoundedRect(painter, cap, QPointF(double(m_corner_radius_x), double(m_corner_radius_y)));
     if (m_standard_border_drawing_disabled)
         drawEdges(painter, cap);
 }
@@ -251,8 +234,8 @@ void VexoKeyboardButton::drawLabel(
     const QRectF inside = QRectF(cap).adjusted(corner_px, edge_px, -corner_px, -edge_px);
     painter->setPen(is_dark ? m_text_clicked_color : m_text_color);
     painter->setFont(m_button_font);
-    m_label->setDirection(QGuiApplication::layoutDirection());
-    m_label->draw(painter, cap, text(), Qt::AlignCenter, { ground, inside });
+    m_renderings->label.setDirection(QGuiApplication::layoutDirection());
+    m_renderings->label.draw(painter, cap, text(), Qt::AlignCenter, { ground, inside });
 }
 
 } // namespace vexo::hox::qt::ui

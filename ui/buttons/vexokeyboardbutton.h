@@ -6,7 +6,6 @@
 
 #include <QBrush>
 #include <QFont>
-#include <QPixmap>
 #include <QSizeF>
 
 #include <memory>
@@ -16,7 +15,6 @@ class QPainter;
 namespace vexo::hox::qt::ui {
 
 class ScalingInfo;
-class TextBlock;
 
 /// One key of an on-screen keyboard: a rounded cap with a centred label or icon, a light top edge
 /// and a darker line under the cap. Keys with the object name "key" or "spaceButton" have the
@@ -121,13 +119,13 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    struct Renderings;
+
     QRect capRect() const;
-    void change(QColor *color, const QColor &to);
+    void recolor(QColor *color, const QColor &to);
     QColor ground(bool is_dark);
-    const QPixmap &capPixmap(const QColor &ground);
-    QPixmap renderCap(const QColor &ground) const;
-    void drawCapOnScreen(QPainter *painter, const QColor &ground) const;
-    void drawCap(QPainter *painter, const QColor &ground) const;
+    void drawCap(QPainter *painter, const QColor &ground);
+    void drawWholeCap(QPainter *painter, const QColor &ground) const;
     void drawEdges(QPainter *painter, const QRect &cap) const;
     void drawLabel(QPainter *painter, const QRect &cap, bool is_dark, const QColor &ground);
 
@@ -149,9 +147,7 @@ private:
     double m_button_text_font_size_pt = 13.0;
     double m_height_mm = 8.0;
     QSizeF m_common_icon_size_mm = QSizeF(0.0, 4.7);
-    QPixmap m_cap; // as drawn last; null after a change of its look
-    QColor m_cap_ground;
-    const std::unique_ptr<TextBlock> m_label;
+    const std::unique_ptr<Renderings> m_renderings;
 };
 
 } // namespace vexo::hox::qt::ui

@@ -3,7 +3,9 @@
 
 #include "ui/buttons/vexoiconbutton.h"
 #include "ui/foundation/panelfont_p.h"
+#include "ui/foundation/pixels_p.h"
 #include "ui/foundation/plainlabel_p.h"
+#include "ui/foundation/saturated_p.h"
 #include "ui/foundation/tightlayout_p.h"
 
 #include <QBoxLayout>
@@ -12,19 +14,7 @@
 #include <QLabel>
 #include <QPointer>
 
-#include <limits>
-
 namespace vexo::hox::qt::ui {
-
-namespace {
-
-int saturated(qint64 value)
-{
-    return int(qBound(
-        qint64(std::numeric_limits<int>::min()), value, qint64(std::numeric_limits<int>::max())));
-}
-
-} // namespace
 
 VexoNumericButton::VexoNumericButton(QWidget *parent)
     : QWidget(parent)
@@ -150,7 +140,7 @@ VexoIconButton *VexoNumericButton::createRoundButton(const QString &image)
     button->addIcon(
         QLatin1String(ActiveButton::INACTIVE_STATE_NAME), path.arg(QLatin1String("Inactive")));
     button->setMmIconSize(QSizeF(0.0, 6.0));
-    button->setFixedWidth(widgetPx(pxX(*ScalingInfo::inst(), 7.0)));
+    fixWidth(button, *ScalingInfo::inst(), 7.0);
     return button;
 }
 

@@ -9,7 +9,6 @@
 
 #include <QMap>
 #include <QPen>
-#include <QPixmap>
 #include <QPushButton>
 #include <QSizeF>
 
@@ -19,10 +18,14 @@ class QFontMetrics;
 
 namespace vexo::hox::qt::ui {
 
+class ButtonTexts;
+class IconRendering;
+class RoundedFrame;
 class ScalingInfo;
 class StyledBackground;
-class TextBlock;
 class VisibleBuddies;
+struct TextContent;
+struct TextPlace;
 
 /// The panel's push button: a label in a pill-shaped outline, or on a plain filled rectangle, with
 /// an optional image near its left or right end and an optional second text at its right end. A
@@ -135,9 +138,9 @@ public:
 
     void setPtFontSize(double pt);
     float textMmMarginX() const { return m_text_mm_margin_x; }
-    void setTextMmMarginX(float mm);
+    void setTextMmMarginX(float mm) { m_text_mm_margin_x = mm; }
     Qt::Alignment textAlignment() const { return m_text_alignment; }
-    void setTextAlignment(Qt::Alignment alignment);
+    void setTextAlignment(Qt::Alignment alignment) { m_text_alignment = alignment; }
     void setRightSideText(const QString &text);
     /// Whether the label does not fit on one line beside the second text.
     bool hasTwoLines() const;
@@ -177,39 +180,10 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    // What the label was measured and split for, and the outcome.
-    struct Label
-    {
-        QString text;
-        QString right_text;
-        QFont font;
-        int text_px = -1;
-        int right_px = 0;
-        int right_advance_px = 0;
-        double line_px = -1; // width for which it is split
-        QString first_line;
-        QString second_line;
-        bool second_fits = true;
-    };
-
-    struct Ground;
-
-    void change(QColor *color, const QColor &to);
+    void setAndRepaint(QColor *field, const QColor &color);
     void storeImage(const QString &path, const QSizeF &mm, ButtonState state);
-    ButtonState stateOfNow() const;
-    const QIcon *shownIcon();
-    void drawImage(QPainter *painter, const QIcon &icon);
-    QColor inkOfNow() const;
-    const Label &measuredLabel() const;
-    void splitLabel(const QRectF &upper);
-    QColor fillOfNow() const;
-    void drawGround(QPainter *painter, const QRectF &inside, const QRect &dirty);
-    void drawOutline(QPainter *painter, const QSizeF &size) const;
-    QRectF evenGround(const QRectF &inside) const;
-    void drawTexts(QPainter *painter, const QRectF &inside);
-    void drawLabel(QPainter *painter, const QRectF &area, const QRectF &ground, bool has_two_lines);
-    void drawText(QPainter *painter, std::unique_ptr<TextBlock> *block, const QRectF &area,
-        const QString &text, const QRectF &ground);
+    TextPlace drawGround(QPainter *painter, const QRect &dirty);
+    TextContent textsOfNow() const;
 
     const ScalingInfo *const m_scaling;
     QSizeF m_mm_icon_size;
@@ -238,16 +212,9 @@ private:
     Qt::Alignment m_text_alignment = Qt::AlignCenter;
 
     const std::unique_ptr<StyledBackground> m_styled_background;
-    // Made when they are drawn.
-    std::unique_ptr<TextBlock> m_wrapped_text; // label, or a second line that is too long
-    std::unique_ptr<TextBlock> m_first_line;
-    std::unique_ptr<TextBlock> m_second_line;
-    std::unique_ptr<TextBlock> m_right_text;
-    std::unique_ptr<Ground> m_grounds[2]; // for the looks of now and before
-    mutable Label m_label;
-    QPixmap m_image; // drawn last
-    QSize m_image_px; // place for which it was made
-    qint64 m_image_key = 0;
+    const std::unique_ptr<RoundedFrame> m_pill;
+    const std::unique_ptr<ButtonTexts> m_texts;
+    std::unique_ptr<IconRendering> m_image; // made with each image
 };
 
 } // namespace vexo::hox::qt::ui

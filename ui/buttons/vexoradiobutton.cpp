@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/buttons/vexoradiobutton.h"
 
+#include "ui/buttons/row/choicepress_p.h"
 #include "ui/buttons/tone_p.h"
-#include "ui/touch/press_p.h"
-
-#include <QMouseEvent>
 
 namespace vexo::hox::qt::ui {
 
@@ -25,22 +23,17 @@ void VexoRadioButton::setupConnections()
 
 void VexoRadioButton::toggleButton()
 {
-    const QPointer<VexoRadioButton> self(this);
-    toggle();
-    if (self)
-        Q_EMIT clicked(isChecked());
+    ChoicePress::toggle(this);
 }
 
 void VexoRadioButton::mousePressEvent(QMouseEvent *event)
 {
-    if (Press::begin(this, event, event->globalPos()))
-        Q_EMIT pressed();
+    ChoicePress::begin(this, event);
 }
 
 void VexoRadioButton::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (Press::end(this, *event) == Press::Released)
-        toggleButton();
+    ChoicePress::end(this, *event);
 }
 
 void VexoRadioButton::mouseMoveEvent(QMouseEvent *event)

@@ -21,11 +21,21 @@ inline void followDescription(QWidget *widget, const QString &before, const QStr
         widget->setAccessibleDescription(now);
 }
 
-/// From now on assistive technology asks \a create first what it sees of a widget, until the
-/// library is unloaded.
-template <QAccessible::InterfaceFactory create>
+/// Makes an \a Interface for a \a Widget; a class derived from it may have another.
+template <typename Widget, typename Interface>
+QAccessibleInterface *createAccessible(const QString &class_name, QObject *object)
+{
+    const bool may_be = class_name == QLatin1String(Widget::staticMetaObject.className());
+    auto *widget = may_be ? dynamic_cast<Widget *>(object) : nullptr;
+    return widget ? new Interface(widget) : nullptr;
+}
+
+/// From now on, and until the library is unloaded, assistive technology sees each \a Widget by an
+/// \a Interface.
+template <typename Widget, typename Interface>
 void installAccessible()
 {
+    static constexpr QAccessible::InterfaceFactory create = createAccessible<Widget, Interface>;
     struct Remover
     {
         Remover() = default;

@@ -3,7 +3,7 @@
 
 #include "ui/files/imagefile_p.h"
 #include "ui/foundation/pixels_p.h"
-#include "ui/painting/iconpixmap_p.h"
+#include "ui/foundation/sharpicon_p.h"
 
 #include <stdexcept>
 
@@ -11,10 +11,10 @@ namespace vexo::hox::qt::ui {
 
 namespace {
 
-// NaN fails the comparison and is refused like a negative size. So is each without a screen.
+// Each size is refused without a screen.
 void refuseUnusable(double first, double second, const char *text)
 {
-    if (!(first >= 0 && second >= 0))
+    if (!isMeasure(first) || !isMeasure(second))
         throw std::out_of_range(text);
     ScalingInfo::inst();
 }
@@ -232,7 +232,7 @@ void CachedVectorIcon::fillMissingMm(Dimension filled)
 
 QSize CachedVectorIcon::pxSize() const
 {
-    return QSize(truncated(m_px_width), truncated(m_px_height));
+    return truncated(QSizeF(m_px_width, m_px_height));
 }
 
 void CachedVectorIcon::log(const char *line) const

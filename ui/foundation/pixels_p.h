@@ -13,6 +13,17 @@ namespace vexo::hox::qt::ui {
 /// clamped where they are converted, so that sums of some do not overflow.
 constexpr int MAX_PX = 32767;
 
+/// Whether it can be one, in mm, pt or px: neither negative nor NaN, which fails each comparison.
+inline bool isMeasure(double value)
+{
+    return value >= 0;
+}
+
+inline bool isMeasure(const QSizeF &size)
+{
+    return isMeasure(size.width()) && isMeasure(size.height());
+}
+
 /// Pixels that are not cut, as a painter takes them. NaN gives 0.
 inline double finitePx(double px)
 {
@@ -28,6 +39,11 @@ inline double finitePx(float px)
 inline int truncated(double px)
 {
     return int(finitePx(px));
+}
+
+inline QSize truncated(const QSizeF &px)
+{
+    return QSize(truncated(px.width()), truncated(px.height()));
 }
 
 /// Whole pixels of a width in mm.
@@ -66,6 +82,18 @@ inline QSizeF finitePxSize(const ScalingInfo &scaling, const QSizeF &mm)
 inline int widgetPx(int px)
 {
     return qBound(0, px, MAX_PX);
+}
+
+/// Fixes the width of \a widget, mm.
+inline void fixWidth(QWidget *widget, const ScalingInfo &scaling, double mm)
+{
+    widget->setFixedWidth(widgetPx(pxX(scaling, mm)));
+}
+
+/// Fixes the height of \a widget, mm.
+inline void fixHeight(QWidget *widget, const ScalingInfo &scaling, double mm)
+{
+    widget->setFixedHeight(widgetPx(pxY(scaling, mm)));
 }
 
 /// Whether a widget keeps a picture of itself of \a px; beyond what a panel has it draws anew.

@@ -17,6 +17,14 @@ void VisibleBuddies::add(QWidget *buddy)
         m_buddies.append(buddy);
 }
 
+QWidget *VisibleBuddies::addHidden(QWidget *buddy)
+{
+    add(buddy);
+    if (buddy)
+        buddy->setVisible(false);
+    return buddy;
+}
+
 void VisibleBuddies::clear()
 {
     m_buddies.clear();

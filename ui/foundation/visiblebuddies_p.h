@@ -19,6 +19,8 @@ public:
 
     /// Appends \a buddy; null is ignored, a repeated one is shown and hidden repeatedly.
     void add(QWidget *buddy);
+    /// The same for an owner that hides its buddies at once. Returns \a buddy.
+    QWidget *addHidden(QWidget *buddy);
     void clear();
     /// Calls \a show_owner, which shows or hides the \a owner of this list, and then shows or hides
     /// the buddies in the order they were added. The list may change meanwhile, and owner and

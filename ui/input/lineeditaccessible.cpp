@@ -1,67 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/input/lineeditaccessible_p.h"
 
-#include "ui/foundation/accessible_p.h"
-#include "ui/input/vexolineedit.h"
-
-#include <QAccessible>
-#include <QAccessibleWidget>
 #include <QValidator>
 
 namespace vexo::hox::qt::ui {
-
-namespace {
-
-class LineEditAccessible : public QAccessibleWidget,
-                           public QAccessibleTextInterface,
-                           public QAccessibleEditableTextInterface
-{
-public:
-    explicit LineEditAccessible(VexoLineEdit *field)
-        : QAccessibleWidget(field, QAccessible::EditableText)
-    {
-    }
-
-    void *interface_cast(QAccessible::InterfaceType type) override;
-    QString text(QAccessible::Text kind) const override;
-    void setText(QAccessible::Text kind, const QString &text) override;
-    QAccessible::State state() const override;
-
-    void selection(int index, int *start, int *end) const override;
-    int selectionCount() const override { return field()->hasSelectedText() ? 1 : 0; }
-    void addSelection(int start, int end) override { setSelection(0, start, end); }
-    void removeSelection(int) override { field()->deselect(); }
-    void setSelection(int, int start, int end) override
-    {
-        field()->setSelection(start, end - start);
-    }
-    int cursorPosition() const override { return field()->cursorPosition(); }
-    void setCursorPosition(int position) override { field()->setCursorPosition(position); }
-    QString text(int start, int end) const override;
-    int characterCount() const override { return field()->text().size(); }
-    QRect characterRect(int) const override { return rect(); }
-    QString textBeforeOffset(
-        int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const override;
-    QString textAfterOffset(
-        int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const override;
-    QString textAtOffset(
-        int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const override;
-    int offsetAtPoint(const QPoint &point) const override;
-    void scrollToSubstring(int start, int) override { field()->setCursorPosition(start); }
-    QString attributes(int offset, int *start, int *end) const override;
-
-    void deleteText(int start, int end) override { replaceText(start, end, QString()); }
-    void insertText(int offset, const QString &text) override { replaceText(offset, offset, text); }
-    void replaceText(int start, int end, const QString &text) override;
-
-private:
-    VexoLineEdit *field() const { return static_cast<VexoLineEdit *>(widget()); }
-    bool isSecret() const
-    {
-        return field()->isDrawedPasswordSecured() || field()->echoMode() != QLineEdit::Normal;
-    }
-    int resolved(int offset) const;
-};
 
 void *LineEditAccessible::interface_cast(QAccessible::InterfaceType type)
 {
@@ -88,7 +30,7 @@ QString LineEditAccessible::text(QAccessible::Text kind) const
 void LineEditAccessible::setText(QAccessible::Text kind, const QString &text)
 {
     if (kind == QAccessible::Value)
-        replaceText(0, field()->text().size(), text);
+        replaceText(0, characterCount(), text);
     else
         QAccessibleWidget::setText(kind, text);
 }
@@ -103,36 +45,6 @@ QAccessible::State LineEditAccessible::state() const
     return state;
 }
 
-void LineEditAccessible::selection(int index, int *start, int *end) const
-{
-    const bool has_selection = index == 0 && field()->hasSelectedText();
-    *start = has_selection ? field()->selectionStart() : 0;
-    *end = has_selection ? field()->selectionEnd() : 0;
-}
-
-QString LineEditAccessible::text(int start, int end) const
-{
-    return isSecret() || start > end ? QString() : field()->text().mid(start, end - start);
-}
-
-QString LineEditAccessible::textBeforeOffset(
-    int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const
-{
-    return QAccessibleTextInterface::textBeforeOffset(resolved(offset), boundary, start, end);
-}
-
-QString LineEditAccessible::textAfterOffset(
-    int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const
-{
-    return QAccessibleTextInterface::textAfterOffset(resolved(offset), boundary, start, end);
-}
-
-QString LineEditAccessible::textAtOffset(
-    int offset, QAccessible::TextBoundaryType boundary, int *start, int *end) const
-{
-    return QAccessibleTextInterface::textAtOffset(resolved(offset), boundary, start, end);
-}
-
 // Two offsets are names: of the end of the text, and of the cursor.
 int LineEditAccessible::resolved(int offset) const
 {
@@ -143,18 +55,6 @@ int LineEditAccessible::resolved(int offset) const
     return offset == cursor_name ? cursorPosition() : offset;
 }
 
-int LineEditAccessible::offsetAtPoint(const QPoint &point) const
-{
-    return field()->cursorPositionAt(field()->mapFromGlobal(point));
-}
-
-QString LineEditAccessible::attributes(int offset, int *start, int *end) const
-{
-    *start = resolved(offset);
-    *end = *start;
-    return QString();
-}
-
 void LineEditAccessible::replaceText(int start, int end, const QString &text)
 {
     QString changed = field()->text();
@@ -163,20 +63,6 @@ void LineEditAccessible::replaceText(int start, int end, const QString &text)
     const QValidator *validator = field()->validator();
     if (!validator || validator->validate(changed, position) == QValidator::Acceptable)
         field()->setText(changed);
-}
-
-QAccessibleInterface *createLineEditAccessible(const QString &class_name, QObject *object)
-{
-    auto *field = qobject_cast<VexoLineEdit *>(object);
-    const bool is_field = class_name == QLatin1String(VexoLineEdit::staticMetaObject.className());
-    return field && is_field ? new LineEditAccessible(field) : nullptr;
-}
-
-} // namespace
-
-void makeLineEditsAccessible()
-{
-    installAccessible<createLineEditAccessible>();
 }
 
 } // namespace vexo::hox::qt::ui

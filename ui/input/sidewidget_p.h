@@ -2,34 +2,30 @@
 // SPDX-License-Identifier: MIT
 
 #include <QLineEdit>
-#include <QPointer>
-#include <QWidgetAction>
+
+class QLabel;
+class QWidgetAction;
 
 namespace vexo::hox::qt::ui {
 
-/// What a line edit shows at one of its ends through any number of actions. Each of them owns it,
-/// and the line edit would go on with it when one of them is deleted; so it leaves first.
-template <typename Base>
-class SideWidget : public Base
-{
-public:
-    explicit SideWidget(QLineEdit *field)
-        : m_field(field)
-    {
-    }
+class VexoFeedbackDelegator;
+class VexoIconButton;
 
-    ~SideWidget() override
-    {
-        const QList<QAction *> actions = m_field ? m_field->actions() : QList<QAction *>();
-        for (QAction *action : actions) {
-            const auto *shown = qobject_cast<QWidgetAction *>(action);
-            if (shown && shown->defaultWidget() == this)
-                m_field->removeAction(action);
-        }
-    }
+// What a line edit shows at its ends, through any number of actions. Each of them owns the widget;
+// one that goes takes it along, and the line edit does without. The toolkit gives it a place, but
+// one as large as its own small icons: it makes itself as high as the field, and wide enough.
 
-private:
-    const QPointer<QLineEdit> m_field;
-};
+/// A label for showIcon().
+QLabel *makeLeadingLabel(QLineEdit *field);
+/// Shows \a icon at \a px, the width of \a label; an icon that no screen could take is left out.
+void showIcon(QLabel *label, const QIcon &icon, const QSize &px);
+
+/// A button called "trailingButton" that rings \a tone, whatever is installed now.
+VexoIconButton *makeTrailingButton(
+    QLineEdit *field, VexoFeedbackDelegator *tone, const QString &accessible_name);
+
+/// Shows \a widget at an end of \a field through a further action, a child of the field.
+QWidgetAction *addSideWidget(
+    QLineEdit *field, QWidget *widget, QLineEdit::ActionPosition end, const QString &name);
 
 } // namespace vexo::hox::qt::ui

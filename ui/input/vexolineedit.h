@@ -13,7 +13,6 @@
 #include <QPointer>
 #include <QRectF>
 #include <QSizeF>
-#include <QTimer>
 
 #include <memory>
 
@@ -22,14 +21,13 @@ class QWidgetAction;
 
 namespace vexo::hox::qt::ui {
 
-class ComposedText;
-class FieldFrame;
+class CursorBlink;
+class FieldContent;
+class RoundedFrame;
 class ScalingInfo;
-class SecretDots;
-class ShakeMotion;
-class TextRun;
 class VexoFeedbackDelegator;
 class VexoIconButton;
+struct FieldLook;
 
 /// The panel's text field: one line in a rounded frame. It stores its text as any QLineEdit but
 /// draws itself: the text or a dot per character, a cursor of its own at the end of the text, and
@@ -125,21 +123,21 @@ public:
     QString placeholderText() const { return m_placeholder_text; }
     void setPlaceholderText(const QString &text);
     void setUnderscores(int count);
-    void setPlaceholderColor(const QColor &color);
+    void setPlaceholderColor(const QColor &color) { repaintWith(&m_placeholder_color, color); }
     QColor backgroundColor() const { return m_background_color; }
     void setBackgroundColor(const QColor &color);
     QColor borderColor() const { return m_border_color; }
     void setBorderColor(const QColor &color);
     QColor textColor() const { return m_text_color; }
-    void setTextColor(const QColor &color);
+    void setTextColor(const QColor &color) { repaintWith(&m_text_color, color); }
     QColor textInactiveColor() const { return m_text_inactive_color; }
-    void setTextInactiveColor(const QColor &color);
+    void setTextInactiveColor(const QColor &color) { repaintWith(&m_text_inactive_color, color); }
     QColor cursorColor() const { return m_cursor_pen.color(); }
     void setCursorColor(const QColor &color);
-    void setCursorMmIndent(double mm);
+    void setCursorMmIndent(double mm) { repaintWith(&m_cursor_mm_indent, mm); }
     double mmLeftOffset() const { return m_left_offset_mm; }
-    void setMmLeftOffset(double mm);
-    int cursorMsBlinkInterval() const { return m_cursor_timer->interval(); }
+    void setMmLeftOffset(double mm) { m_left_offset_mm = mm; }
+    int cursorMsBlinkInterval() const;
     void setCursorMsBlinkInterval(int ms);
     int cursorPxPenWidth() const { return m_cursor_pen.width(); }
     void setCursorPxPenWidth(int px);
@@ -153,20 +151,20 @@ public:
     QSizeF mmMargin() const { return m_mm_margin; }
     void setMmMargin(const QSizeF &mm);
     double mmRadius() const { return m_mm_radius; }
-    void setMmRadius(double mm);
+    void setMmRadius(double mm) { takeMeasure(&m_mm_radius, mm); }
     double mmPenLine() const { return m_mm_pen_line; }
-    void setMmPenLine(double mm);
+    void setMmPenLine(double mm) { takeMeasure(&m_mm_pen_line, mm); }
     double ptFontSize() const { return m_pt_font_size; }
     void setPtFontSize(double pt);
     bool isDrawedPasswordSecured() const { return m_draw_password_secured; }
     void setDrawPasswordSecured(bool secured);
     bool isDrawedCentered() const { return m_draw_centered; }
-    void setDrawCentered(bool centered);
+    void setDrawCentered(bool centered) { repaintWith(&m_draw_centered, centered); }
     /// Whether dots are centred or start at the left. Default true. A change shows with the next
     /// repaint.
     bool isDrawedSecuredCentered() const { return m_draw_secured_centered; }
     /// See isDrawedSecuredCentered().
-    void setDrawSecuredCentered(bool centered);
+    void setDrawSecuredCentered(bool centered) { m_draw_secured_centered = centered; }
 
     /// Shows a blinking cursor, or hides it. Default hidden. Shows with the next repaint.
     void setCursorState(bool on);
@@ -186,7 +184,10 @@ public:
         bool show_text);
 
     /// Of a secret text input methods learn no more than its length.
-    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override
+    {
+        return inputMethodQuery(query, QVariant());
+    }
     Q_INVOKABLE QVariant inputMethodQuery(Qt::InputMethodQuery query, QVariant argument) const;
 
 Q_SIGNALS:
@@ -199,65 +200,45 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
-    void showEvent(QShowEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
 
 private Q_SLOTS:
     void onCursorTimeout();
     void onShakeAnimationStep();
 
 private:
-    void setupUi();
-    void reapplyProperties();
-    void ring();
-    bool isSecret() const;
-    void setHeight();
+    template <typename Value>
+    void repaintWith(Value *member, const Value &value)
+    {
+        *member = value;
+        update();
+    }
+
+    bool isSecret() const { return m_draw_password_secured || echoMode() != Normal; }
+    void takeMeasure(double *member, double mm);
+    void applyMeasures();
     void calculateCursorPosition();
-    QLabel *leadingLabel();
     VexoIconButton *trailingButton();
-    void placeSideWidgets();
 
-    QRectF textRect(int advance, int placeholder_advance, int dx) const;
-    int cursorX(const QRectF &text_rect) const;
-    QRect cursorArea() const;
-    bool isShaking() const;
-    bool showsDots() const;
-    QRect shakeArea() const;
-    QVector<QRectF> dotRects(int dx, int count) const;
-    Qt::Alignment textAlignment() const;
-    void layOut(const QString &text);
-
-    void drawPlainText(const QColor &ink);
-    void drawUserText(const QColor &ink, int placeholder_advance, int dx);
-    void drawCursor(int x);
-    void drawPlaceholder(int x);
-    void drawSecuredText(const QColor &ink);
-    void drawSecuredTextInternal(const QColor &ink, int dx, int count);
-    void drawShake(const QColor &ink);
+    FieldLook fieldLook() const;
 
     const ScalingInfo *const m_scaling;
     const QPointer<VexoFeedbackDelegator> m_tone_delegator;
-    QTimer *const m_cursor_timer;
+    CursorBlink *const m_cursor_timer;
     QPointer<QWidgetAction> m_leading_action;
     QPointer<QWidgetAction> m_trailing_action;
     QPointer<QLabel> m_leading_label; // made when it is used; so is all that may be null here
     QPointer<VexoIconButton> m_trailing_button;
     QFont m_font;
-    QRectF m_text_rect; // of what was drawn last, px
-    const std::unique_ptr<FieldFrame> m_frame;
+    const std::unique_ptr<RoundedFrame> m_frame;
     QPen m_cursor_pen = QPen(DEFAULT_CURSOR_COLOR, 1);
     QPainter m_painter;
-    std::unique_ptr<QTimer> m_shake_timer;
     int m_cursor_top = 0; // px
     int m_cursor_bottom = 0; // px
     QPointF m_px_margin;
     QPointF m_px_pen_line;
-    bool m_has_cursor = false;
     bool m_cursor_visible = false;
-    bool m_show_placeholder = false;
     QString m_placeholder_text;
     QColor m_placeholder_color = VexoColors::C2;
     QColor m_background_color = VexoColors::C0;
@@ -280,19 +261,7 @@ private:
     bool m_draw_password_secured = false;
     bool m_draw_centered = false;
     bool m_draw_secured_centered = true;
-    std::unique_ptr<ShakeMotion> m_shake;
-    int m_shake_dot_count = 0; // painted last, unless 0
-    QString m_shake_text; // painted last, unless empty
-    bool m_shake_shows_text = false;
-    std::unique_ptr<SecretDots> m_dots;
-    const std::unique_ptr<ComposedText> m_composed;
-    const std::unique_ptr<TextRun> m_text_run; // the text, or the one that shakes
-    const std::unique_ptr<TextRun> m_placeholder_run;
-    QString m_placeholder_rest; // what is left of the placeholder
-    int m_placeholder_typed = -1; // beside a text of this length; -1: unknown
-    int m_cursor_x = 0; // as painted last, px
-    QRect m_shake_area; // as painted last, whatever has changed since
-    bool m_shake_is_alone = false; // cursor and placeholder are gone
+    const std::unique_ptr<FieldContent> m_content;
 };
 
 } // namespace vexo::hox::qt::ui

@@ -1,12 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/painting/iconpixmap_p.h"
 
-#include "ui/files/imagefile_p.h"
-#include "ui/foundation/pixels_p.h"
-
 #include <QGuiApplication>
-#include <QPainter>
-#include <QPixmapCache>
 #include <QStyle>
 #include <QStyleOption>
 
@@ -16,38 +11,9 @@ namespace vexo::hox::qt::ui {
 
 namespace {
 
-const Qt::ApplicationAttribute toolkits_own = Qt::AA_UseHighDpiPixmaps;
-
-// Pixel for pixel: with the attribute the toolkit multiplies the size once more.
-QPixmap plainPixmap(const QIcon &icon, const QSize &px)
-{
-    if (!QCoreApplication::testAttribute(toolkits_own))
-        return icon.pixmap(px, QIcon::Normal, QIcon::Off);
-    QCoreApplication::setAttribute(toolkits_own, false);
-    const QPixmap pixmap = icon.pixmap(px, QIcon::Normal, QIcon::Off);
-    QCoreApplication::setAttribute(toolkits_own, true);
-    return pixmap;
-}
-
 bool isWhole(double ratio)
 {
     return ratio == std::floor(ratio);
-}
-
-int sharpLength(int px, double ratio)
-{
-    const int whole = truncated(px * ratio + 1e-6); // a ratio such as 1.15 is not exact
-    return qRound(whole / ratio) == px ? whole : truncated(px * ratio + 0.5);
-}
-
-// What an icon has in fewer pixels than asked for fills the same place; none is enlarged, though.
-double shownRatio(const QSize &pixmap, const QSize &px, const QSize &asked, double ratio)
-{
-    if (pixmap.width() == asked.width() || pixmap.height() == asked.height())
-        return ratio;
-    const double across = double(pixmap.width()) / px.width();
-    const double down = double(pixmap.height()) / px.height();
-    return qMax(1.0, qMax(across, down));
 }
 
 } // namespace
@@ -58,39 +24,13 @@ double pixelRatio(const QPainter &painter)
     return is_plain ? 1.0 : painter.device()->devicePixelRatioF();
 }
 
-double sharpestRatio()
-{
-    return qGuiApp->devicePixelRatio();
-}
-
-QSize sharpSize(const QSize &px, double ratio)
-{
-    return QSize(sharpLength(px.width(), ratio), sharpLength(px.height(), ratio));
-}
-
-QPixmap iconPixmap(const QIcon &icon, const QSize &px, double ratio)
-{
-    if (ratio <= 1 || !ImageFile::isHoldable(px))
-        return plainPixmap(icon, px);
-    const QSize asked = sharpSize(px, ratio);
-    if (!ImageFile::isHoldable(asked))
-        return plainPixmap(icon, px);
-    QPixmap pixmap = plainPixmap(icon, asked);
-    pixmap.setDevicePixelRatio(shownRatio(pixmap.size(), px, asked, ratio));
-    return pixmap;
-}
-
 QPixmap inverted(const QPixmap &pixmap)
 {
-    const QString key = QStringLiteral("hoxq_inverse_%1").arg(pixmap.cacheKey());
-    QPixmap inverse;
-    if (QPixmapCache::find(key, &inverse))
-        return inverse;
-    QImage image = pixmap.toImage();
-    image.invertPixels(QImage::InvertRgb);
-    inverse = QPixmap::fromImage(image);
-    QPixmapCache::insert(key, inverse);
-    return inverse;
+    return RenderingCache::shared(RenderingCache::name("inverse ", pixmap.cacheKey()), [&] {
+        QImage image = pixmap.toImage();
+        image.invertPixels(QImage::InvertRgb);
+        return QPixmap::fromImage(image);
+    });
 }
 
 void drawIconPixmap(
@@ -111,6 +51,17 @@ void drawIconPixmap(
         QPainter::SmoothPixmapTransform, pixmap.devicePixelRatio() != to_screen.m11());
     painter->drawPixmap(to_screen.inverted().map(QPointF(corner)), pixmap);
     painter->restore();
+}
+
+void IconRendering::draw(
+    QPainter *painter, const QStyle &style, const QRect &area, const QIcon &icon, const QSize &px)
+{
+    const double ratio = pixelRatio(*painter);
+    QPixmap &pixmap = m_pixmaps.of({ icon.cacheKey(), px, ratio });
+    if (pixmap.isNull())
+        pixmap = iconPixmap(icon, px, ratio);
+    if (!pixmap.isNull())
+        drawIconPixmap(painter, style, area, Qt::AlignCenter, pixmap);
 }
 
 void stretchToScreen(QPainter *painter, const QRect &area)

@@ -1,30 +1,19 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
-#include <QIcon>
-#include <QLabel>
-#include <QPixmap>
+#include "ui/foundation/sharpicon_p.h"
+#include "ui/painting/renderingpair_p.h"
 
-class QPainter;
-class QRect;
+#include <QLabel>
+
+#include <tuple>
+
 class QStyle;
 
 namespace vexo::hox::qt::ui {
 
 /// Pixels of the screen to one of \a painter: 1 where it copies pixels as they are.
 double pixelRatio(const QPainter &painter);
-
-/// That of the sharpest screen: what is rendered before it is shown is rendered for that one.
-double sharpestRatio();
-
-/// Pixels of the screen for \a px at \a ratio: no more than a widget of that size has wherever it
-/// stands, unless it would then count as a smaller one.
-QSize sharpSize(const QSize &px, double ratio);
-
-/// Of \a icon (Normal, Off) what is shown on \a px at \a ratio: a rendering with that many more
-/// pixels where there is one, which takes the same place. Whether the application has asked for
-/// Qt::AA_UseHighDpiPixmaps does not matter.
-QPixmap iconPixmap(const QIcon &icon, const QSize &px, double ratio);
 
 /// \a pixmap for a dark ground; one for all who ask for that of the same rendering.
 QPixmap inverted(const QPixmap &pixmap);
@@ -33,6 +22,20 @@ QPixmap inverted(const QPixmap &pixmap);
 /// the screen: between two of them one is left out.
 void drawIconPixmap(QPainter *painter, const QStyle &style, const QRect &area, int alignment,
     const QPixmap &pixmap);
+
+/// The pixmaps of an icon, or of the two of a blink: an icon composes a key and searches a cache
+/// each time that it is asked for one. They follow the icon, its size and the painter by
+/// themselves.
+class IconRendering
+{
+public:
+    /// Draws \a icon of \a px in the middle of \a area.
+    void draw(QPainter *painter, const QStyle &style, const QRect &area, const QIcon &icon,
+        const QSize &px);
+
+private:
+    LookPair<std::tuple<qint64, QSize, double>, QPixmap> m_pixmaps;
+};
 
 /// Moves and stretches \a painter by less than a pixel of the screen, so that \a area begins and
 /// ends on whole ones: on those on which a widget of that rectangle is cut.

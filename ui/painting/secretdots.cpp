@@ -4,8 +4,6 @@
 #include "ui/foundation/pixels_p.h"
 #include "ui/painting/iconpixmap_p.h"
 
-#include <QPainter>
-
 #include <cmath>
 
 namespace vexo::hox::qt::ui {
@@ -55,26 +53,16 @@ void SecretDots::draw(
             painter->drawEllipse(each);
         return;
     }
-    keep(*painter, dot, size);
+    QPixmap &pixmap = m_pixmaps.of({ dot, outline, ink });
+    if (pixmap.isNull()) {
+        pixmap = rendered(size, 1, [&](QPainter *to) {
+            to->setPen(outline);
+            to->setBrush(ink);
+            to->drawEllipse(dot);
+        });
+    }
     for (const QRectF &each : dots)
-        painter->drawPixmap((each.topLeft() - dot.topLeft()).toPoint(), m_pixmap);
-}
-
-void SecretDots::keep(const QPainter &painter, const QRectF &dot, const QSize &size)
-{
-    if (dot == m_dot && painter.pen() == m_outline && painter.brush() == m_ink
-        && m_pixmap.size() == size)
-        return;
-    m_dot = dot;
-    m_outline = painter.pen();
-    m_ink = painter.brush();
-    m_pixmap = QPixmap(size);
-    m_pixmap.fill(Qt::transparent);
-    QPainter dot_painter(&m_pixmap);
-    dot_painter.setRenderHint(QPainter::Antialiasing);
-    dot_painter.setPen(m_outline);
-    dot_painter.setBrush(m_ink);
-    dot_painter.drawEllipse(dot);
+        painter->drawPixmap((each.topLeft() - dot.topLeft()).toPoint(), pixmap);
 }
 
 } // namespace vexo::hox::qt::ui

@@ -1,21 +1,20 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
-#include <QBrush>
-#include <QColor>
+#include "ui/painting/renderingpair_p.h"
+
 #include <QPen>
-#include <QPixmap>
 #include <QRectF>
 #include <QVector>
 
-class QPainter;
+#include <tuple>
 
 namespace vexo::hox::qt::ui {
 
 class ScalingInfo;
 
 /// The dots of a secret text: 1.5 mm wide and high, 2.5 mm apart. One is rendered for its look and
-/// drawn for all.
+/// drawn for all; its place and colours are all that it depends on.
 class SecretDots
 {
 public:
@@ -29,12 +28,7 @@ public:
         QPainter *painter, const QVector<QRectF> &dots, const QPen &outline, const QColor &ink);
 
 private:
-    void keep(const QPainter &painter, const QRectF &dot, const QSize &size);
-
-    QPixmap m_pixmap; // of a dot as drawn last
-    QRectF m_dot; // in the pixmap
-    QPen m_outline;
-    QBrush m_ink;
+    LookPair<std::tuple<QRectF, QPen, QColor>, QPixmap> m_pixmaps; // of a dot
 };
 
 } // namespace vexo::hox::qt::ui

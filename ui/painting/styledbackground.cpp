@@ -24,6 +24,16 @@ int lookOfNow(const QWidget *widget)
     return look;
 }
 
+// Most sheets have no rule for the background, yet asking them costs at each paint.
+bool isStyled(const QStyleOption &option, const QWidget *widget)
+{
+    QPicture probe;
+    QPainter painter(&probe);
+    widget->style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, widget);
+    painter.end();
+    return !probe.boundingRect().isEmpty();
+}
+
 } // namespace
 
 void StyledBackground::notice(QWidget *widget, const QEvent &event)
@@ -62,16 +72,6 @@ void StyledBackground::draw(QWidget *widget)
         return;
     QPainter painter(widget);
     widget->style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, widget);
-}
-
-// Most sheets have no rule for the background, yet asking them costs at each paint.
-bool StyledBackground::isStyled(const QStyleOption &option, const QWidget *widget) const
-{
-    QPicture probe;
-    QPainter painter(&probe);
-    widget->style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, widget);
-    painter.end();
-    return !probe.boundingRect().isEmpty();
 }
 
 } // namespace vexo::hox::qt::ui

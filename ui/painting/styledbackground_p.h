@@ -4,15 +4,14 @@
 #include <QtGlobal>
 
 class QEvent;
-class QPainter;
-class QStyleOption;
 class QWidget;
 
 namespace vexo::hox::qt::ui {
 
 /// The background and border that a stylesheet gives a widget. The toolkit asks the sheet for them
 /// before each paint, which costs more than the rest of a small button; this asks once per look,
-/// and draws nothing where the sheet has no rule for them.
+/// and draws nothing where the sheet has no rule for them. A change of style, palette or of a
+/// property, by which rules can choose, makes it ask anew.
 class StyledBackground
 {
 public:
@@ -23,8 +22,6 @@ public:
     void draw(QWidget *widget);
 
 private:
-    bool isStyled(const QStyleOption &option, const QWidget *widget) const;
-
     quint64 m_probed_looks = 0; // a bit per look for which the next field is known
     quint64 m_styled_looks = 0; // a bit per look in which a stylesheet draws a background
 };

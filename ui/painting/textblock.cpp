@@ -6,7 +6,6 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPixmap>
 #include <QTextLayout>
 #include <QWidget>
 
@@ -50,12 +49,6 @@ double layOutLines(QTextLayout *layout, double width)
 
 } // namespace
 
-bool TextBlock::Look::operator==(const Look &other) const
-{
-    return ink == other.ink && ground == other.ground && fraction == other.fraction
-        && ratio == other.ratio;
-}
-
 TextBlock::TextBlock(QTextOption::WrapMode wrap_mode)
     : m_wrap_mode(wrap_mode)
 {
@@ -88,15 +81,15 @@ void TextBlock::draw(QPainter *painter, const QRectF &area, const QString &text,
     else if (alignment & Qt::AlignVCenter)
         position.setY(area.top() + (area.height() - m_height) / 2);
     const QPoint whole(int(std::floor(position.x())), int(std::floor(position.y())));
-    if (!canPrint(*painter, m_extent.translated(whole), ground)) {
+    if (!isKept(*painter, m_extent.translated(whole), ground)) {
         painter->drawStaticText(position, m_text);
         return;
     }
-    const Look look{ painter->pen().color(), ground.color, position - whole,
-        painter->device()->devicePixelRatioF() };
+    const Look look(painter->pen().color(), ground.color, position - whole,
+        painter->device()->devicePixelRatioF());
     const auto *owner = dynamic_cast<const QWidget *>(painter->device());
-    const Print print = m_prints.get(look, owner, [&] { return this->print(look); });
-    painter->drawPixmap(whole + print.position, print.pixmap);
+    const Rendering &kept = m_renderings.get(look, owner, [&] { return renderingOf(look); });
+    painter->drawPixmap(whole + kept.position, kept.pixmap);
 }
 
 bool TextBlock::isLaidOut(
@@ -130,7 +123,7 @@ void TextBlock::layOut(
     m_is_static = widest <= width && !(alignment & Qt::AlignJustify) && !is_turned;
     m_begins_right = widest > width && is_turned && !(alignment & not_left);
     m_extent = glyphExtent(layout).toAlignedRect();
-    m_prints.forget();
+    m_renderings.forget();
 }
 
 QTextOption TextBlock::option(Qt::Alignment alignment) const
@@ -141,23 +134,23 @@ QTextOption TextBlock::option(Qt::Alignment alignment) const
     return option;
 }
 
-bool TextBlock::canPrint(const QPainter &painter, const QRect &place, const Ground &ground) const
+bool TextBlock::isKept(const QPainter &painter, const QRect &place, const Ground &ground) const
 {
     return ground.color.isValid() && ground.color.alpha() == 255 && ground.area.contains(place)
         && painter.deviceTransform().type() <= QTransform::TxTranslate
         && isKeepable(m_extent.size());
 }
 
-Print TextBlock::print(const Look &look) const
+Rendering TextBlock::renderingOf(const Look &look) const
 {
-    QPixmap pixmap(m_extent.size() * look.ratio);
-    pixmap.setDevicePixelRatio(look.ratio);
-    pixmap.fill(look.ground);
-    QPainter painter(&pixmap);
-    painter.setFont(m_font);
-    painter.setPen(look.ink);
-    painter.drawStaticText(look.fraction - m_extent.topLeft(), m_text);
-    return { pixmap, m_extent.topLeft() };
+    const auto &[ink, ground, fraction, ratio] = look;
+    const QPointF position = fraction - m_extent.topLeft();
+    const auto draw = [&, &pen = ink](QPainter *painter) {
+        painter->setFont(m_font);
+        painter->setPen(pen);
+        painter->drawStaticText(position, m_text);
+    };
+    return { rendered(m_extent.size(), ratio, draw, ground), m_extent.topLeft() };
 }
 
 } // namespace vexo::hox::qt::ui

@@ -1,12 +1,14 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
-#include "ui/painting/printpair_p.h"
+#include "ui/painting/renderingpair_p.h"
 
 #include <QColor>
 #include <QFont>
 #include <QRectF>
 #include <QStaticText>
+
+#include <tuple>
 
 class QPainter;
 
@@ -33,29 +35,21 @@ public:
     /// font, alignment or the width of the area have changed since the last call; but a text that
     /// does not fit into the area, or that is found to run from right to left, each time.
     ///
-    /// With a \a ground that is already drawn around the text, the print store keeps the text
-    /// together with it, for two pairs of colours: to blend letters costs several times as much as
-    /// to copy them, and a press changes colours back and forth.
+    /// With a \a ground that is already drawn around the text, the text is kept together with it:
+    /// to blend letters costs several times as much as to copy them.
     void draw(QPainter *painter, const QRectF &area, const QString &text, Qt::Alignment alignment,
         const Ground &ground = Ground());
 
 private:
-    struct Look
-    {
-        QColor ink;
-        QColor ground;
-        QPointF fraction; // of a px, by which the letters are shifted
-        double ratio = 0; // device pixels per px
-
-        bool operator==(const Look &other) const;
-    };
+    // Ink, ground, part of a px by which the letters are shifted, device pixels per px.
+    using Look = std::tuple<QColor, QColor, QPointF, double>;
 
     bool isLaidOut(
         const QFont &font, double width, const QString &text, Qt::Alignment alignment) const;
     void layOut(const QFont &font, double width, const QString &text, Qt::Alignment alignment);
     QTextOption option(Qt::Alignment alignment) const;
-    bool canPrint(const QPainter &painter, const QRect &place, const Ground &ground) const;
-    Print print(const Look &look) const;
+    bool isKept(const QPainter &painter, const QRect &place, const Ground &ground) const;
+    Rendering renderingOf(const Look &look) const;
 
     const QTextOption::WrapMode m_wrap_mode;
     Qt::LayoutDirection m_direction = Qt::LayoutDirectionAuto;
@@ -67,7 +61,7 @@ private:
     bool m_begins_right = false; // and is too long, so its left end is cut
     double m_height = 0; // px
     QRect m_extent; // px, what the letters cover
-    PrintPair<Look> m_prints;
+    RenderingPair<Look> m_renderings;
 };
 
 } // namespace vexo::hox::qt::ui

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/scrolling/opaquerows_p.h"
 
-#include "ui/buttons/vexofunctionbutton.h"
-#include "ui/buttons/vexohorizontaltexticonbutton.h"
-#include "ui/text/vexolabel.h"
-#include "ui/text/vexoruler.h"
+#include "ui/foundation/coverrule_p.h"
 
 #include <QLayout>
 #include <QPaintEvent>
@@ -65,17 +62,8 @@ void OpaqueRows::follow()
 // Nothing of what lies below it is seen.
 bool OpaqueRows::isOpaque(const QWidget &widget)
 {
-    if (!widget.isVisible() || !widget.mask().isEmpty() || widget.graphicsEffect())
-        return false;
-    if (const auto *row = qobject_cast<const VexoFunctionButton *>(&widget))
-        return row->coversAll();
-    if (const auto *row = qobject_cast<const VexoHorizontalTextIconButton *>(&widget))
-        return row->coversAll();
-    if (const auto *ruler = qobject_cast<const VexoRuler *>(&widget))
-        return ruler->coversAll();
-    if (const auto *label = qobject_cast<const VexoLabel *>(&widget))
-        return label->backgroundColor().alpha() == 255;
-    return widget.testAttribute(Qt::WA_OpaquePaintEvent);
+    return widget.isVisible() && widget.mask().isEmpty() && !widget.graphicsEffect()
+        && CoverRule::coversAll(widget);
 }
 
 QRegion OpaqueRows::bare(const QRegion &area) const

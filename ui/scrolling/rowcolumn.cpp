@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/scrolling/rowcolumn_p.h"
 
+#include "ui/foundation/accessible_p.h"
 #include "ui/scrolling/opaquerows_p.h"
 #include "ui/scrolling/rowlistaccessible_p.h"
 #include "ui/scrolling/rowlistrow_p.h"
@@ -46,7 +47,7 @@ RowColumn::RowColumn(RowList *list)
     : m_list(list)
 {
     setAttribute(Qt::WA_StyledBackground);
-    makeRowListsAccessible();
+    installAccessible<RowColumn, RowListAccessible>();
     new OpaqueRows(this);
 }
 

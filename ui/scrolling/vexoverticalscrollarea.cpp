@@ -104,19 +104,19 @@ void VexoVerticalScrollArea::press(QMouseEvent *event)
     const QPointer<QWidget> slider = qobject_cast<QWidget *>(sender());
     if (slider)
         slider->setAttribute(Qt::WA_TransparentForMouseEvents, true);
-    hand(QScroller::InputPress, event);
+    passToScroller(QScroller::InputPress, event);
     if (slider)
         slider->setAttribute(Qt::WA_TransparentForMouseEvents, false);
 }
 
 void VexoVerticalScrollArea::move(QMouseEvent *event)
 {
-    hand(QScroller::InputMove, event);
+    passToScroller(QScroller::InputMove, event);
 }
 
 void VexoVerticalScrollArea::release(QMouseEvent *event)
 {
-    hand(QScroller::InputRelease, event);
+    passToScroller(QScroller::InputRelease, event);
 }
 
 // The toolkit paints the strip that comes into sight over a dialog or a notice that lies there.
@@ -165,7 +165,7 @@ void VexoVerticalScrollArea::letGo()
     setAttribute(Qt::WA_NoMousePropagation, is_alone);
 }
 
-void VexoVerticalScrollArea::hand(QScroller::Input input, const QMouseEvent *event)
+void VexoVerticalScrollArea::passToScroller(QScroller::Input input, const QMouseEvent *event)
 {
     if (event)
         m_scroller->handleInput(input, positionOf(*event), qint64(event->timestamp()));

@@ -62,7 +62,7 @@ private:
     void tuneScroller();
     void watchTouch(QScroller::State state);
     void letGo();
-    void hand(QScroller::Input input, const QMouseEvent *event);
+    void passToScroller(QScroller::Input input, const QMouseEvent *event);
     QPointF positionOf(const QMouseEvent &event) const;
 
     QScroller *const m_scroller;

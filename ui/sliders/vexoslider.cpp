@@ -2,7 +2,9 @@
 #include "ui/sliders/vexoslider.h"
 
 #include "ui/buttons/tone_p.h"
-#include "ui/foundation/quietly_p.h"
+#include "ui/foundation/accessible_p.h"
+#include "ui/foundation/saturated_p.h"
+#include "ui/foundation/withoutrepaint_p.h"
 #include "ui/sliders/slideraccessible_p.h"
 #include "ui/touch/press_p.h"
 
@@ -13,20 +15,10 @@
 
 namespace vexo::hox::qt::ui {
 
-namespace {
-
-int saturated(qint64 number)
-{
-    using Limits = std::numeric_limits<int>;
-    return int(qBound(qint64(Limits::min()), number, qint64(Limits::max())));
-}
-
-} // namespace
-
 VexoSlider::VexoSlider(QWidget *parent)
     : QSlider(parent)
 {
-    makeSlidersAccessible();
+    installAccessible<VexoSlider, SliderAccessible>();
     setPageStep(0); // a press on the groove does not page
     connect(this, &QAbstractSlider::valueChanged, this, &VexoSlider::onValueChanged);
     connectTone(this, &QAbstractSlider::sliderPressed);
@@ -152,7 +144,7 @@ void VexoSlider::letGo(const QMouseEvent &press)
 {
     QMouseEvent release(QEvent::MouseButtonRelease, press.localPos(), press.windowPos(),
         press.screenPos(), press.button(), Qt::NoButton, press.modifiers());
-    quietly(this, [&] { QSlider::mouseReleaseEvent(&release); });
+    withoutRepaint(this, [&] { QSlider::mouseReleaseEvent(&release); });
 }
 
 } // namespace vexo::hox::qt::ui

@@ -37,22 +37,21 @@ constexpr Cell CELLS[][5] = {
     { { 1, 1 }, { 1, 0 }, { 2, 1 }, { 0, 1 }, { 0, 1 } }, // VerticalWithScale
 };
 
-// NaN fails the comparison.
 void refuseNegative(double mm)
 {
-    if (!(mm >= 0))
+    if (!isMeasure(mm))
         throw std::out_of_range("Negative measurements are impossible!");
 }
 
 // The toolkit may be walking over all widgets and setting properties from a stylesheet: what goes
 // is no child any more, but deleted only after that. Without a parent it would become a window.
-void retire(QWidget *widget)
+void takeOutAndDeleteLater(QWidget *widget)
 {
     if (!widget)
         return;
-    auto *attic = new QWidget;
-    widget->setParent(attic);
-    attic->deleteLater();
+    auto *last_parent = new QWidget;
+    widget->setParent(last_parent);
+    last_parent->deleteLater();
 }
 
 } // namespace
@@ -272,7 +271,7 @@ void VexoSliderDecoration::sizeSlider()
 
 void VexoSliderDecoration::addScale()
 {
-    retire(m_scale);
+    takeOutAndDeleteLater(m_scale);
     m_scale = nullptr;
     if (m_style != HorizontalWithScale && m_style != VerticalWithScale)
         return;
@@ -288,16 +287,16 @@ void VexoSliderDecoration::clearArrangement()
     m_max_icon_label->setParent(this);
     clearUnit();
     for (QWidget *widget : { m_min_container.data(), m_max_container.data() })
-        retire(widget);
+        takeOutAndDeleteLater(widget);
     m_min_container = nullptr;
     m_max_container = nullptr;
-    retire(m_scale);
+    takeOutAndDeleteLater(m_scale);
     m_scale = nullptr;
 }
 
 void VexoSliderDecoration::clearUnit()
 {
-    retire(m_unit_label);
+    takeOutAndDeleteLater(m_unit_label);
     m_unit_label = nullptr;
     if (m_unit_spacer)
         m_layout->removeItem(m_unit_spacer);
@@ -325,7 +324,7 @@ void VexoSliderDecoration::placeImage(Item item, QLabel *label, QPointer<QWidget
         layoutVerticalImageWidget(fresh, label);
     else
         label->setParent(this); // not to go with its container
-    retire(*container);
+    takeOutAndDeleteLater(*container);
     *container = fresh;
     add(item, fresh, Qt::AlignCenter);
 }

@@ -77,14 +77,14 @@ void VexoHorizontalLabelWidget::setLeftLabelMmWidth(double mm)
 {
     m_left_label_mm_width = mm;
     if (m_left_label)
-        m_left_label->setFixedWidth(widgetPx(pxX(*m_scaling, mm)));
+        fixWidth(m_left_label, *m_scaling, mm);
 }
 
 void VexoHorizontalLabelWidget::setRightLabelMmWidth(double mm)
 {
     m_right_label_mm_width = mm;
     if (m_right_label)
-        m_right_label->setFixedWidth(widgetPx(pxX(*m_scaling, mm)));
+        fixWidth(m_right_label, *m_scaling, mm);
 }
 
 void VexoHorizontalLabelWidget::setMmHeight(double mm)

@@ -54,13 +54,13 @@ void VexoImageHeadline::setImageCanvasWidthMM(double mm)
 void VexoImageHeadline::setHeightMM(double mm)
 {
     m_mm_height = mm;
-    setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+    fixHeight(this, *m_scaling, mm);
 }
 
 void VexoImageHeadline::setWidthMM(double mm)
 {
     m_mm_width = mm;
-    setFixedWidth(widgetPx(pxX(*m_scaling, mm)));
+    fixWidth(this, *m_scaling, mm);
 }
 
 void VexoImageHeadline::setSpacerSizeInMm(double mm)

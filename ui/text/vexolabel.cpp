@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/text/vexolabel.h"
 
+#include "ui/foundation/coverrule_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/plainlabel_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
@@ -22,6 +23,9 @@ VexoLabel::VexoLabel(const QString &text, QWidget *parent)
     , m_px_indent(m_scaling->mm2px_X(3.0F))
     , m_text(std::make_unique<TextBlock>(QTextOption::WordWrap))
 {
+    static const CoverRule cover_rule(staticMetaObject, [](const QWidget &label) {
+        return static_cast<const VexoLabel &>(label).backgroundColor().alpha() == 255;
+    });
     setupUi();
     setText(text);
 }
@@ -61,7 +65,7 @@ void VexoLabel::setMmIndent(double mm)
 void VexoLabel::setMmHeight(double mm)
 {
     m_mm_height = mm;
-    setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+    fixHeight(this, *m_scaling, mm);
 }
 
 void VexoLabel::setTextAlignment(Qt::Alignment alignment)
@@ -78,10 +82,7 @@ void VexoLabel::setFontWeight(int weight)
 
 QWidget *VexoLabel::addVisibleBuddy(QWidget *buddy)
 {
-    m_visible_buddies->add(buddy);
-    if (buddy)
-        buddy->setVisible(false);
-    return buddy;
+    return m_visible_buddies->addHidden(buddy);
 }
 
 void VexoLabel::clearVisibleBuddies()

@@ -7,21 +7,25 @@
 #include "ui/foundation/tightlayout_p.h"
 #include "ui/foundation/visiblebuddies_p.h"
 #include "ui/input/vexolineedit.h"
-#include "ui/sliders/vexosliderdecoration.h"
 
 #include <QAbstractButton>
 #include <QGridLayout>
 #include <QLabel>
+#include <QMetaProperty>
 
 namespace vexo::hox::qt::ui {
 
 namespace {
 
-bool hasScale(const VexoSliderDecoration &slider)
+// Of a VexoSliderDecoration, known by name: sliders are made of what this folder has.
+bool hasScale(const QWidget *payload)
 {
-    const auto style = slider.decoStyle();
-    return style == VexoSliderDecoration::HorizontalWithScale
-        || style == VexoSliderDecoration::VerticalWithScale;
+    if (!payload || !payload->inherits("vexo::hox::qt::ui::VexoSliderDecoration"))
+        return false;
+    const QMetaObject *type = payload->metaObject();
+    const QMetaProperty style = type->property(type->indexOfProperty("m_style"));
+    const QByteArray name(style.enumerator().valueToKey(style.read(payload).toInt()));
+    return name.endsWith("WithScale");
 }
 
 // For assistive technology. A label or a button says itself what it is.
@@ -65,31 +69,31 @@ void VexoLabeledContainer::setPtFontSize(double pt)
 void VexoLabeledContainer::setBottomMarginMm(double mm)
 {
     m_mm_bottom_margin = mm;
-    m_bottom_spacer->setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+    fixHeight(m_bottom_spacer, *m_scaling, mm);
 }
 
 void VexoLabeledContainer::setTopMarginMm(double mm)
 {
     m_mm_top_margin = mm;
-    m_top_spacer->setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+    fixHeight(m_top_spacer, *m_scaling, mm);
 }
 
 void VexoLabeledContainer::setLeftMarginMm(double mm)
 {
     m_mm_left_margin = mm;
-    m_left_spacer->setFixedWidth(widgetPx(pxX(*m_scaling, mm)));
+    fixWidth(m_left_spacer, *m_scaling, mm);
 }
 
 void VexoLabeledContainer::setRightMarginMm(double mm)
 {
     m_mm_right_margin = mm;
-    m_right_spacer->setFixedWidth(widgetPx(pxX(*m_scaling, mm)));
+    fixWidth(m_right_spacer, *m_scaling, mm);
 }
 
 void VexoLabeledContainer::setMmHeight(double mm)
 {
     m_mm_height = mm;
-    setFixedHeight(widgetPx(pxY(*m_scaling, mm)));
+    fixHeight(this, *m_scaling, mm);
 }
 
 void VexoLabeledContainer::setWidget(QWidget *widget)
@@ -122,10 +126,7 @@ void VexoLabeledContainer::addFromForm(QWidget *widget)
 
 QWidget *VexoLabeledContainer::addVisibleBuddy(QWidget *buddy)
 {
-    m_visible_buddies->add(buddy);
-    if (buddy)
-        buddy->setVisible(false);
-    return buddy;
+    return m_visible_buddies->addHidden(buddy);
 }
 
 void VexoLabeledContainer::clearVisibleBuddies()
@@ -180,9 +181,8 @@ void VexoLabeledContainer::setPayloadWidgetProperties()
 {
     if (auto *field = qobject_cast<VexoLineEdit *>(m_payload)) {
         field->setMmMargin(QSizeF(0, 0));
-    } else if (auto *slider = qobject_cast<VexoSliderDecoration *>(m_payload)) {
-        if (hasScale(*slider))
-            setMmHeight(25.0);
+    } else if (hasScale(m_payload)) {
+        setMmHeight(25.0);
     } else if (auto *label = qobject_cast<QLabel *>(m_payload)) {
         setPtSize(m_font, m_pt_font_size);
         m_font.setWeight(QFont::Light);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/text/vexoruler.h"
 
+#include "ui/foundation/coverrule_p.h"
 #include "ui/foundation/pixels_p.h"
 
 #include <QPainter>
@@ -38,6 +39,8 @@ VexoRuler::VexoRuler(QWidget *parent, VexoRulerStyle style, float white_space_ab
     setFixedHeight(m_height);
     setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
     qRegisterMetaType<VexoRulerStyle>("VexoRulerStyle");
+    static const CoverRule cover_rule(staticMetaObject,
+        [](const QWidget &ruler) { return static_cast<const VexoRuler &>(ruler).coversAll(); });
 }
 
 void VexoRuler::setFirstLineColor(const QColor &color)

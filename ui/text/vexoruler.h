@@ -9,8 +9,6 @@
 
 namespace vexo::hox::qt::ui {
 
-class OpaqueRows;
-
 /// A horizontal separator in one of fifteen styles: lines of one or a few pixels on top of each
 /// other, and on request a band of white space above them. Its height is fixed to the sum of what
 /// it was constructed with.
@@ -65,8 +63,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    friend class OpaqueRows; // asks coversAll()
-
     bool coversAll() const;
     void addLineDescription(const QColor &color, int thickness);
     void setupLineDescriptions(const VexoRulerStyle &style);

@@ -55,7 +55,7 @@ void VexoTextEnumeration::setText(const QString &text, int number)
 
 void VexoTextEnumeration::setupUi()
 {
-    setFixedHeight(widgetPx(pxY(scaling(), 14.5)));
+    fixHeight(this, scaling(), 14.5);
     setupTextLabel();
     setupNumberLabel();
     setupLayouts();
@@ -66,7 +66,7 @@ void VexoTextEnumeration::setupTextLabel()
     setLook(m_text_label, 9.0, QFont::Light);
     m_text_label->setWordWrap(true);
     m_text_label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    m_text_label->setFixedHeight(widgetPx(pxY(scaling(), 11.25)));
+    fixHeight(m_text_label, scaling(), 11.25);
 }
 
 void VexoTextEnumeration::setupNumberLabel()

@@ -31,8 +31,7 @@ RotationPixmap::RotationPixmap(const QStringList &files, float width_mm, float h
     : QThread(nullptr)
     , m_timer(new QTimer(this))
     , m_files(files)
-    , m_px(pxSize(
-          *ScalingInfo::inst(), QSize(truncated(double(width_mm)), truncated(double(height_mm)))))
+    , m_px(pxSize(*ScalingInfo::inst(), truncated(QSizeF(double(width_mm), double(height_mm)))))
     , m_ratio(sharpestRatio())
 {
     setObjectName(QStringLiteral("Pixmap-Rotater"));

@@ -21,7 +21,7 @@ void UpdatePage::setupUi()
     m_ui->setupUi(this);
     m_ui->VexoIconLabel->setPixmap(QStringLiteral(":/widgetimages/vexo-inverted.png"));
     m_ui->VexoIconLabel->setAccessibleName(QStringLiteral("vexo"));
-    m_ui->VexoIconLabel->setFixedHeight(widgetPx(pxY(scaling, 7.0)));
+    fixHeight(m_ui->VexoIconLabel, scaling, 7.0);
     const QSize gap = pxSize(scaling, QSizeF(6.0, 6.0));
     m_ui->middleSpacer->changeSize(
         widgetPx(gap.width()), widgetPx(gap.height()), QSizePolicy::Fixed, QSizePolicy::Fixed);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/buttons/row/rowlabel_p.h"
 
+#include "ui/buttons/row/changeinpaint_p.h"
 #include "ui/foundation/plainlabel_p.h"
 
 #include <QEvent>
@@ -127,27 +128,31 @@ int RowLabel::lineHeight() const
     return int(std::ceil(QFontMetricsF(font()).height())) + aroundText().height();
 }
 
-QColor RowLabel::ink() const
+void RowLabel::setFontWeight(int weight)
 {
-    return palette().color(QPalette::ButtonText);
+    QFont font = this->font();
+    font.setWeight(weight);
+    setFont(font);
 }
 
-void RowLabel::setInk(const QColor &ink)
+void RowLabel::setInk(const QColor &ink, const QRegion &painted)
 {
+    if (this->ink() == ink)
+        return;
     QPalette colors;
     colors.setBrush(QPalette::ButtonText, ink);
     m_is_inking = true;
-    setPalette(colors);
+    changeInPaint(this, painted, [&] { setPalette(colors); });
     m_is_inking = false;
 }
 
 void RowLabel::prepare(const QColor &ground)
 {
-    m_shown = Print();
+    m_shown = Rendering();
     const bool is_text = !text().isEmpty() && !(textInteractionFlags() & Qt::TextSelectableByMouse)
         && !autoFillBackground();
     if (is_text && ground.alpha() == 255 && devicePixelRatioF() == 1 && !size().isEmpty())
-        m_shown = m_prints.get(lookOfNow(ground), this, [&] { return print(ground); });
+        m_shown = m_renderings.get(lookOfNow(ground), this, [&] { return renderOn(ground); });
 }
 
 bool RowLabel::event(QEvent *event)
@@ -169,7 +174,7 @@ bool RowLabel::event(QEvent *event)
     case QEvent::LayoutDirectionChange:
     case QEvent::ContentsRectChange:
     case QEvent::Resize:
-        m_prints.forget();
+        m_renderings.forget();
         break;
     default:
         break;
@@ -192,7 +197,7 @@ void RowLabel::paintEvent(QPaintEvent *event)
     if (is_screen)
         painter.drawPixmap(m_shown.position, m_shown.pixmap);
     painter.end();
-    m_shown = Print();
+    m_shown = Rendering();
     if (!is_screen)
         paintAnew(event);
 }
@@ -207,12 +212,19 @@ void RowLabel::resizeEvent(QResizeEvent *event)
         updateGeometry(); // the layout asked for the height before it gave the width
 }
 
+// A painter of this label asks it where to paint: here into an image, without a walk through all
+// widgets of the window as render() takes it first.
 QPaintDevice *RowLabel::redirected(QPoint *offset) const
 {
-    if (!m_print_image)
+    if (!m_render_target)
         return QLabel::redirected(offset);
     *offset = QPoint();
-    return m_print_image;
+    return m_render_target;
+}
+
+QColor RowLabel::ink() const
+{
+    return palette().color(QPalette::ButtonText);
 }
 
 RowLabel::Look RowLabel::lookOfNow(const QColor &ground) const
@@ -277,15 +289,14 @@ bool RowLabel::isHintedAsLine() const
     return line().width <= widest_px / 4;
 }
 
-// render() would do, but walks through all widgets of the window first.
-Print RowLabel::print(const QColor &ground)
+Rendering RowLabel::renderOn(const QColor &ground)
 {
     QImage image(size(), QImage::Format_RGB32);
     image.fill(ground);
-    m_print_image = &image;
+    m_render_target = &image;
     QPaintEvent event(rect());
     paintAnew(&event);
-    m_print_image = nullptr;
+    m_render_target = nullptr;
     const QRect inked = inkedArea(image, ground.rgb());
     return { QPixmap::fromImage(image.copy(inked)), inked.topLeft() };
 }

@@ -1,7 +1,7 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
-#include "ui/painting/printpair_p.h"
+#include "ui/painting/renderingpair_p.h"
 #include "ui/painting/styledbackground_p.h"
 
 #include <QColor>
@@ -30,9 +30,10 @@ public:
     bool isSurelyOneLine(int width_px) const;
     /// px, with margins, of a text of which that is true.
     int lineHeight() const;
-    QColor ink() const;
-    /// Replaces the label's palette by the application's with this text colour.
-    void setInk(const QColor &ink);
+    void setFontWeight(int weight);
+    /// Replaces the label's palette by the application's with this text colour, if it is another
+    /// one. In a paint of the row of \a painted.
+    void setInk(const QColor &ink, const QRegion &painted);
     /// Called by the row in each paint, before it has a painter: the label lies on \a ground.
     void prepare(const QColor &ground);
 
@@ -68,8 +69,9 @@ private:
         int average_letter = 0;
     };
 
+    QColor ink() const;
     Look lookOfNow(const QColor &ground) const;
-    Print print(const QColor &ground);
+    Rendering renderOn(const QColor &ground);
     void paintAnew(QPaintEvent *event);
     bool isPlain() const;
     const Line &line() const;
@@ -79,9 +81,9 @@ private:
     bool m_is_laid_out = false;
     mutable Line m_line; // of the text that was measured last
     StyledBackground m_styled_background;
-    PrintPair<Look> m_prints;
-    Print m_shown; // for the paint to come; null to paint as any label
-    QImage *m_print_image = nullptr; // while it is drawn
+    RenderingPair<Look> m_renderings;
+    Rendering m_shown; // for the paint to come; null to paint as any label
+    QImage *m_render_target = nullptr; // while it is drawn
     bool m_is_inking = false;
 };
 

@@ -49,6 +49,17 @@ void RowLayout::addLabel(RowLabel *label)
     addItem(new LabelItem(label));
 }
 
+QSpacerItem *RowLayout::replaceGap(QSpacerItem *gap, int px)
+{
+    if (gap)
+        removeItem(gap);
+    delete gap;
+    gap = new QSpacerItem(px, px, QSizePolicy::Fixed, QSizePolicy::Fixed);
+    gap->setAlignment(Qt::AlignRight);
+    addItem(gap);
+    return gap;
+}
+
 // No screen need know how high the text of a row of fixed height would be in some width.
 bool RowLayout::hasHeightForWidth() const
 {

@@ -15,6 +15,9 @@ public:
     /// The first item, without stretch and alignment. The row already has \a label as its child.
     void addLabel(RowLabel *label);
 
+    /// Deletes \a gap, which may be null, and appends one of \a px, which it returns.
+    QSpacerItem *replaceGap(QSpacerItem *gap, int px);
+
     bool hasHeightForWidth() const override;
     QSize sizeHint() const override;
     QSize minimumSize() const override;
