@@ -68,11 +68,14 @@ QLabel *Page::createText(const QString &text, double pt, int weight)
     return label;
 }
 
-QLayout *Page::createCaptioned(QWidget *widget, const QString &caption)
+QLayout *Page::createCaptioned(QWidget *widget, const QString &caption, Qt::Alignment alignment)
 {
     auto *tile = new QVBoxLayout;
     tile->setSpacing(mmY(1));
-    tile->addWidget(widget);
-    tile->addWidget(createText(caption), 1, Qt::AlignTop);
+    tile->addWidget(widget, 0, alignment);
+    if (caption.isEmpty())
+        tile->addStretch();
+    else
+        tile->addWidget(createText(caption), 1, Qt::AlignTop);
     return tile;
 }

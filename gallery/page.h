@@ -28,6 +28,9 @@ public:
 
     /// A label that wraps its text; \a pt high.
     static QLabel *createText(const QString &text, double pt = 7, int weight = QFont::Light);
+    /// A widget with a caption below it, if there is one.
+    static QLayout *createCaptioned(
+        QWidget *widget, const QString &caption, Qt::Alignment alignment = {});
 
 protected:
     /// Starts a section.
@@ -38,9 +41,6 @@ protected:
     /// Appends tiles, to be filled; mm. With a heading they start a section.
     TileLayout *addTiles(double column, const QSizeF &gap = QSizeF(4, 4));
     TileLayout *addTiles(const QString &heading, double column, const QSizeF &gap = QSizeF(4, 4));
-
-    /// A widget with a caption below it.
-    static QLayout *createCaptioned(QWidget *widget, const QString &caption);
 
 private:
     QVBoxLayout *m_layout;

@@ -9,22 +9,7 @@
 #include <VexoColors>
 #include <VexoPushButton>
 
-#include <QVBoxLayout>
-
 using namespace vexo::hox::qt::ui;
-
-namespace {
-
-QLayout *createTile(QWidget *sign, const QString &caption)
-{
-    auto *tile = new QVBoxLayout;
-    tile->setSpacing(mmY(1));
-    tile->addWidget(sign, 0, Qt::AlignLeft);
-    tile->addWidget(Page::createText(caption), 1, Qt::AlignTop);
-    return tile;
-}
-
-} // namespace
 
 BusyAnimationPage::BusyAnimationPage()
     : Page("Busy animation",
@@ -53,11 +38,11 @@ void BusyAnimationPage::addSizes()
     for (const int mm : { 8, 16 }) {
         const QString caption = QString("%1 x %1 mm").arg(mm);
         tiles->addLayout(
-            createTile(adopt(new BusySign(BusySign::ringFiles("C3"), mm), VexoColors::C1),
-                caption + ", dark images"));
+            createCaptioned(adopt(new BusySign(BusySign::ringFiles("C3"), mm), VexoColors::C1),
+                caption + ", dark images", Qt::AlignLeft));
         tiles->addLayout(
-            createTile(adopt(new BusySign(BusySign::ringFiles("C0"), mm), VexoColors::C3),
-                caption + ", light images"));
+            createCaptioned(adopt(new BusySign(BusySign::ringFiles("C0"), mm), VexoColors::C3),
+                caption + ", light images", Qt::AlignLeft));
     }
 }
 
@@ -66,7 +51,7 @@ void BusyAnimationPage::addSpeeds()
     TileLayout *tiles = addTiles("Speeds", 30);
     const auto add = [&](int steps, int step_ms, const QString &caption) {
         auto *sign = new BusySign(BusySign::ringFiles("C3", steps), 10, step_ms);
-        tiles->addLayout(createTile(adopt(sign, VexoColors::C1), caption));
+        tiles->addLayout(createCaptioned(adopt(sign, VexoColors::C1), caption, Qt::AlignLeft));
     };
     add(12, 0, "twelve images: a turn in 6 s");
     add(4, 0, "four images: a turn in 2 s");
@@ -78,8 +63,8 @@ void BusyAnimationPage::addMissingFile()
     addSection("A missing file");
     const QStringList files{ BusySign::ringFiles("C3").constFirst(), "missing.svg" };
     TileLayout *tiles = addTiles(46);
-    tiles->addLayout(createTile(adopt(new BusySign(files, 10), VexoColors::C1),
-        "The second of two cannot be read: nothing is shown in its step"));
+    tiles->addLayout(createCaptioned(adopt(new BusySign(files, 10), VexoColors::C1),
+        "The second of two cannot be read: nothing is shown in its step", Qt::AlignLeft));
 }
 
 QWidget *BusyAnimationPage::adopt(BusySign *sign, const QColor &ground)

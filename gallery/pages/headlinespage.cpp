@@ -9,7 +9,6 @@
 #include <VexoImageHeadline>
 
 #include <QLabel>
-#include <QVBoxLayout>
 
 using namespace vexo::hox::qt::ui;
 
@@ -28,13 +27,8 @@ Headline *createHeadline(const QString &text, const QString &icon = menu)
 // The outline shows how far a headline reaches.
 void addOutlined(TileLayout *tiles, Headline *headline, const QString &caption = QString())
 {
-    auto *tile = new QVBoxLayout;
-    tile->setSpacing(mmY(1));
-    tile->addWidget(new FramedGround(VexoColors::C0, headline, QSize(1, 1)), 0, Qt::AlignLeft);
-    if (!caption.isEmpty())
-        tile->addWidget(Page::createText(caption));
-    tile->addStretch();
-    tiles->addLayout(tile);
+    auto *outlined = new FramedGround(VexoColors::C0, headline, QSize(1, 1));
+    tiles->addLayout(Page::createCaptioned(outlined, caption, Qt::AlignLeft));
 }
 
 } // namespace

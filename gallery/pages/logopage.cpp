@@ -11,7 +11,6 @@
 #include <VexoLogoLabel>
 
 #include <QLabel>
-#include <QVBoxLayout>
 
 using namespace vexo::hox::qt::ui;
 
@@ -21,14 +20,8 @@ const char *const LOGO = ":/widgetimages/vexo.svg";
 
 void addTile(TileLayout *tiles, const QColor &ground, QWidget *shown, const QString &text)
 {
-    auto *tile = new QVBoxLayout;
-    tile->setSpacing(mmY(1));
-    tile->addWidget(new FramedGround(ground, shown, mmSize(2, 2)), 0, Qt::AlignLeft);
-    auto *label = new QLabel(text);
-    label->setWordWrap(true);
-    tile->addWidget(label);
-    tile->addStretch();
-    tiles->addLayout(tile);
+    auto *framed = new FramedGround(ground, shown, mmSize(2, 2));
+    tiles->addLayout(Page::createCaptioned(framed, text, Qt::AlignLeft));
 }
 
 QLabel *createPicture(const QString &file, float width_mm)

@@ -151,6 +151,32 @@ const auto SHOW_STANDARD_IMAGE = [](VexoPushButton *button, const QString &file)
     button->setSvgImage(file, ICON_MM, Standard);
 };
 
+void row(const char *name, const Make &make, const QSize &px = ICON_PX)
+{
+    QTest::newRow(name) << make << px << (strstr(name, "inverse") != nullptr);
+}
+
+void addButtons()
+{
+    row("icon button", made<VexoIconButton>(SHOW_ICON));
+    row("icon button, inverse", made<VexoIconButton>([](auto *button, const QString &file) {
+        SHOW_ICON(button, file);
+        button->createMissingInverseIcons();
+        button->setDown(true);
+    }));
+    row("tile", made<VexoDesignVectorButton>(SHOW_ICON));
+    row("centred tile", made<VexoCenteredVectorButton>([](auto *tile, const QString &file) {
+        tile->setIconSizeInMm(2.5);
+        tile->addIcon(DEFAULT, file);
+    }),
+        QSize(25, 50));
+    row("key", made<VexoKeyboardButton>([](auto *key, const QString &file) {
+        key->setCommonIconSizeMM(ICON_MM);
+        key->addIcon(DEFAULT, file);
+    }));
+    row("push button", made<VexoPushButton>(SHOW_STANDARD_IMAGE));
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(Make)
@@ -181,26 +207,7 @@ void TestPixelRatio::imagesAreSharp_data()
     QTest::addColumn<Make>("make");
     QTest::addColumn<QSize>("px");
     QTest::addColumn<bool>("inverse");
-    const auto row = [](const char *name, const Make &make, const QSize &px = ICON_PX) {
-        QTest::newRow(name) << make << px << (strstr(name, "inverse") != nullptr);
-    };
-    row("icon button", made<VexoIconButton>(SHOW_ICON));
-    row("icon button, inverse", made<VexoIconButton>([](auto *button, const QString &file) {
-        SHOW_ICON(button, file);
-        button->createMissingInverseIcons();
-        button->setDown(true);
-    }));
-    row("tile", made<VexoDesignVectorButton>(SHOW_ICON));
-    row("centred tile", made<VexoCenteredVectorButton>([](auto *tile, const QString &file) {
-        tile->setIconSizeInMm(2.5);
-        tile->addIcon(DEFAULT, file);
-    }),
-        QSize(25, 50));
-    row("key", made<VexoKeyboardButton>([](auto *key, const QString &file) {
-        key->setCommonIconSizeMM(ICON_MM);
-        key->addIcon(DEFAULT, file);
-    }));
-    row("push button", made<VexoPushButton>(SHOW_STANDARD_IMAGE));
+    addButtons();
     row("row of two texts",
         made<VexoHorizontalTextIconButton>([](auto *button, const QString &file) {
             button->setLeftSideTextPercentWidth(30);
