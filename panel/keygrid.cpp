@@ -75,6 +75,15 @@ void KeyGrid::show(
         cap.button->show();
 }
 
+void KeyGrid::forget(const QObject *button)
+{
+    const auto is_it = [button](const Button *made) { return made == button; };
+    for (auto &[function, buttons] : m_made)
+        buttons.erase(std::remove_if(buttons.begin(), buttons.end(), is_it), buttons.end());
+    const auto bears = [&](const Cap &cap) { return is_it(cap.button); };
+    m_caps.erase(std::remove_if(m_caps.begin(), m_caps.end(), bears), m_caps.end());
+}
+
 void KeyGrid::addRow(const KeyboardRow &row, int index, double columns)
 {
     const double rest = columns - rowWidth(row);

@@ -32,6 +32,8 @@ public:
 
     /// Shows these keys, with \a label on each that needs one. They are placed by the next place().
     void show(const KeyboardRows &rows, const std::function<QString(const KeyboardKey &)> &label);
+    /// For one that somebody else deletes; its place stays free until the next show().
+    void forget(const QObject *button);
     int rowCount() const { return m_row_count; }
     /// Shares out \a px. Letters are never wider than those of a large keyboard.
     void place(const QRect &px);

@@ -192,6 +192,8 @@ void OnScreenKeyboard::readReceiver()
 
 bool OnScreenKeyboard::event(QEvent *event)
 {
+    if (event->type() == QEvent::ChildRemoved)
+        m_grid->forget(static_cast<QChildEvent *>(event)->child());
     return m_finger->take(event) || QWidget::event(event);
 }
 

@@ -105,19 +105,21 @@ void TestProperties::changeRepaintsOnce()
 void TestProperties::changeShowsAsOnANewOne()
 {
     QFETCH(const WalkedClass *, walked);
-    const QMetaObject *meta = std::unique_ptr<QWidget>(walked->make(nullptr))->metaObject();
+    QWidget host; // without one a dialog or notice is nowhere
+    const QMetaObject *meta = walked->make(&host)->metaObject();
     for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i) {
         const QMetaProperty property = meta->property(i);
-        const std::unique_ptr<QWidget> painted(walked->make(nullptr));
-        const std::unique_ptr<QWidget> fresh(walked->make(nullptr));
-        const QVariant value = otherValue(property, property.read(fresh.get()), 3);
-        for (QWidget *widget : { painted.get(), fresh.get() }) {
+        QWidget screen;
+        QWidget *const painted = walked->make(&screen);
+        QWidget *const fresh = walked->make(&screen);
+        const QVariant value = otherValue(property, property.read(fresh), 3);
+        for (QWidget *widget : { painted, fresh }) {
             for (const char *name : { "text", "subtext" }) // an empty label keeps its size
                 widget->setProperty(name, "text");
             widget->resize(300, 200);
         }
         painted->grab();
-        for (QWidget *widget : { painted.get(), fresh.get() }) {
+        for (QWidget *widget : { painted, fresh }) {
             property.write(widget, value);
             widget->grab();
             settle(); // lays out

@@ -112,9 +112,9 @@ void TestConsumer::laterMajorVersionIsRefused()
 
 void TestConsumer::everyClassHasAForwardingHeader()
 {
-    QStringList classes
-        = QStringLiteral(HOXQ_SYSTEM_CLASSES " " HOXQ_CLASSES " " HOXQ_PANEL_CLASSES " " HOXQ_KIT_CLASSES " Ui_UpdatePage")
-              .split(QLatin1Char(' '));
+    QStringList classes = QStringLiteral(HOXQ_SYSTEM_CLASSES " " HOXQ_CLASSES " " HOXQ_PANEL_CLASSES
+                                                             " " HOXQ_KIT_CLASSES " Ui_UpdatePage")
+                              .split(QLatin1Char(' '));
     classes.sort();
     QCOMPARE(QDir(QStringLiteral(HOXQ_STAGE "/include/hoxqui")).entryList(QDir::Files), classes);
     QFile source(m_dir.filePath("all.cpp"));
