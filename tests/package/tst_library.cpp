@@ -125,7 +125,8 @@ void TestLibrary::exportsItsPublicClassesAndNothingElse()
         const QString owner = ownerOf(symbol).isEmpty() ? symbol : ownerOf(symbol);
         missing.removeAll(owner);
         const bool is_copy = is_beside_widgets && isOfWidgets(symbol, type);
-        QVERIFY2(is_copy || interface.contains(owner) || isForeign(symbol, type), qPrintable(symbol));
+        QVERIFY2(
+            is_copy || interface.contains(owner) || isForeign(symbol, type), qPrintable(symbol));
     }
     QCOMPARE(missing, QStringList());
 }
