@@ -3,14 +3,13 @@
 # Sourced by the scripts beside it: which Debian packages each purpose needs, and need_packages,
 # which installs those that are missing.
 
-BUILD_PACKAGES=(g++ cmake ninja-build ccache qtbase5-dev libqt5svg5-dev librsvg2-bin zlib1g-dev
-    fonts-inter fonts-droid-fallback)
+# Touches with a time of their own, and input methods, are private to the toolkit.
+BUILD_PACKAGES=(g++ cmake ninja-build ccache qtbase5-dev qtbase5-private-dev libqt5svg5-dev
+    librsvg2-bin zlib1g-dev fonts-inter fonts-droid-fallback)
 DESIGNER_PACKAGES=(qttools5-dev)
 STYLE_PACKAGES=(clang-format python3)
-# Touches with a time of their own go through the toolkit's private headers.
-KIT_PACKAGES=(qtbase5-private-dev)
 # The tests read symbols with binutils, link through pkg-config and fall back to DejaVu.
-TEST_PACKAGES=("${BUILD_PACKAGES[@]}" "${DESIGNER_PACKAGES[@]}" "${KIT_PACKAGES[@]}"
+TEST_PACKAGES=("${BUILD_PACKAGES[@]}" "${DESIGNER_PACKAGES[@]}"
     "${STYLE_PACKAGES[@]}" binutils pkg-config fonts-dejavu-core)
 BENCHMARK_PACKAGES=("${BUILD_PACKAGES[@]}" libbenchmark-dev valgrind fonts-dejavu-core)
 FUZZ_PACKAGES=("${BUILD_PACKAGES[@]}" clang libclang-rt-14-dev)

@@ -43,6 +43,13 @@ bool isForeign(const QString &symbol, QChar type)
     return marks.match(symbol).hasMatch() || (is_weak && !is_ours);
 }
 
+/// A copy of what the widgets' library defines in a header.
+bool isOfWidgets(const QString &symbol, QChar type)
+{
+    return QStringLiteral("WVu").contains(type)
+        && symbol.startsWith(QLatin1String("vexo::hox::qt::ui::"));
+}
+
 /// The member functions that the exported class of a header defines on one line, as Class::name.
 QStringList inlineFunctions(const QString &header)
 {
@@ -110,6 +117,7 @@ void TestLibrary::exportsItsPublicClassesAndNothingElse()
 {
     QFETCH(QStringList, interface);
     QStringList missing = interface;
+    const bool is_beside_widgets = qstrcmp(QTest::currentDataTag(), "libhoxqpanel.so") == 0;
     const QStringList lines = exported(QString::fromLatin1(QTest::currentDataTag()));
     QVERIFY(!lines.isEmpty());
     for (const QString &line : lines) {
@@ -117,7 +125,9 @@ void TestLibrary::exportsItsPublicClassesAndNothingElse()
         const QChar type = line.section(QLatin1Char(' '), 1, 1).at(0);
         const QString owner = ownerOf(symbol).isEmpty() ? symbol : ownerOf(symbol);
         missing.removeAll(owner);
-        QVERIFY2(interface.contains(owner) || isForeign(symbol, type), qPrintable(symbol));
+        const bool is_copy = is_beside_widgets && isOfWidgets(symbol, type);
+        QVERIFY2(
+            is_copy || interface.contains(owner) || isForeign(symbol, type), qPrintable(symbol));
     }
     QCOMPARE(missing, QStringList());
 }
