@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "panel/keygrid_p.h"
 
+#include "panel/mm_p.h"
+
 #include <ScalingInfo>
 #include <VexoKeyboardButton>
 
@@ -111,14 +113,13 @@ void KeyGrid::place(const QRect &px)
 {
     if (m_caps.empty() || px.isEmpty())
         return;
-    const auto &scaling = *ui::ScalingInfo::inst();
-    const double widest = double(scaling.mm2px_X(float(largest_pitch_mm)));
-    const int full_gap = int(scaling.mm2px_X(float(GAP_MM)));
+    const double widest = mmX(largest_pitch_mm);
+    const int full_gap = mmX(GAP_MM);
     m_pitch = qMin(widest, (px.width() + full_gap) / m_columns);
     const int gap_x = qMin(full_gap, int(m_pitch * largest_gap));
     m_pitch = qMin(widest, (px.width() + gap_x) / m_columns);
     const double line = double(px.height()) / m_row_count;
-    const int gap_y = qMin(int(scaling.mm2px_Y(float(GAP_MM))), int(line * largest_gap));
+    const int gap_y = qMin(mmY(GAP_MM), int(line * largest_gap));
     const double row_pitch = double(px.height() + gap_y) / m_row_count;
     const int x = px.left() + int((px.width() + gap_x - m_pitch * m_columns) / 2);
     setImageSize();

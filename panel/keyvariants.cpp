@@ -2,8 +2,8 @@
 #include "panel/keyvariants_p.h"
 
 #include "panel/keylook_p.h"
+#include "panel/mm_p.h"
 
-#include <ScalingInfo>
 #include <VexoKeyboardButton>
 
 namespace vexo::hox::qt::panel {
@@ -11,8 +11,8 @@ namespace vexo::hox::qt::panel {
 namespace {
 
 const int unused_ms = 4000;
-const float least_width_mm = 8;
-const float gap_mm = 1;
+const double least_width_mm = 8;
+const double gap_mm = 1;
 
 } // namespace
 
@@ -82,12 +82,11 @@ KeyVariants::Button *KeyVariants::addButton(const QString &variant)
 
 void KeyVariants::place(const Button &key)
 {
-    const auto &scaling = *ui::ScalingInfo::inst();
-    const QSize gap(int(scaling.mm2px_X(gap_mm)), int(scaling.mm2px_Y(gap_mm)));
+    const QSize gap(mmX(gap_mm), mmY(gap_mm));
     const int count = m_buttons.size();
     const QRect room = parentWidget()->rect();
     const int fitting = (room.width() - (count + 1) * gap.width()) / count;
-    const int wanted = qMax(key.width(), int(scaling.mm2px_X(least_width_mm)));
+    const int wanted = qMax(key.width(), mmX(least_width_mm));
     const QSize cap(qMax(1, qMin(wanted, fitting)), key.height());
     for (int i = 0; i < count; ++i) {
         m_buttons.at(i)->setButtonTextFontSizeInPt(key.buttonTextFontSizeInPt());

@@ -6,6 +6,7 @@
 #include "panel/keygrid_p.h"
 #include "panel/keylook_p.h"
 #include "panel/keyvariants_p.h"
+#include "panel/mm_p.h"
 #include "panel/textsender_p.h"
 
 #include <ScalingInfo>
@@ -33,16 +34,6 @@ const ulong double_tap_ms = 400;
 
 const QString symbols = QStringLiteral("symbols");
 const QString more = QStringLiteral("more");
-
-int pxX(double mm)
-{
-    return int(ui::ScalingInfo::inst()->mm2px_X(float(mm)));
-}
-
-int pxY(double mm)
-{
-    return int(ui::ScalingInfo::inst()->mm2px_Y(float(mm)));
-}
 
 QString padOf(Qt::InputMethodHints hints)
 {
@@ -169,12 +160,12 @@ QSize OnScreenKeyboard::sizeHint() const
 {
     const double height
         = rowCount() * (m_key_height_mm + KeyGrid::GAP_MM) - KeyGrid::GAP_MM + 2 * margin_mm;
-    return QSize(pxX(11 * usual_letter_mm + 2 * margin_mm), pxY(height));
+    return QSize(mmX(11 * usual_letter_mm + 2 * margin_mm), mmY(height));
 }
 
 QSize OnScreenKeyboard::minimumSizeHint() const
 {
-    return QSize(pxX(least_width_mm), pxY(rowCount() * least_line_mm + 2 * margin_mm));
+    return QSize(mmX(least_width_mm), mmY(rowCount() * least_line_mm + 2 * margin_mm));
 }
 
 void OnScreenKeyboard::readReceiver()
@@ -515,7 +506,7 @@ void OnScreenKeyboard::fingerMoved(const QPoint &px)
     KeyVariants *strip = m_variants;
     if (!strip || !strip->isVisible())
         return;
-    const bool has_slid = qAbs(px.x()) > pxX(slide_mm) || -px.y() > pxY(slide_mm);
+    const bool has_slid = qAbs(px.x()) > mmX(slide_mm) || -px.y() > mmY(slide_mm);
     strip->choose(mapToGlobal(m_finger->place()), has_slid);
 }
 
@@ -530,7 +521,7 @@ void OnScreenKeyboard::fingerLifting(const QPoint &px)
     }
     const KeyboardKey *key = m_grid->find(m_finger->key());
     const bool is_on_space = key && key->function == KeyboardKey::Space;
-    if (!is_on_space || qAbs(px.x()) < pxX(swipe_mm) || !hasNextLanguage())
+    if (!is_on_space || qAbs(px.x()) < mmX(swipe_mm) || !hasNextLanguage())
         return;
     m_finger->takeBack();
     goToLanguage(px.x() < 0 ? 1 : -1);
@@ -538,7 +529,7 @@ void OnScreenKeyboard::fingerLifting(const QPoint &px)
 
 QRect OnScreenKeyboard::keyArea() const
 {
-    return rect().adjusted(pxX(margin_mm), pxY(margin_mm), -pxX(margin_mm), -pxY(margin_mm));
+    return rect().adjusted(mmX(margin_mm), mmY(margin_mm), -mmX(margin_mm), -mmY(margin_mm));
 }
 
 int OnScreenKeyboard::rowCount() const
