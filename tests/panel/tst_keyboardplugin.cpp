@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panel/typist.h"
 #include "support/panelscale.h"
-#include "support/testcase.h"
+#include "support/virtualclock.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -73,7 +73,7 @@ public:
 } // namespace
 
 /// The input method, in applications that know nothing of it.
-class TestKeyboardPlugin : public TestCase
+class TestKeyboardPlugin : public VirtualTimeTestCase
 {
     Q_OBJECT
 
@@ -98,7 +98,7 @@ void TestKeyboardPlugin::comesAndGoesWithTheFocus()
     const QInputMethod &method = *QGuiApplication::inputMethod();
     form.button->setFocus();
     activate(&form);
-    QTest::qWait(50);
+    virtualclock::pass(50);
     QVERIFY(!keyboardOf(form));
     const QRect before = form.last->geometry();
 
@@ -160,10 +160,10 @@ void TestKeyboardPlugin::contentStaysUpWhateverTheLayoutDoes()
     form.last->setFocus();
     QTRY_VERIFY(keyboardOf(form));
     form.label->setText(QString(5, QLatin1Char('\n')));
-    QTest::qWait(20);
+    virtualclock::pass(20);
     QVERIFY(bottomOf(*form.last) < keyboardOf(form)->y());
     form.resize(700, 640);
-    QTest::qWait(20);
+    virtualclock::pass(20);
     QCOMPARE(keyboardOf(form)->geometry().bottomRight(), form.rect().bottomRight());
     QCOMPARE(bottomOf(*form.last), keyboardOf(form)->y() - 13);
     form.last->hide();
@@ -235,10 +235,10 @@ void TestKeyboardPlugin::staysBesideTheListOfACompleter()
     uitest::Finger finger(&form);
     Typist(*keyboardOf(form), &finger).type(text("Ha"));
     QTRY_VERIFY(completer.popup()->isVisible());
-    QTest::qWait(20);
+    virtualclock::pass(20);
     QVERIFY(keyboardOf(form));
     completer.popup()->hide();
-    QTest::qWait(20);
+    virtualclock::pass(20);
     QVERIFY(keyboardOf(form));
 }
 
