@@ -135,6 +135,7 @@ void ContactsScreen::find(const QString &text)
 
 void ContactsScreen::call(const QModelIndex &person)
 {
+    setSearching(false);
     const QString name = person.data().toString();
     PanelDialog *question = panel()->ask(tr("Call %1?").arg(name));
     question->setExplanation(

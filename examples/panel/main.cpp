@@ -3,7 +3,6 @@
 #include "panelwindow.h"
 #include "shots.h"
 
-#include <Panel>
 #include <ScalingInfo>
 
 #include <QApplication>
@@ -14,17 +13,6 @@
 using namespace vexo::hox::qt::ui;
 
 namespace {
-
-void setUp(QApplication *application, const Options &options)
-{
-    PanelOptions panel;
-    panel.px = options.px;
-    panel.mm = options.mm;
-    panel.use_palette = false; // the window has a sheet and a palette for day and night
-    panel.use_mm_sheet = false;
-    panel.sheets.clear();
-    Panel::setUp(*application, panel);
-}
 
 int run(int &argc, char **argv)
 {
@@ -39,7 +27,7 @@ int run(int &argc, char **argv)
     if (!options.shots.isEmpty() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    setUp(&application, options);
+    setUpPanel(&application, options);
     PanelWindow window;
     window.resize(ScalingInfo::inst()->m_pixels);
     if (!options.shots.isEmpty()) {

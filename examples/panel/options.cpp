@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "options.h"
 
+#include <Panel>
+
+#include <QApplication>
 #include <QRegularExpression>
 
 #include <stdexcept>
+
+using namespace vexo::hox::qt::ui;
 
 namespace {
 
@@ -55,4 +60,15 @@ const char *Options::help()
     return "panel [--panel WxH@WxH] [--shots DIR]\n"
            "  --panel WxH@WxH  pixels and millimetres of a panel, such as 1280x800@160x100\n"
            "  --shots DIR      a picture of each screen to DIR; needs no display\n";
+}
+
+void setUpPanel(QApplication *application, const Options &options)
+{
+    PanelOptions panel;
+    panel.px = options.px;
+    panel.mm = options.mm;
+    panel.use_palette = false; // the window has its own, for day and night
+    panel.use_mm_sheet = false;
+    panel.sheets.clear();
+    Panel::setUp(*application, panel);
 }

@@ -8,6 +8,8 @@
 
 #include <optional>
 
+class QApplication;
+
 /// The command line.
 struct Options
 {
@@ -19,3 +21,6 @@ struct Options
     static Options read(const QStringList &arguments);
     static const char *help();
 };
+
+/// Scale, style and fonts of the panel; its sheets and palette are those of the PanelWindow.
+void setUpPanel(QApplication *application, const Options &options);
