@@ -68,6 +68,8 @@ void ContactsScreen::setUpSearch()
         m_search->setBackgroundColor(look().ground);
         m_search->setTextColor(look().ink);
         m_search->setCursorColor(look().ink);
+        const QString &language = panel()->language();
+        m_keyboard->setLanguages({ language, language == "de" ? "en" : "de" });
         m_keyboard->setBackgroundColor(look().line);
         m_nobody->setText(tr("Nobody has this name."));
     });

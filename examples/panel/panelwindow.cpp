@@ -32,6 +32,7 @@ PanelWindow::PanelWindow()
 {
     setWindowTitle("Panel");
     setNight(false);
+    setLanguage(QLocale().language() == QLocale::German ? "de" : "en");
     addScreens();
     m_stack->open("start");
 }
@@ -87,6 +88,18 @@ void PanelWindow::setNight(bool is_night)
     setGround(this, look->ground);
     m_notice->setBackgroundColor(look->pressed);
     m_notice->setTextColor(look->pressed_ink);
+    Q_EMIT changed();
+}
+
+void PanelWindow::setLanguage(const QString &code)
+{
+    if (code == m_language)
+        return;
+    m_language = code;
+    QCoreApplication::removeTranslator(&m_translator);
+    if (code == "de" && m_translator.load(":/panel/panel_de.qm"))
+        QCoreApplication::installTranslator(&m_translator);
+    setLocale(QLocale(code)); // of dates, on all screens
     Q_EMIT changed();
 }
 

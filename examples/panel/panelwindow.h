@@ -3,6 +3,7 @@
 
 #include "parts.h"
 
+#include <QTranslator>
 #include <QWidget>
 
 #include <functional>
@@ -39,6 +40,10 @@ public:
     bool isNight() const { return m_look == &Look::night(); }
     void setNight(bool is_night);
 
+    /// "de", or "en", which is what the texts are written in.
+    QString language() const { return m_language; }
+    void setLanguage(const QString &code);
+
     /// Calls \a show now, and again whenever the look or the language has changed, as long as
     /// \a context lives.
     void follow(QObject *context, const std::function<void()> &show);
@@ -54,6 +59,8 @@ private:
     void addScreens();
 
     const Look *m_look = nullptr;
+    QString m_language;
+    QTranslator m_translator;
     std::unique_ptr<vexo::hox::qt::panel::MmStylesheet> m_sheet;
     vexo::hox::qt::panel::PageStack *const m_stack;
     vexo::hox::qt::panel::PanelNotice *const m_notice;

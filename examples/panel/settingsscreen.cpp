@@ -12,6 +12,7 @@
 #include <VexoSlider>
 #include <VexoVerticalScrollArea>
 
+#include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QLabel>
 
@@ -32,6 +33,7 @@ SettingsScreen::SettingsScreen(PanelWindow *panel)
     addHead([] { return tr("Settings"); });
     m_list = addList();
     addLook();
+    addLanguages();
     addDimming();
     addDelay();
     addScreens();
@@ -65,8 +67,7 @@ VexoFunctionButton *SettingsScreen::addSwitch(const Text &text, bool is_on)
     addRow(row);
     follow([=] {
         row->setText(text());
-        row->setTextColor(look().ink);
-        row->setBackgroundColor(look().surface);
+        dressRow(row);
     });
     return row;
 }
@@ -121,6 +122,31 @@ void SettingsScreen::addLook()
     addHeading([] { return tr("Display"); });
     const Row *night = addSwitch([] { return tr("Night look"); }, panel()->isNight());
     connect(night->getButtonInstance(), &QAbstractButton::toggled, panel(), &PanelWindow::setNight);
+}
+
+// Each language is called what its speakers call it.
+void SettingsScreen::addLanguages()
+{
+    addHeading([] { return tr("Language"); });
+    auto *group = new QButtonGroup(this);
+    const auto add = [=](const QString &code, const QString &name) {
+        auto *row = new Row(nullptr, Row::RadiobuttonType);
+        row->setText(name);
+        group->addButton(row->getButtonInstance());
+        row->getButtonInstance()->setChecked(panel()->language() == code);
+        addRow(row);
+        connect(row->getButtonInstance(), &QAbstractButton::clicked, panel(),
+            [=] { panel()->setLanguage(code); });
+        follow([=] { dressRow(row); });
+    };
+    add("de", "Deutsch");
+    add("en", "English");
+}
+
+void SettingsScreen::dressRow(Row *row) const
+{
+    row->setTextColor(look().ink);
+    row->setBackgroundColor(look().surface);
 }
 
 void SettingsScreen::addDimming()

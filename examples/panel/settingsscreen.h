@@ -22,10 +22,12 @@ private:
 
     void addHeading(const Text &text);
     void addRow(QWidget *row);
+    void dressRow(Row *row) const;
     Row *addSwitch(const Text &text, bool is_on);
     QWidget *createLabelled(const Text &text, QWidget *control);
     Slider *addSlider(const Text &text, const QString &unit, int step, int maximum, int value);
     void addLook();
+    void addLanguages();
     void addDimming();
     void addDelay();
     void addScreens();

@@ -96,6 +96,7 @@ void takeShots(PanelWindow *panel, const QString &folder)
 {
     if (!QDir().mkpath(folder))
         throw std::runtime_error("cannot create " + folder.toStdString());
+    panel->setLanguage("en");
     panel->setAttribute(Qt::WA_DontShowOnScreen);
     panel->show();
     QApplication::setActiveWindow(panel); // some grounds are those of an active window
@@ -106,4 +107,7 @@ void takeShots(PanelWindow *panel, const QString &folder)
     panel->setNight(true);
     takeScreens(&album, "-night");
     takeSearch(panel, &album, "-night");
+    panel->setNight(false);
+    panel->setLanguage("de");
+    takeScreens(&album, "-de");
 }

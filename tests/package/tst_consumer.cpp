@@ -94,7 +94,7 @@ void TestConsumer::picturesThePanelApplication()
     const QString shots = folder + "/shots";
     const Finished result = run(folder + "/panel", panel + QStringList{ "--shots", shots });
     QVERIFY2(result.exit_code == 0, qPrintable(result.output));
-    QVERIFY(QDir(shots).entryList({ "*.png" }).contains("20-search-night.png"));
+    QVERIFY(QDir(shots).entryList({ "*.png" }).contains("27-update-de.png"));
     QCOMPARE(run(folder + "/panel", { "--panel", "640x400" }).exit_code, 2);
 }
 

@@ -196,6 +196,7 @@ void Visitor::update()
 
 void walk(PanelWindow *panel, const std::function<void(const QString &step)> &note)
 {
+    panel->setLanguage("en");
     note("The start");
     Visitor visitor(panel, note);
     visitor.callSomebody();
