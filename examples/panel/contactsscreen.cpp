@@ -100,7 +100,7 @@ void ContactsScreen::setUpBar()
 {
     const QList<QPushButton *> buttons = m_bar->findChildren<QPushButton *>();
     for (QPushButton *button : buttons)
-        button->setFixedSize(mmSize(bar_in_mm, 8)); // 60 x 60 px are another size on each panel
+        button->setFixedSize(mmSize(bar_in_mm, 9)); // 60 x 60 px are another size on each panel
     m_bar->setFixedWidth(mmX(bar_in_mm));
     m_list->connectJumpBar(m_bar);
     follow([this] { dressBar(); });
@@ -111,11 +111,11 @@ void ContactsScreen::dressBar()
     setGround(m_bar, look().line);
     const QString sheet = "QPushButton { background: %1; color: %2; border: none; font-size: %3px; "
                           "icon-size: %4px; }"
-                          "QPushButton:pressed { background: %5; color: %6; }";
+                          "QPushButton:pressed { background: %5; }";
     m_bar->setStyleSheet(sheet.arg(look().line.name(), look().ink.name())
                              .arg(ptFont(9).pixelSize())
                              .arg(mmX(5))
-                             .arg(look().pressed.name(), look().pressed_ink.name()));
+                             .arg(look().surface.name()));
     m_bar->setUpIcon(CachedVectorIcon(look().icon("up"), QSizeF(5, 5)).toPixmap());
     m_bar->setDownIcon(CachedVectorIcon(look().icon("down"), QSizeF(5, 5)).toPixmap());
 }

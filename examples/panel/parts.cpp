@@ -116,6 +116,7 @@ void dress(VexoIconButton *button, const Look &look, const QString &icon)
 {
     button->removeIcons(); // else a state keeps the icon that it has
     button->addIcon(ActiveButton::DEFAULT_STATE_NAME, look.icon(icon));
-    button->addIcon(ActiveButton::INACTIVE_STATE_NAME, look.icon(icon));
-    button->createMissingInverseIcons();
+    const QString touched = ":/panel/touched/" + icon + ".svg"; // an inverse one has no ground here
+    button->addIcon(ActiveButton::CLICKED_STATE_NAME, touched);
+    button->addIcon(ActiveButton::INACTIVE_STATE_NAME, touched);
 }

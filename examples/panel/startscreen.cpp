@@ -28,6 +28,13 @@ double tileHeight()
     return qBound(14.5, (free - gap_in_mm) / 2, 36.0);
 }
 
+// The toolkit lays out and paints anew for a text that is the same, too.
+void showText(QLabel *label, const QString &text)
+{
+    if (label->text() != text)
+        label->setText(text);
+}
+
 } // namespace
 
 StartScreen::StartScreen(PanelWindow *panel)
@@ -137,8 +144,8 @@ void StartScreen::timerEvent(QTimerEvent *)
 void StartScreen::showTime()
 {
     const QDateTime now = QDateTime::currentDateTime();
-    m_time->setText(now.time().toString("hh:mm"));
-    m_date->setText(locale().toString(now.date(), QLocale::LongFormat));
+    showText(m_time, now.time().toString("hh:mm"));
+    showText(m_date, locale().toString(now.date(), QLocale::LongFormat));
     if (isVisible())
         m_minute.start(60 * 1000 - now.time().msecsSinceStartOfDay() % (60 * 1000), this);
 }
