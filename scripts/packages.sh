@@ -6,10 +6,12 @@
 # Touches with a time of their own, and input methods, are private to the toolkit.
 BUILD_PACKAGES=(g++ cmake ninja-build ccache qtbase5-dev qtbase5-private-dev libqt5svg5-dev
     librsvg2-bin zlib1g-dev fonts-inter fonts-droid-fallback)
+# Its catalogues are compiled by lrelease.
+PANEL_PACKAGES=("${BUILD_PACKAGES[@]}" qttools5-dev qttools5-dev-tools)
 DESIGNER_PACKAGES=(qttools5-dev)
 STYLE_PACKAGES=(clang-format python3)
 # The tests read symbols with binutils, link through pkg-config and fall back to DejaVu.
-TEST_PACKAGES=("${BUILD_PACKAGES[@]}" "${DESIGNER_PACKAGES[@]}"
+TEST_PACKAGES=("${PANEL_PACKAGES[@]}" "${DESIGNER_PACKAGES[@]}"
     "${STYLE_PACKAGES[@]}" binutils pkg-config fonts-dejavu-core)
 BENCHMARK_PACKAGES=("${BUILD_PACKAGES[@]}" libbenchmark-dev valgrind fonts-dejavu-core)
 FUZZ_PACKAGES=("${BUILD_PACKAGES[@]}" clang libclang-rt-14-dev)

@@ -43,6 +43,7 @@ class TestConsumer : public QObject
 private Q_SLOTS:
     void findsThePackageWithCMake();
     void buildsTheExample();
+    void picturesThePanelApplication();
     void testsItsScreenWithTheKit();
     void findsThePackageWithPkgConfig();
     void laterMajorVersionIsRefused();
@@ -83,6 +84,18 @@ void TestConsumer::findsThePackageWithCMake()
 void TestConsumer::buildsTheExample()
 {
     verifyBuilds(m_dir.filePath("example"), QStringLiteral(HOXQ_SOURCE "/examples/first-panel"));
+}
+
+void TestConsumer::picturesThePanelApplication()
+{
+    const QString folder = m_dir.filePath("panel");
+    verifyBuilds(folder, QStringLiteral(HOXQ_SOURCE "/examples/panel"));
+    const QStringList panel{ "--panel", "640x400@160x80" };
+    const QString shots = folder + "/shots";
+    const Finished result = run(folder + "/panel", panel + QStringList{ "--shots", shots });
+    QVERIFY2(result.exit_code == 0, qPrintable(result.output));
+    QVERIFY(QDir(shots).entryList({ "*.png" }).contains("27-update-de.png"));
+    QCOMPARE(run(folder + "/panel", { "--panel", "640x400" }).exit_code, 2);
 }
 
 void TestConsumer::testsItsScreenWithTheKit()

@@ -34,7 +34,8 @@ private:
 
 namespace {
 
-const QStringList SCRIPTS{ "benchmark", "docs", "fuzz", "gallery", "lint", "style", "test" };
+const QStringList SCRIPTS{ "benchmark", "docs", "fuzz", "gallery", "lint", "panel", "style",
+    "test" };
 
 QString lastLine(const QString &output)
 {
