@@ -3,6 +3,7 @@
 #include "walk/walk.h"
 
 #include "support/testcase.h"
+#include "uitest/acceptedfindings.h"
 
 #include <PageStack>
 #include <Panel>
@@ -10,39 +11,11 @@
 #include <Soak>
 
 #include <QAbstractButton>
-#include <QFile>
-#include <QRegularExpression>
 
 using namespace vexo::hox::qt::ui;
 using namespace vexo::hox::qt::uitest;
 
 namespace {
-
-/// A line of accepted_example.txt.
-struct Accepted
-{
-    QRegularExpression screen;
-    QString rule;
-    QRegularExpression what;
-    QString line;
-    bool is_needed = false;
-};
-
-QVector<Accepted> readAccepted()
-{
-    QVector<Accepted> accepted;
-    QFile file(QStringLiteral(HOXQ_ACCEPTED_EXAMPLE));
-    if (!file.open(QIODevice::ReadOnly))
-        return accepted;
-    const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
-    for (const QString &line : lines) {
-        const QStringList parts = line.split(" | ");
-        if (parts.size() == 4 && !line.startsWith(QLatin1Char('#')))
-            accepted.append({ QRegularExpression(QRegularExpression::anchoredPattern(parts.at(0))),
-                parts.at(1), QRegularExpression(parts.at(2)), line });
-    }
-    return accepted;
-}
 
 /// Counts how often a page is painted.
 class Paints : public QObject
@@ -82,7 +55,7 @@ private Q_SLOTS:
 
 private:
     std::unique_ptr<PanelWindow> m_panel;
-    QVector<Accepted> m_accepted;
+    AcceptedFindings m_accepted;
 };
 
 void TestPanelExample::initTestCase()
@@ -95,8 +68,7 @@ void TestPanelExample::initTestCase()
     options.use_mm_sheet = false;
     options.sheets.clear();
     Panel::setUp(*qobject_cast<QApplication *>(qApp), options);
-    m_accepted = readAccepted();
-    QVERIFY(!m_accepted.isEmpty());
+    QVERIFY(m_accepted.read(QStringLiteral(HOXQ_ACCEPTED_EXAMPLE)));
 }
 
 void TestPanelExample::init()
@@ -144,27 +116,13 @@ void TestPanelExample::screensAreGood()
     m_panel->setNight(is_night);
     m_panel->stack()->open(screen);
     QTest::qWait(0);
-    QVector<Finding> unexpected;
-    const QVector<Finding> findings = PanelAudit::all(m_panel.get(), 100);
-    for (const Finding &finding : findings) {
-        bool is_accepted = false;
-        for (Accepted &accepted : m_accepted) {
-            const bool is_this = accepted.screen.match(screen).hasMatch()
-                && accepted.rule == finding.rule
-                && accepted.what.match(finding.where + ": " + finding.text).hasMatch();
-            accepted.is_needed = accepted.is_needed || is_this;
-            is_accepted = is_accepted || is_this;
-        }
-        if (!is_accepted)
-            unexpected.append(finding);
-    }
+    const auto unexpected = m_accepted.others(PanelAudit::all(m_panel.get(), 100), screen);
     QVERIFY2(unexpected.isEmpty(), qPrintable(PanelAudit::report(unexpected)));
 }
 
 void TestPanelExample::eachAcceptedLineIsNeeded()
 {
-    for (const Accepted &accepted : qAsConst(m_accepted))
-        QVERIFY2(accepted.is_needed, qPrintable(accepted.line));
+    QCOMPARE(m_accepted.needless(), QStringList());
 }
 
 void TestPanelExample::languageChangesWhatIsShown()

@@ -2,55 +2,17 @@
 #include "gallery/mainwindow.h"
 #include "gallery/pagelist.h"
 #include "support/testcase.h"
+#include "uitest/acceptedfindings.h"
 #include "uitest/auditing.h"
 
 #include <Panel>
 
 #include <QElapsedTimer>
-#include <QFile>
-#include <QRegularExpression>
 
 using namespace auditing;
 using namespace vexo::hox::qt::ui;
 
 namespace {
-
-/// A line of accepted.txt.
-struct Accepted
-{
-    QRegularExpression page;
-    QString rule;
-    QRegularExpression what;
-    QString line;
-    bool is_needed = false;
-};
-
-QRegularExpression whole(const QString &pattern)
-{
-    return QRegularExpression(QRegularExpression::anchoredPattern(pattern));
-}
-
-QVector<Accepted> readAccepted()
-{
-    QVector<Accepted> accepted;
-    QFile file(QStringLiteral(HOXQ_ACCEPTED));
-    if (!file.open(QIODevice::ReadOnly))
-        return accepted;
-    const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
-    for (const QString &line : lines) {
-        const QStringList parts = line.split(" | ");
-        if (parts.size() == 4 && !line.startsWith(QLatin1Char('#')))
-            accepted.append({ whole(parts.at(0)), parts.at(1),
-                QRegularExpression(parts.at(2).trimmed()), line });
-    }
-    return accepted;
-}
-
-bool isFor(const Accepted &accepted, const QString &page, const Finding &finding)
-{
-    return accepted.page.match(page).hasMatch() && accepted.rule == finding.rule
-        && accepted.what.match(finding.where + ": " + finding.text).hasMatch();
-}
 
 void open(MainWindow *window, int page)
 {
@@ -74,7 +36,7 @@ private Q_SLOTS:
     void settingsTakeAMoment();
 
 private:
-    QVector<Accepted> m_accepted;
+    AcceptedFindings m_accepted;
 };
 
 void TestPanelAuditGallery::initTestCase()
@@ -84,8 +46,7 @@ void TestPanelAuditGallery::initTestCase()
     options.px = QSize(1280, 800);
     options.mm = QSizeF(160, 100);
     Panel::setUp(*qobject_cast<QApplication *>(qApp), options);
-    m_accepted = readAccepted();
-    QVERIFY(!m_accepted.isEmpty());
+    QVERIFY(m_accepted.read(QStringLiteral(HOXQ_ACCEPTED)));
 }
 
 void TestPanelAuditGallery::pagesAreGood_data()
@@ -105,26 +66,15 @@ void TestPanelAuditGallery::pagesAreGood()
     window.setFocus(); // no cursor blinks
     PanelAudit::texts(&window); // the sliders come to rest in their second layout only
     const QImage before = window.grab().toImage();
-    Findings unexpected;
-    const Findings findings = PanelAudit::all(&window, 100);
-    for (const Finding &finding : findings) {
-        bool is_accepted = false;
-        for (Accepted &accepted : m_accepted) {
-            const bool is_this = isFor(accepted, pageList().at(page).name, finding);
-            accepted.is_needed = accepted.is_needed || is_this;
-            is_accepted = is_accepted || is_this;
-        }
-        if (!is_accepted)
-            unexpected.append(finding);
-    }
+    const auto unexpected
+        = m_accepted.others(PanelAudit::all(&window, 100), pageList().at(page).name);
     QVERIFY2(unexpected.isEmpty(), qPrintable(PanelAudit::report(unexpected)));
     QTRY_COMPARE(window.grab().toImage(), before); // some cursors blink
 }
 
 void TestPanelAuditGallery::eachAcceptedLineIsNeeded()
 {
-    for (const Accepted &accepted : qAsConst(m_accepted))
-        QVERIFY2(accepted.is_needed, qPrintable(accepted.line));
+    QCOMPARE(m_accepted.needless(), QStringList());
 }
 
 // Of its twelve rows and a stepper; what the screen costs once is the measure.
