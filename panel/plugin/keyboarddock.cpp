@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "panel/plugin/keyboarddock.h"
 
+#include "panel/mm_p.h"
 #include "panel/plugin/keyboardchoice.h"
 
 #include <OnScreenKeyboard>
-#include <ScalingInfo>
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -15,15 +15,10 @@
 
 namespace {
 
-using vexo::hox::qt::ui::ScalingInfo;
+using vexo::hox::qt::panel::mmY;
 
-const float margin_mm = 2; // around the field
+const double margin_mm = 2; // around the field
 const double largest_part = 0.6; // of the window's height
-
-int pxY(float mm)
-{
-    return int(ScalingInfo::inst()->mm2px_Y(mm));
-}
 
 QRect cursorIn(QWidget *field)
 {
@@ -195,7 +190,7 @@ void KeyboardDock::keepFieldAbove(int bottom)
     QWidget *field = m_field;
     if (!window || !field || !window->isAncestorOf(field))
         return;
-    const int margin = pxY(margin_mm);
+    const int margin = mmY(margin_mm);
     QRect keep = partToKeep(field, bottom - 2 * margin);
     keep.moveTopLeft(field->mapTo(window, keep.topLeft()) + QPoint(0, m_shift.upPx()));
     const int hidden = keep.bottom() + 1 + margin - bottom;
