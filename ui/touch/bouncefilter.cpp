@@ -52,17 +52,21 @@ bool BounceFilter::eventFilter(QObject *watched, QEvent *event)
     }
 }
 
+// A finger has no other button than the left one.
 bool BounceFilter::takesPress(const QMouseEvent &press)
 {
-    m_takes_mouse = isBounce(press.globalPos(), press.timestamp());
+    if (press.button() == Qt::LeftButton)
+        m_takes_mouse = isBounce(press.globalPos(), press.timestamp());
     return m_takes_mouse;
 }
 
 bool BounceFilter::takesRelease(const QMouseEvent &release)
 {
     const bool takes = m_takes_mouse;
-    m_takes_mouse = false;
-    noteLift(release.globalPos(), release.timestamp());
+    if (release.button() == Qt::LeftButton) {
+        m_takes_mouse = false;
+        noteLift(release.globalPos(), release.timestamp());
+    }
     return takes;
 }
 

@@ -6,6 +6,7 @@
 
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTouchEvent>
 #include <QWindow>
 
@@ -108,12 +109,12 @@ private:
     QMap<int, QTouchEvent::TouchPoint> m_points;
 };
 
-void sendMouse(QWidget *window, const Report &report)
+void sendMouse(QWidget *window, const Report &report, Qt::MouseButton button = Qt::LeftButton)
 {
     const bool is_press = report.state == Qt::TouchPointPressed;
     QMouseEvent event(is_press ? QEvent::MouseButtonPress : QEvent::MouseButtonRelease,
-        report.place, report.place, window->mapToGlobal(report.place), Qt::LeftButton,
-        is_press ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        report.place, report.place, window->mapToGlobal(report.place), button,
+        is_press ? button : Qt::NoButton, Qt::NoModifier);
     event.setTimestamp(report.ms);
     QCoreApplication::sendEvent(window->windowHandle(), &event);
 }
@@ -131,6 +132,7 @@ private Q_SLOTS:
     void takesBouncesOnly();
     void otherFingersGoOn_data();
     void otherFingersGoOn();
+    void anotherButtonIsNoFinger();
 
 private:
     PanelScale m_scale{ 5, 10 };
@@ -207,6 +209,19 @@ void TestBounceFilter::otherFingersGoOn()
     for (const Report &report : qAsConst(reports))
         screen.report(report);
     QTEST(pad.log, "log");
+}
+
+void TestBounceFilter::anotherButtonIsNoFinger()
+{
+    QPushButton button;
+    button.resize(400, 300);
+    button.show();
+    QSignalSpy clicked(&button, &QPushButton::clicked);
+    for (const Report &report : tap(40000))
+        sendMouse(&button, report, Qt::RightButton);
+    for (const Report &report : tap(40030))
+        sendMouse(&button, report);
+    QCOMPARE(clicked.size(), 1);
 }
 
 QTEST_MAIN(TestBounceFilter)
