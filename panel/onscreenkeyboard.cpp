@@ -66,7 +66,7 @@ OnScreenKeyboard::OnScreenKeyboard(QWidget *parent)
 {
     setAttribute(Qt::WA_AcceptTouchEvents);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setAccessibleName(tr("Keyboard"));
+    nameItself();
     watchFinger();
     setLanguages(usualLanguages());
     // A touch on a key is none on what lies around the keyboard and would take the focus.
@@ -213,8 +213,10 @@ void OnScreenKeyboard::hideEvent(QHideEvent *)
 
 void OnScreenKeyboard::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
+        nameItself();
         nameKeys();
+    }
     QWidget::changeEvent(event);
 }
 
@@ -419,6 +421,13 @@ void OnScreenKeyboard::showKeys()
         m_grid->place(keyArea());
     showShift();
     nameKeys();
+}
+
+void OnScreenKeyboard::nameItself()
+{
+    if (accessibleName() == m_own_name)
+        setAccessibleName(tr("Keyboard"));
+    m_own_name = tr("Keyboard");
 }
 
 void OnScreenKeyboard::nameKeys()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "panel/plugin/inputcontext.h"
 
+#include <PanelTranslations>
+
 #include <QApplication>
 #include <QInputMethodQueryEvent>
 #include <QLocale>
@@ -24,8 +26,10 @@ QWidget *focusedField()
 
 } // namespace
 
+// Before there are widgets, whose texts a change of the language would set anew.
 InputContext::InputContext()
 {
+    vexo::hox::qt::panel::PanelTranslations::setLocale();
     connect(&m_dock, &KeyboardDock::changed, this, &InputContext::emitKeyboardRectChanged);
     connect(&m_dock, &KeyboardDock::changed, this, &InputContext::emitInputPanelVisibleChanged);
     connect(&m_dock, &KeyboardDock::languageChanged, this, &InputContext::emitLocaleChanged);
