@@ -99,7 +99,7 @@ QString PanelTranslations::folder()
     const auto from = [](const QString &folder, const char *way) {
         return QDir::cleanPath(folder + QLatin1Char('/') + QLatin1String(way));
     };
-    const QString installed = from(library.absolutePath(), HOXQ_CATALOGUES);
+    QString installed = from(library.absolutePath(), HOXQ_CATALOGUES);
     const QStringList places{ installed, from(library.canonicalPath(), HOXQ_CATALOGUES),
         from(library.canonicalPath(), "translations") };
     for (const QString &place : places) {
