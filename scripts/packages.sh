@@ -7,12 +7,9 @@
 # texts are compiled by lrelease.
 BUILD_PACKAGES=(g++ cmake ninja-build ccache qtbase5-dev qtbase5-private-dev libqt5svg5-dev
     qttools5-dev qttools5-dev-tools librsvg2-bin zlib1g-dev fonts-inter fonts-droid-fallback)
-PANEL_PACKAGES=("${BUILD_PACKAGES[@]}")
-DESIGNER_PACKAGES=(qttools5-dev)
 STYLE_PACKAGES=(clang-format python3)
 # The tests read symbols with binutils, link through pkg-config and fall back to DejaVu.
-TEST_PACKAGES=("${PANEL_PACKAGES[@]}" "${DESIGNER_PACKAGES[@]}"
-    "${STYLE_PACKAGES[@]}" binutils pkg-config fonts-dejavu-core)
+TEST_PACKAGES=("${BUILD_PACKAGES[@]}" "${STYLE_PACKAGES[@]}" binutils pkg-config fonts-dejavu-core)
 BENCHMARK_PACKAGES=("${BUILD_PACKAGES[@]}" libbenchmark-dev valgrind fonts-dejavu-core)
 FUZZ_PACKAGES=("${BUILD_PACKAGES[@]}" clang libclang-rt-14-dev)
 LINT_PACKAGES=("${TEST_PACKAGES[@]}" "${BENCHMARK_PACKAGES[@]}" clang-tidy clazy)
