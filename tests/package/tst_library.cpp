@@ -82,6 +82,7 @@ private Q_SLOTS:
     void inlineFunctionsAreExportedToo();
     void hasItsVersionAndFindsItsNeighbour_data();
     void hasItsVersionAndFindsItsNeighbour();
+    void runPathsStayInTheTree();
     void bringsItsLicenceAndNotices();
 
 private:
@@ -183,6 +184,28 @@ void TestLibrary::hasItsVersionAndFindsItsNeighbour()
     static const QRegularExpression run_path("\\(R(?:UN)?PATH\\).*(\\[.*\\])");
     QCOMPARE(soname.match(readelf.output).captured(1), version);
     QTEST(run_path.match(readelf.output).captured(1), "run_path");
+}
+
+/// Of libraries, plugins and programs: from where the file lies, as far as it needs others of ours.
+void TestLibrary::runPathsStayInTheTree()
+{
+    QStringList files;
+    QDirIterator tree(
+        QStringLiteral(HOXQ_STAGE), QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories);
+    while (tree.hasNext()) {
+        const QString file = tree.next();
+        if (!file.startsWith(HOXQ_STAGE "/bin/") && !file.contains(".so"))
+            continue;
+        const QString output = run(QStringLiteral(HOXQ_READELF), { "-dW", file }).output;
+        static const QRegularExpression needs("\\(NEEDED\\).*\\[libhoxq");
+        static const QRegularExpression run_path("\\(R(?:UN)?PATH\\).*\\[(.*)\\]");
+        const QString path = run_path.match(output).captured(1);
+        const bool needs_ours = needs.match(output).hasMatch();
+        QVERIFY2(!needs_ours || path.startsWith("$ORIGIN"), qPrintable(file + ' ' + path));
+        QVERIFY2(!path.contains(HOXQ_SOURCE), qPrintable(file + ' ' + path));
+        files += file.section('/', -1);
+    }
+    QVERIFY(files.contains("hoxqui-panel") && files.contains("libhoxquikeyboard.so"));
 }
 
 void TestLibrary::bringsItsLicenceAndNotices()

@@ -66,6 +66,7 @@ private Q_SLOTS:
     void screensAreGood();
     void eachAcceptedLineIsNeeded();
     void languageChangesWhatIsShown();
+    void languageChangesWhatTheLibrariesSay();
     void changeOfThePagePaintsItOnce_data();
     void changeOfThePagePaintsItOnce();
     void leavesNothingBehind_data();
@@ -164,6 +165,27 @@ void TestPanelExample::languageChangesWhatIsShown()
     QVERIFY(!texts().contains("Settings"));
     m_panel->setLanguage("en");
     QVERIFY(texts().contains("Settings"));
+}
+
+// The keyboard in the search, and the number of seconds in the settings.
+void TestPanelExample::languageChangesWhatTheLibrariesSay()
+{
+    const auto says = [this](const QString &name) {
+        for (const QWidget *widget : m_panel->findChildren<QWidget *>()) {
+            if (widget->accessibleName() == name)
+                return true;
+        }
+        return false;
+    };
+    for (const char *screen : { "contacts", "settings" }) {
+        const bool is_search = qstrcmp(screen, "contacts") == 0;
+        m_panel->stack()->open(screen);
+        QVERIFY(says(is_search ? "Hide keyboard" : "Decrease"));
+        m_panel->setLanguage("de");
+        QTRY_VERIFY(says(is_search ? "Tastatur ausblenden" : "Verringern"));
+        m_panel->setLanguage("en");
+        QTRY_VERIFY(says(is_search ? "Hide keyboard" : "Decrease"));
+    }
 }
 
 void TestPanelExample::changeOfThePagePaintsItOnce_data()
