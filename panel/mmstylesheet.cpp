@@ -91,9 +91,19 @@ bool MmStylesheet::addText(const QString &rules, const QString &name)
     const MmSheetReader reader(rules);
     if (!reader.fault().isEmpty())
         return refuse(name + QLatin1Char(':') + reader.fault());
-    const QVector<SheetRule> read = reader.rules();
-    m_rules.insert(m_rules.end(), read.begin(), read.end());
+    const QVector<SheetRule> rules_read = reader.rules();
+    for (const SheetRule &rule : rules_read)
+        append(rule);
     return true;
+}
+
+void MmStylesheet::append(const SheetRule &rule)
+{
+    const auto former = m_places.constFind(rule.selector);
+    if (former != m_places.constEnd())
+        dropReplaced(&m_rules[*former], rule);
+    m_places.insert(rule.selector, m_rules.size());
+    m_rules.push_back(rule);
 }
 
 bool MmStylesheet::refuse(const QString &fault)
@@ -108,7 +118,7 @@ QString MmStylesheet::inPixels() const
     const ScalingInfo &scaling = *ScalingInfo::inst();
     QString text;
     for (const SheetRule &rule : m_rules)
-        text += ruleInPixels(rule, scaling);
+        printInPixels(rule, scaling, &text);
     return text;
 }
 
