@@ -10,7 +10,7 @@
 
 namespace vexo::hox::qt::ui {
 
-class TapDistance;
+class TapLimit;
 class VexoFeedbackDelegator;
 
 /// A check box for lists that are scrolled by swiping: it changes at the release instead of the
@@ -49,7 +49,7 @@ protected:
 
 private:
     const QPointer<VexoFeedbackDelegator> m_delegator;
-    const std::unique_ptr<TapDistance> m_distance;
+    const std::unique_ptr<TapLimit> m_tap_limit;
 };
 
 } // namespace vexo::hox::qt::ui

@@ -4,9 +4,9 @@
 #include "ui/foundation/fontloader.h"
 #include "ui/foundation/mmsheet_p.h"
 #include "ui/foundation/scalecheck_p.h"
-#include "ui/foundation/tapdistance_p.h"
 #include "ui/foundation/vexocolors.h"
 #include "ui/foundation/vexostylesheet.h"
+#include "ui/touch/tapdistance.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -68,7 +68,7 @@ void Panel::setUp(QApplication &application, const PanelOptions &options)
     if (options.use_fonts)
         FontLoader();
     setUpSheets(options);
-    TapDistance::setCommon(options.tap_mm);
+    TapDistance::setMm(options.tap_mm);
 }
 
 QPalette Panel::palette()

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/scrolling/vexoverticalscrollarea.h"
 
-#include "ui/foundation/tapdistance_p.h"
 #include "ui/sliders/vexoslider.h"
 #include "ui/touch/press_p.h"
+#include "ui/touch/taplimit_p.h"
 #include "ui/touch/touchwatch_p.h"
 
 #include <QEasingCurve>
