@@ -2,6 +2,7 @@
 #include "panel/mmstylesheet.h"
 
 #include "panel/mmrule_p.h"
+#include "panel/paneloptions.h"
 
 #include <ScalingInfo>
 #include <VexoColors>
@@ -49,8 +50,8 @@ MmStylesheet::~MmStylesheet() = default;
 
 QStringList MmStylesheet::files(Look look)
 {
-    QStringList names{ QStringLiteral(":/css/vexo-AAL.qs"), QStringLiteral(":/css/hoxq.qs"),
-        QStringLiteral(":/sheets/panel.qs") };
+    QStringList names = PanelOptions().sheets;
+    names += QStringLiteral(":/sheets/panel.qs");
     if (look == Night)
         names += QStringLiteral(":/sheets/night.qs");
     return names;

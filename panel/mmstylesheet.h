@@ -39,8 +39,8 @@ class HOXQPANEL_EXPORT MmStylesheet : public QObject
     Q_OBJECT
 
 public:
-    /// The ready sheets. They dress sliders, check boxes, radio buttons, combo boxes, spin boxes,
-    /// progress bars, tab bars, lists, trees, tables and scroll bars.
+    /// The ready sheets: sliders, check boxes and radio buttons as Panel::setUp() dresses them, and
+    /// combo boxes, spin boxes, progress bars, tab bars, lists, trees, tables and scroll bars.
     enum Look {
         Day, ///< dark on white
         Night ///< light on black
@@ -52,9 +52,11 @@ public:
     explicit MmStylesheet(const QStringList &files = QStringList(), QObject *parent = nullptr);
     ~MmStylesheet() override;
 
-    /// The files of a ready look, those of the widgets' library in front. Append your own to it.
+    /// The files of a ready look: those of the widgets' library, ":/sheets/controls.qs",
+    /// ":/sheets/panel.qs" and, by night, ":/sheets/night.qs". Append your own, here or in
+    /// PanelOptions::sheets.
     static QStringList files(Look look);
-    /// The palette that goes with it, for what has no rule.
+    /// The palette that goes with it, for what has no rule; Panel::setUp() takes that of the day.
     static QPalette palette(Look look);
 
     /// Appends the file \a name, a resource, path or name in a search path. False, with a warning

@@ -3,10 +3,7 @@
 #include "support/testcase.h"
 
 #include <MmStylesheet>
-#include <Panel>
 #include <ScalingInfo>
-#include <VexoSlider>
-#include <VexoSliderDecoration>
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -59,8 +56,6 @@ private Q_SLOTS:
     void readySheetFitsEachDensity();
     void readySliderIsRoundAndFilledFromItsMinimum_data();
     void readySliderIsRoundAndFilledFromItsMinimum();
-    void readySliderBesideAScaleIsThatOfTheSetUp_data();
-    void readySliderBesideAScaleIsThatOfTheSetUp();
 };
 
 void TestMmStylesheet::cleanup()
@@ -290,39 +285,6 @@ void TestMmStylesheet::readySliderIsRoundAndFilledFromItsMinimum()
         QCOMPARE(at(0, 0), QColor(Qt::white)); // the handle
         QCOMPARE(at(2.7, 2.7), QColor(Qt::white)); // beside it, if it is round
     }
-}
-
-void TestMmStylesheet::readySliderBesideAScaleIsThatOfTheSetUp_data()
-{
-    QTest::addColumn<double>("density");
-    QTest::addColumn<bool>("is_level");
-    for (const double density : { 4.0, 7.3, 11.0, 20.0 }) {
-        QTest::addRow("level, %g px/mm", density) << density << true;
-        QTest::addRow("upright, %g px/mm", density) << density << false;
-    }
-}
-
-void TestMmStylesheet::readySliderBesideAScaleIsThatOfTheSetUp()
-{
-    QFETCH(double, density);
-    QFETCH(bool, is_level);
-    const PanelScale scale(density, density);
-    QWidget window;
-    VexoSliderDecoration decoration;
-    auto *slider = new VexoSlider(is_level ? Qt::Horizontal : Qt::Vertical);
-    slider->setMaximum(100);
-    slider->setValue(100); // to its end, where the mark is
-    decoration.setSliderWidget(slider);
-    decoration.setDecoStyle(is_level ? VexoSliderDecoration::HorizontalWithScale
-                                     : VexoSliderDecoration::VerticalWithScale);
-    decoration.setScaleText({ QStringLiteral("0"), QStringLiteral("1") });
-    decoration.setParent(&window);
-    decoration.resize(decoration.sizeHint());
-    window.show();
-    decoration.setStyleSheet(Panel::mmSheet());
-    const QImage expected = picture(&decoration);
-    decoration.setStyleSheet(MmStylesheet(MmStylesheet::files(MmStylesheet::Day)).inPixels());
-    QCOMPARE(picture(&decoration), expected);
 }
 
 QTEST_MAIN(TestMmStylesheet)
