@@ -3,8 +3,8 @@
 #include "examples/first-panel/main.cpp"
 #undef main
 
+#include <MmStylesheet>
 #include <PanelSheet>
-#include <VexoStylesheet>
 
 #include <cstdio>
 
@@ -12,11 +12,7 @@ namespace {
 
 QWidget *createSettings()
 {
-    qApp->setStyleSheet(QString()); // that in millimetres is of the panel before
-    VexoStylesheet sheet(
-        { QStringLiteral(":/css/vexo-AAL.qs"), QStringLiteral(":/css/hoxq.qs") }, false);
-    sheet.addText(Panel::mmSheet());
-    sheet.set();
+    MmStylesheet(PanelOptions().sheets).set();
     auto *pages = new QStackedWidget;
     addSettings(pages);
     pages->layout()->setSizeConstraint(QLayout::SetNoConstraint); // as large as the panel

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QVBoxLayout>
 
+using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::ui;
 
 int main(int argc, char *argv[])

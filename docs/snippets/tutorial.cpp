@@ -3,7 +3,7 @@
 
 #include <QStackedWidget>
 
-using namespace vexo::hox::qt::ui;
+using namespace vexo::hox::qt::panel;
 
 void showPanel(QApplication &application, void (*add_pages)(QStackedWidget *))
 {

@@ -16,6 +16,7 @@
 #include <QGridLayout>
 #include <QStackedWidget>
 
+using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::ui;
 using Key = VexoKeyboardButton;
 using Row = VexoFunctionButton;

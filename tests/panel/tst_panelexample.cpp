@@ -14,6 +14,7 @@
 #include <QAbstractButton>
 #include <QPointer>
 
+using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::ui;
 using namespace vexo::hox::qt::uitest;
 
@@ -91,7 +92,6 @@ void TestPanelExample::initTestCase()
     options.px = QSize(800, 480);
     options.mm = QSizeF(160, 96);
     options.use_palette = false;
-    options.use_mm_sheet = false;
     options.sheets.clear();
     Panel::setUp(*qobject_cast<QApplication *>(qApp), options);
     QVERIFY(m_accepted.read(QStringLiteral(HOXQ_ACCEPTED_EXAMPLE)));
