@@ -3,6 +3,7 @@
 
 #include "panel/keylook_p.h"
 #include "panel/mm_p.h"
+#include "panel/over_p.h"
 
 #include <VexoKeyboardButton>
 
@@ -17,7 +18,7 @@ const double gap_mm = 1;
 } // namespace
 
 KeyVariants::KeyVariants(QWidget *window)
-    : QWidget(window)
+    : QWidget(Over(window))
 {
     setObjectName(QStringLiteral("keyVariants"));
     setAutoFillBackground(true);

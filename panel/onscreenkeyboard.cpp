@@ -2,6 +2,7 @@
 #include "panel/onscreenkeyboard.h"
 
 #include "panel/keyboardlanguages_p.h"
+#include "panel/keyboardroom_p.h"
 #include "panel/keyfinger_p.h"
 #include "panel/keygrid_p.h"
 #include "panel/keylook_p.h"
@@ -197,16 +198,24 @@ void OnScreenKeyboard::resizeEvent(QResizeEvent *)
 {
     dismissVariants();
     m_grid->place(keyArea());
+    tellOfKeyboard(*this);
+}
+
+void OnScreenKeyboard::moveEvent(QMoveEvent *)
+{
+    tellOfKeyboard(*this);
 }
 
 void OnScreenKeyboard::showEvent(QShowEvent *)
 {
     setFocusProxy(QApplication::focusWidget());
     readReceiver();
+    tellOfKeyboard(*this);
 }
 
 void OnScreenKeyboard::hideEvent(QHideEvent *)
 {
+    tellOfKeyboard(*this);
     dismissVariants();
     m_finger->takeBack();
 }

@@ -3,6 +3,7 @@
 
 #include "panel/coverfollower_p.h"
 #include "panel/mm_p.h"
+#include "panel/over_p.h"
 #include "panel/roles_p.h"
 #include "panel/roundground_p.h"
 
@@ -35,7 +36,7 @@ bool focusIn(const QWidget *widget)
 } // namespace
 
 PanelDialog::PanelDialog(const QString &question, QWidget *screen)
-    : QWidget(screen)
+    : QWidget(Over(screen))
     , m_box(new RoundGround(VexoColors::C1, 2, this))
     , m_question(createText(9, QFont::Medium, m_box))
     , m_explanation(createText(7.5, QFont::Normal, m_box))
