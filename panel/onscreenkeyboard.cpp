@@ -121,10 +121,23 @@ void OnScreenKeyboard::setKeyHeightInMm(double mm)
     updateGeometry();
 }
 
+void OnScreenKeyboard::setDark(bool is_dark)
+{
+    if (is_dark == m_is_dark)
+        return;
+    m_is_dark = is_dark;
+    colorKeys();
+}
+
+QColor OnScreenKeyboard::backgroundColor() const
+{
+    return m_background_color.isValid() ? m_background_color : KeyColors::of(m_is_dark).ground;
+}
+
 void OnScreenKeyboard::setBackgroundColor(const QColor &color)
 {
     m_background_color = color;
-    update();
+    colorKeys();
 }
 
 void OnScreenKeyboard::setHasHideKey(bool has)
@@ -191,7 +204,7 @@ bool OnScreenKeyboard::event(QEvent *event)
 
 void OnScreenKeyboard::paintEvent(QPaintEvent *event)
 {
-    QPainter(this).fillRect(event->rect(), m_background_color);
+    QPainter(this).fillRect(event->rect(), backgroundColor());
 }
 
 void OnScreenKeyboard::resizeEvent(QResizeEvent *)
@@ -245,6 +258,7 @@ OnScreenKeyboard::Button *OnScreenKeyboard::makeButton(int number)
     const auto function = KeyboardKey::Function(number);
     auto *button = new Button(this);
     dressKey(button, function);
+    colorKey(button, function, m_is_dark, backgroundColor());
     if (function == KeyboardKey::Delete)
         setUpDelete(button);
     m_finger->watch(button);
@@ -254,6 +268,16 @@ OnScreenKeyboard::Button *OnScreenKeyboard::makeButton(int number)
             held(button);
     });
     return button;
+}
+
+void OnScreenKeyboard::colorKeys()
+{
+    dismissVariants();
+    m_grid->forEach([this](Button *button, int function) {
+        colorKey(button, KeyboardKey::Function(function), m_is_dark, backgroundColor());
+    });
+    showShift();
+    update();
 }
 
 void OnScreenKeyboard::setUpDelete(Button *button)
@@ -501,7 +525,7 @@ void OnScreenKeyboard::openVariants(const Button *button, const QStringList &var
         connect(strip, &KeyVariants::tapped, this, &OnScreenKeyboard::replace);
     }
     m_replaceable = 0;
-    strip->open(*button, variants, m_background_color);
+    strip->open(*button, variants, m_is_dark);
 }
 
 void OnScreenKeyboard::dismissVariants()

@@ -57,6 +57,7 @@ void KeyboardDock::open(QWidget *field)
     Keyboard *keyboard = keyboardIn(window);
     m_field = field;
     grow(window, keyboard->sizeHint());
+    keyboard->setDark(window->palette().color(QPalette::Window).lightness() < 128);
     keyboard->show();
     keyboard->raise();
     place();
