@@ -45,9 +45,9 @@ PanelDialog::PanelDialog(const QString &question, QWidget *screen)
 {
     installRoles();
     hide();
-    m_column->setContentsMargins(mmMargins(3, 0));
+    m_column->setContentsMargins(mmX(3), 0, mmX(3), mmY(1.5));
     m_column->setSpacing(mmY(2));
-    m_column->addSpacing(mmY(2.5));
+    m_column->addSpacing(mmY(4)); // and one of the column's
     for (QLabel *label : { m_question, m_explanation }) {
         label->setContentsMargins(mmMargins(3, 0)); // as far in as the outline of the buttons
         m_column->addWidget(label);
@@ -156,6 +156,8 @@ void PanelDialog::dressButton(VexoPushButton *button) const
         return;
     button->setBackgroundColor(m_box->color());
     button->setTextColor(m_text_color);
+    button->setBackgroundClickedColor(m_text_color);
+    button->setTextClickedColor(m_box->color());
 }
 
 void PanelDialog::setContent(QWidget *content)
