@@ -6,7 +6,6 @@
 #include <Finger>
 #include <PageStack>
 #include <PanelDialog>
-#include <PanelNotice>
 #include <RowList>
 #include <VexoDesignVectorButton>
 #include <VexoFunctionButton>
@@ -176,8 +175,6 @@ void Visitor::changeTheLook()
 
 void Visitor::update()
 {
-    const auto *notice = m_panel->findChild<PanelNotice *>();
-    expect([=] { return !notice->isVisible(); }, "that the notice goes, which lies over keys");
     // A keyboard that has just come up takes the bounce of the finger that opened it for a key.
     m_finger.setBounce(0);
     openTile("Update", "pin");
