@@ -16,11 +16,12 @@ namespace {
 
 const double largest_pitch_mm = 19; // of a keyboard for ten fingers
 const double largest_gap = 0.12; // of a letter with its gap
-const double image_mm = 4.7;
-const double letter_pt = 13;
+const double image_mm = 5.4;
+const double letter_pt = 15;
 const double label_pt = 9;
 const double language_pt = 8;
 const double roomy_pitch_mm = 8; // from here on all sizes fit
+const double roomy_row_mm = 9; // likewise, from top to top
 
 double rowWidth(const KeyboardRow &row)
 {
@@ -86,6 +87,14 @@ void KeyGrid::forget(const QObject *button)
     m_caps.erase(std::remove_if(m_caps.begin(), m_caps.end(), bears), m_caps.end());
 }
 
+void KeyGrid::forEach(const std::function<void(Button *, int)> &visit) const
+{
+    for (const auto &[function, buttons] : m_made) {
+        for (Button *button : buttons)
+            visit(button, function);
+    }
+}
+
 void KeyGrid::addRow(const KeyboardRow &row, int index, double columns)
 {
     const double rest = columns - rowWidth(row);
@@ -120,48 +129,52 @@ void KeyGrid::place(const QRect &px)
     m_pitch = qMin(widest, (px.width() + gap_x) / m_columns);
     const double line = double(px.height()) / m_row_count;
     const int gap_y = qMin(mmY(GAP_MM), int(line * largest_gap));
-    const double row_pitch = double(px.height() + gap_y) / m_row_count;
+    m_row_pitch = double(px.height() + gap_y) / m_row_count;
     const int x = px.left() + int((px.width() + gap_x - m_pitch * m_columns) / 2);
     setImageSize();
     for (const Cap &cap : m_caps) {
         const int left = x + qRound(cap.left * m_pitch);
         const int right = x + qRound((cap.left + cap.width) * m_pitch) - gap_x;
-        const int top = px.top() + qRound(cap.row * row_pitch);
-        const int bottom = px.top() + qRound((cap.row + 1) * row_pitch) - gap_y;
+        const int top = px.top() + qRound(cap.row * m_row_pitch);
+        const int bottom = px.top() + qRound((cap.row + 1) * m_row_pitch) - gap_y;
         cap.button->setGeometry(left, top, right - left, bottom - top);
         setTextSize(cap);
     }
 }
 
+// How much smaller than usual what lies on a key of \a width letters is.
+double KeyGrid::fitting(double width) const
+{
+    const ui::ScalingInfo &scaling = *ui::ScalingInfo::inst();
+    const double pitch_mm = double(scaling.px2mm_X(float(m_pitch * qMin(1.0, width))));
+    const double row_mm = double(scaling.px2mm_Y(float(m_row_pitch)));
+    const double least = 0.3; // of a keyboard that has not got its size
+    return qBound(least, qMin(pitch_mm / roomy_pitch_mm, row_mm / roomy_row_mm), 1.0);
+}
+
 void KeyGrid::setTextSize(const Cap &cap) const
 {
-    const double pitch_mm
-        = double(ui::ScalingInfo::inst()->px2mm_X(float(m_pitch * qMin(1.0, cap.width))));
     const bool is_letter = cap.button->text().size() < 2;
     const double pt = cap.key.function == KeyboardKey::Space ? language_pt
         : is_letter                                          ? letter_pt
                                                              : label_pt;
-    const double fitting_pt = pt * qMin(1.0, pitch_mm / roomy_pitch_mm);
+    const double fitting_pt = pt * fitting(cap.width);
     if (!qFuzzyCompare(cap.button->buttonTextFontSizeInPt(), fitting_pt))
         cap.button->setButtonTextFontSizeInPt(fitting_pt);
 }
 
 void KeyGrid::setImageSize()
 {
-    const double pitch_mm = double(ui::ScalingInfo::inst()->px2mm_X(float(m_pitch)));
-    const double mm = image_mm * qMin(1.0, pitch_mm / roomy_pitch_mm);
+    const double mm = image_mm * fitting(1);
     if (qFuzzyCompare(mm, m_image_mm))
         return;
     m_image_mm = mm;
-    for (const auto &[function, buttons] : m_made) {
-        for (Button *button : buttons)
-            sizeImage(button);
-    }
+    forEach([this](Button *button, int) { sizeImage(button); });
 }
 
 void KeyGrid::sizeImage(Button *button) const
 {
-    if (button->icon().isNull())
+    if (!button->hasState(QLatin1String(Button::DEFAULT_STATE_NAME)))
         return;
     button->setCommonIconSizeMM(QSizeF(0, m_image_mm));
     button->rerenderAll(false);

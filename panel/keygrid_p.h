@@ -34,6 +34,8 @@ public:
     void show(const KeyboardRows &rows, const std::function<QString(const KeyboardKey &)> &label);
     /// For one that somebody else deletes; its place stays free until the next show().
     void forget(const QObject *button);
+    /// Calls \a visit for each button that was made, with its function.
+    void forEach(const std::function<void(Button *, int)> &visit) const;
     int rowCount() const { return m_row_count; }
     /// Shares out \a px. Letters are never wider than those of a large keyboard.
     void place(const QRect &px);
@@ -61,6 +63,7 @@ private:
     Button *take(KeyboardKey::Function function, std::map<int, std::size_t> *taken);
     void setTextSize(const Cap &cap) const;
     void setImageSize();
+    double fitting(double width) const;
     void sizeImage(Button *button) const;
 
     const Make m_make;
@@ -69,6 +72,7 @@ private:
     int m_row_count = 0;
     double m_columns = 1;
     double m_pitch = 0;
+    double m_row_pitch = 0;
     double m_image_mm = 0;
 };
 

@@ -3,8 +3,11 @@
 
 #include "panel/keylook_p.h"
 #include "panel/mm_p.h"
+#include "panel/over_p.h"
 
 #include <VexoKeyboardButton>
+
+#include <QPainter>
 
 namespace vexo::hox::qt::panel {
 
@@ -13,24 +16,25 @@ namespace {
 const int unused_ms = 4000;
 const double least_width_mm = 8;
 const double gap_mm = 1;
+const double corner_mm = 2;
+const double line_mm = 0.2;
 
 } // namespace
 
 KeyVariants::KeyVariants(QWidget *window)
-    : QWidget(window)
+    : QWidget(Over(window))
 {
     setObjectName(QStringLiteral("keyVariants"));
-    setAutoFillBackground(true);
     m_close_timer.setSingleShot(true);
     m_close_timer.setInterval(unused_ms);
     connect(&m_close_timer, &QTimer::timeout, this, &KeyVariants::dismiss);
     hide();
 }
 
-void KeyVariants::open(const Button &key, const QStringList &variants, const QColor &ground)
+void KeyVariants::open(const Button &key, const QStringList &variants, bool is_dark)
 {
     dismiss();
-    setPalette(ground);
+    m_is_dark = is_dark;
     for (const QString &variant : variants)
         m_buttons.append(addButton(variant));
     place(key);
@@ -74,10 +78,25 @@ KeyVariants::Button *KeyVariants::addButton(const QString &variant)
 {
     auto *button = new Button(this);
     dressKey(button, KeyboardKey::Character);
+    colorKey(button, KeyboardKey::Character, m_is_dark, KeyColors::of(m_is_dark).key);
     button->setText(variant);
     button->setCheckable(true);
     connect(button, &Button::clicked, this, [this, variant] { Q_EMIT tapped(variant); });
     return button;
+}
+
+// One cap as the keys, with an outline that tells it from them.
+void KeyVariants::paintEvent(QPaintEvent *)
+{
+    const KeyColors &colors = KeyColors::of(m_is_dark);
+    const QSizeF line = QSizeF(mmX(line_mm), mmY(line_mm)) / 2;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colors.outline, mmX(line_mm)));
+    painter.setBrush(colors.key);
+    painter.drawRoundedRect(
+        QRectF(rect()).adjusted(line.width(), line.height(), -line.width(), -line.height()),
+        mmX(corner_mm), mmY(corner_mm));
 }
 
 void KeyVariants::place(const Button &key)

@@ -22,7 +22,7 @@ public:
     explicit KeyVariants(QWidget *window);
 
     /// Shows \a variants above \a key, in keys of its size or of 8 mm.
-    void open(const ui::VexoKeyboardButton &key, const QStringList &variants, const QColor &ground);
+    void open(const ui::VexoKeyboardButton &key, const QStringList &variants, bool is_dark);
     void dismiss();
     /// The variant above or below \a global is dark, if \a is_chosen.
     void choose(const QPoint &global, bool is_chosen);
@@ -33,6 +33,9 @@ Q_SIGNALS:
     /// A variant was tapped.
     void tapped(const QString &variant);
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     using Button = ui::VexoKeyboardButton;
 
@@ -41,6 +44,7 @@ private:
 
     QVector<Button *> m_buttons;
     QTimer m_close_timer;
+    bool m_is_dark = false;
 };
 
 } // namespace vexo::hox::qt::panel

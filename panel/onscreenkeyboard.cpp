@@ -2,6 +2,7 @@
 #include "panel/onscreenkeyboard.h"
 
 #include "panel/keyboardlanguages_p.h"
+#include "panel/keyboardroom_p.h"
 #include "panel/keyfinger_p.h"
 #include "panel/keygrid_p.h"
 #include "panel/keylook_p.h"
@@ -122,10 +123,23 @@ void OnScreenKeyboard::setKeyHeightInMm(double mm)
     updateGeometry();
 }
 
+void OnScreenKeyboard::setDark(bool is_dark)
+{
+    if (is_dark == m_is_dark)
+        return;
+    m_is_dark = is_dark;
+    colorKeys();
+}
+
+QColor OnScreenKeyboard::backgroundColor() const
+{
+    return m_background_color.isValid() ? m_background_color : KeyColors::of(m_is_dark).ground;
+}
+
 void OnScreenKeyboard::setBackgroundColor(const QColor &color)
 {
     m_background_color = color;
-    update();
+    colorKeys();
 }
 
 void OnScreenKeyboard::setHasHideKey(bool has)
@@ -192,23 +206,31 @@ bool OnScreenKeyboard::event(QEvent *event)
 
 void OnScreenKeyboard::paintEvent(QPaintEvent *event)
 {
-    QPainter(this).fillRect(event->rect(), m_background_color);
+    QPainter(this).fillRect(event->rect(), backgroundColor());
 }
 
 void OnScreenKeyboard::resizeEvent(QResizeEvent *)
 {
     dismissVariants();
     m_grid->place(keyArea());
+    tellOfKeyboard(*this);
+}
+
+void OnScreenKeyboard::moveEvent(QMoveEvent *)
+{
+    tellOfKeyboard(*this);
 }
 
 void OnScreenKeyboard::showEvent(QShowEvent *)
 {
     setFocusProxy(QApplication::focusWidget());
     readReceiver();
+    tellOfKeyboard(*this);
 }
 
 void OnScreenKeyboard::hideEvent(QHideEvent *)
 {
+    tellOfKeyboard(*this);
     dismissVariants();
     m_finger->takeBack();
 }
@@ -240,6 +262,7 @@ OnScreenKeyboard::Button *OnScreenKeyboard::makeButton(int number)
     const auto function = KeyboardKey::Function(number);
     auto *button = new Button(this);
     dressKey(button, function);
+    colorKey(button, function, m_is_dark, backgroundColor());
     if (function == KeyboardKey::Delete)
         setUpDelete(button);
     m_finger->watch(button);
@@ -249,6 +272,16 @@ OnScreenKeyboard::Button *OnScreenKeyboard::makeButton(int number)
             held(button);
     });
     return button;
+}
+
+void OnScreenKeyboard::colorKeys()
+{
+    dismissVariants();
+    m_grid->forEach([this](Button *button, int function) {
+        colorKey(button, KeyboardKey::Function(function), m_is_dark, backgroundColor());
+    });
+    showShift();
+    update();
 }
 
 void OnScreenKeyboard::setUpDelete(Button *button)
@@ -503,7 +536,7 @@ void OnScreenKeyboard::openVariants(const Button *button, const QStringList &var
         connect(strip, &KeyVariants::tapped, this, &OnScreenKeyboard::replace);
     }
     m_replaceable = 0;
-    strip->open(*button, variants, m_background_color);
+    strip->open(*button, variants, m_is_dark);
 }
 
 void OnScreenKeyboard::dismissVariants()

@@ -3,8 +3,6 @@
 
 #include "panel/hoxqpanel_export.h"
 
-#include <VexoColors>
-
 #include <QColor>
 #include <QPointer>
 #include <QStringList>
@@ -56,7 +54,9 @@ class HOXQPANEL_EXPORT OnScreenKeyboard : public QWidget
     Q_PROPERTY(QStringList languages READ languages WRITE setLanguages)
     /// Height of a key, mm, where there is room. Default 9.0. Ignored unless above 0.
     Q_PROPERTY(double key_height_in_mm READ keyHeightInMm WRITE setKeyHeightInMm)
-    /// Ground between the keys. Default C6.
+    /// Light letters on dark keys, for a screen that is dark. Default false.
+    Q_PROPERTY(bool is_dark READ isDark WRITE setDark)
+    /// Ground between the keys. Default C6, or the grey 30 for dark keys; so is an invalid colour.
     Q_PROPERTY(QColor background_color READ backgroundColor WRITE setBackgroundColor)
     /// Whether there is a key that emits hideRequested(). Default false.
     Q_PROPERTY(bool has_hide_key READ hasHideKey WRITE setHasHideKey)
@@ -73,7 +73,9 @@ public:
     void setLanguage(const QString &code);
     double keyHeightInMm() const { return m_key_height_mm; }
     void setKeyHeightInMm(double mm);
-    QColor backgroundColor() const { return m_background_color; }
+    bool isDark() const { return m_is_dark; }
+    void setDark(bool is_dark);
+    QColor backgroundColor() const;
     void setBackgroundColor(const QColor &color);
     bool hasHideKey() const { return m_has_hide_key; }
     void setHasHideKey(bool has);
@@ -108,6 +110,7 @@ Q_SIGNALS:
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
@@ -122,6 +125,7 @@ private:
 
     void watchFinger();
     Button *makeButton(int function);
+    void colorKeys();
     void setUpDelete(Button *button);
     void click(const Button *button);
     void held(const Button *button);
@@ -168,7 +172,8 @@ private:
     bool m_repeats = false; // the delete key is held
     int m_replaceable = 0; // UTF-16 units that a variant replaces
     double m_key_height_mm = 9.0;
-    QColor m_background_color = ui::VexoColors::C6;
+    bool m_is_dark = false;
+    QColor m_background_color; // invalid: that of the keys' look
     bool m_has_hide_key = false;
 };
 

@@ -3,6 +3,7 @@
 
 #include "panel/coverfollower_p.h"
 #include "panel/mm_p.h"
+#include "panel/over_p.h"
 #include "panel/roles_p.h"
 #include "panel/roundground_p.h"
 
@@ -35,7 +36,7 @@ bool focusIn(const QWidget *widget)
 } // namespace
 
 PanelDialog::PanelDialog(const QString &question, QWidget *screen)
-    : QWidget(screen)
+    : QWidget(Over(screen))
     , m_box(new RoundGround(VexoColors::C1, 2, this))
     , m_question(createText(9, QFont::Medium, m_box))
     , m_explanation(createText(7.5, QFont::Normal, m_box))
@@ -44,9 +45,9 @@ PanelDialog::PanelDialog(const QString &question, QWidget *screen)
 {
     installRoles();
     hide();
-    m_column->setContentsMargins(mmMargins(3, 0));
+    m_column->setContentsMargins(mmX(3), 0, mmX(3), mmY(1.5));
     m_column->setSpacing(mmY(2));
-    m_column->addSpacing(mmY(2.5));
+    m_column->addSpacing(mmY(4)); // and one of the column's
     for (QLabel *label : { m_question, m_explanation }) {
         label->setContentsMargins(mmMargins(3, 0)); // as far in as the outline of the buttons
         m_column->addWidget(label);
@@ -160,6 +161,8 @@ void PanelDialog::dressButton(VexoPushButton *button) const
         return;
     button->setBackgroundColor(m_box->color());
     button->setTextColor(m_text_color);
+    button->setBackgroundClickedColor(m_text_color);
+    button->setTextClickedColor(m_box->color());
 }
 
 void PanelDialog::setContent(QWidget *content)

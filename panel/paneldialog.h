@@ -41,7 +41,7 @@ class HOXQPANEL_EXPORT PanelDialog : public QWidget
     Q_PROPERTY(double m_mm_width READ mmWidth WRITE setMmWidth)
     /// Of the box and the buttons. Default C1.
     Q_PROPERTY(QColor m_background_color READ backgroundColor WRITE setBackgroundColor)
-    /// Of the texts and the buttons. Default C3.
+    /// Of the texts and the buttons, whose two colours change places while down. Default C3.
     Q_PROPERTY(QColor m_text_color READ textColor WRITE setTextColor)
     /// Laid over the screen. Default black, 60 % opaque.
     Q_PROPERTY(QColor m_shade_color READ shadeColor WRITE setShadeColor)

@@ -2,6 +2,7 @@
 #include "panel/paneldimmer.h"
 
 #include "panel/coverfollower_p.h"
+#include "panel/over_p.h"
 
 #include <BounceFilter>
 
@@ -46,7 +47,7 @@ bool isInput(QEvent::Type type)
 } // namespace
 
 PanelDimmer::PanelDimmer(int seconds, QWidget *screen)
-    : QWidget(screen)
+    : QWidget(Over(screen))
     , m_seconds(seconds)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);

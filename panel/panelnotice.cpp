@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "panel/panelnotice.h"
 
+#include "panel/keyboardroom_p.h"
 #include "panel/mm_p.h"
+#include "panel/over_p.h"
 #include "panel/roles_p.h"
 #include "panel/roundground_p.h"
 
@@ -9,6 +11,8 @@
 
 #include <QAccessible>
 #include <QEvent>
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QMouseEvent>
 #include <QVBoxLayout>
 
@@ -17,7 +21,7 @@ namespace vexo::hox::qt::panel {
 using ui::VexoColors;
 
 PanelNotice::PanelNotice(Qt::Edge edge, QWidget *screen)
-    : QWidget(screen)
+    : QWidget(Over(screen))
     , m_edge(edge)
     , m_ground(new RoundGround(VexoColors::C3, 2, this))
     , m_label(createText(8, QFont::Normal, m_ground))
@@ -34,6 +38,8 @@ PanelNotice::PanelNotice(Qt::Edge edge, QWidget *screen)
     layout->addWidget(m_ground);
     if (screen)
         screen->installEventFilter(this);
+    connect(QGuiApplication::inputMethod(), &QInputMethod::keyboardRectangleChanged, this,
+        &PanelNotice::follow);
 }
 
 PanelNotice::~PanelNotice() = default;
@@ -96,21 +102,36 @@ void PanelNotice::place()
     if (!screen)
         return;
     const QMargins margins = mmMargins(m_mm_margin, m_mm_margin);
-    const QRect room = screen->rect().marginsRemoved(margins);
+    const QRect room = roomAboveKeyboards(*screen).marginsRemoved(margins);
     const QMargins padding = m_ground->layout()->contentsMargins();
     const int padding_px = padding.left() + padding.right();
     const int text_px = m_label->fontMetrics().horizontalAdvance(text()) + padding_px + 1;
     const int width = qMax(0, qMin(qMin(room.width(), mmX(m_mm_width)), text_px));
     const int height = qMax(0, m_label->heightForWidth(qMax(1, width - padding_px))) + padding.top()
         + padding.bottom();
-    const int y = m_edge == Qt::TopEdge ? room.top() : room.bottom() + 1 - height;
+    const int lowest = room.bottom() + 1 - height;
+    const int y = m_edge == Qt::TopEdge ? room.top() : qMax(0, lowest);
     setGeometry(room.left() + (room.width() - width) / 2, y, width, height);
+}
+
+void PanelNotice::follow()
+{
+    if (isVisible())
+        place();
+}
+
+// A keyboard on the screen came, went or moved.
+bool PanelNotice::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest)
+        follow();
+    return QWidget::event(event);
 }
 
 bool PanelNotice::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Resize && watched == parentWidget() && isVisible())
-        place();
+    if (event->type() == QEvent::Resize && watched == parentWidget())
+        follow();
     return false;
 }
 

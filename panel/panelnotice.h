@@ -15,8 +15,10 @@ namespace vexo::hox::qt::panel {
 class RoundGround;
 
 /// A line that comes and goes over a screen, at its lower or upper edge: "Saved". It wraps where it
-/// is too long. What lies beside it is touched as usual; a tap on the line sends it away. A second
-/// text takes the place of the first. Assistive technology is told of each as an alert.
+/// is too long. While an OnScreenKeyboard of the window or an input method shows its keys at the
+/// lower edge, it stays above them. What lies beside it is touched as usual; a tap on the line
+/// sends it away. A second text takes the place of the first. Assistive technology is told of each
+/// as an alert.
 class HOXQPANEL_EXPORT PanelNotice : public QWidget
 {
     Q_OBJECT
@@ -62,6 +64,7 @@ Q_SIGNALS:
     void tapped();
 
 protected:
+    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void timerEvent(QTimerEvent *event) override;
     void hideEvent(QHideEvent *event) override;
@@ -70,6 +73,7 @@ protected:
 
 private:
     void place();
+    void follow();
 
     const Qt::Edge m_edge;
     RoundGround *const m_ground;

@@ -5,6 +5,7 @@
 #include <OnScreenKeyboard>
 #include <PanelDialog>
 #include <RowList>
+#include <ScalingInfo>
 #include <VexoHorizontalTextIconButton>
 #include <VexoLineEdit>
 #include <VexoPushButton>
@@ -12,14 +13,15 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 
 using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::ui;
 
 namespace {
 
-const double bar_in_mm = 10;
+const QSizeF letter_in_mm(10, 9);
+const double search_in_mm = 60;
+const double number_in_mm = 11.5; // with the space around it
 
 using Bar = VexoVerticalButtonScrollArea;
 
@@ -50,9 +52,11 @@ ContactsScreen::ContactsScreen(PanelWindow *panel)
 
 void ContactsScreen::setUpSearch()
 {
-    m_search->setFixedWidth(mmX(60));
-    m_search->setMmMargin(QSizeF(1, 1));
-    m_search->setMmRadius(3.6);
+    const double half_in_mm = ScalingInfo::inst()->m_size_mm.width() / 2;
+    m_search->setFixedWidth(mmX(qMin(search_in_mm, half_in_mm)));
+    m_search->setMmMargin(QSizeF(1, 0));
+    m_search->setMmRadius(4.5);
+    m_search->setMmLeftOffset(1);
     m_search->enableLeadingLabelAction();
     m_keyboard->setReceiver(m_search);
     m_keyboard->setHasHideKey(true);
@@ -70,7 +74,7 @@ void ContactsScreen::setUpSearch()
         m_search->setCursorColor(look().ink);
         const QString &language = panel()->language();
         m_keyboard->setLanguages({ language, language == "de" ? "en" : "de" });
-        m_keyboard->setBackgroundColor(look().line);
+        m_keyboard->setDark(panel()->isNight());
         m_nobody->setText(tr("Nobody has this name."));
     });
 }
@@ -81,8 +85,9 @@ void ContactsScreen::setUpList()
     m_nobody->hide();
     m_list->setRowFactory([this](int) {
         VexoHorizontalTextIconButton *row = createRow(); // without its arrow, as the list has none
-        row->setLeftSideTextPercentWidth(84);
-        row->setRightSideTextPercentWidth(16);
+        const double row_in_mm = ScalingInfo::inst()->m_size_mm.width() - letter_in_mm.width();
+        row->setLeftSideTextPercentWidth(100 - 100 * number_in_mm / row_in_mm);
+        row->setRightSideTextPercentWidth(100 * number_in_mm / row_in_mm);
         panel()->follow(row, [=] { dress(row, look()); });
         return row;
     });
@@ -98,10 +103,7 @@ void ContactsScreen::setUpList()
 
 void ContactsScreen::setUpBar()
 {
-    const QList<QPushButton *> buttons = m_bar->findChildren<QPushButton *>();
-    for (QPushButton *button : buttons)
-        button->setFixedSize(mmSize(bar_in_mm, 9)); // 60 x 60 px are another size on each panel
-    m_bar->setFixedWidth(mmX(bar_in_mm));
+    m_bar->setMmButtonSize(letter_in_mm);
     m_list->connectJumpBar(m_bar);
     follow([this] { dressBar(); });
 }
@@ -110,14 +112,16 @@ void ContactsScreen::dressBar()
 {
     setGround(m_bar, look().line);
     const QString sheet = "QPushButton { background: %1; color: %2; border: none; font-size: %3px; "
-                          "icon-size: %4px; }"
+                          "font-weight: %4; }"
                           "QPushButton:pressed { background: %5; }";
-    m_bar->setStyleSheet(sheet.arg(look().line.name(), look().ink.name())
-                             .arg(ptFont(9).pixelSize())
-                             .arg(mmX(5))
-                             .arg(look().surface.name()));
-    m_bar->setUpIcon(CachedVectorIcon(look().icon("up"), QSizeF(5, 5)).toPixmap());
-    m_bar->setDownIcon(CachedVectorIcon(look().icon("down"), QSizeF(5, 5)).toPixmap());
+    m_bar->setStyleSheet(
+        sheet.arg(look().line.name(), look().ink.name())
+            .arg(ptFont(9).pixelSize())
+            .arg(8 * QFont::Medium) // what the toolkit makes of a weight in a sheet
+            .arg(look().surface.name()));
+    const QSizeF icon_in_mm(letter_in_mm.height() / 2, letter_in_mm.height() / 2);
+    m_bar->setUpIcon(CachedVectorIcon(look().icon("up"), icon_in_mm).toPixmap());
+    m_bar->setDownIcon(CachedVectorIcon(look().icon("down"), icon_in_mm).toPixmap());
 }
 
 void ContactsScreen::setSearching(bool is_searching)
@@ -143,7 +147,7 @@ void ContactsScreen::call(const QModelIndex &person)
     question->setExplanation(
         tr("Telephone %1").arg(person.data(RowList::SecondTextRole).toString()));
     question->addButton(tr("Cancel"));
-    question->addButton(tr("Call"));
+    panel()->addMainButton(question, tr("Call"));
     connect(question, &PanelDialog::answered, this, [this, name](int button) {
         if (button == 1)
             panel()->tell(tr("Calling %1 ...").arg(name));

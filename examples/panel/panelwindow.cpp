@@ -15,6 +15,7 @@
 #include <PanelDimmer>
 #include <PanelNotice>
 #include <PanelTranslations>
+#include <VexoPushButton>
 
 #include <QApplication>
 
@@ -73,6 +74,15 @@ PanelDialog *PanelWindow::ask(const QString &question)
     dialog->setBackgroundColor(m_look->surface);
     dialog->setTextColor(m_look->ink);
     return dialog;
+}
+
+void PanelWindow::addMainButton(PanelDialog *dialog, const QString &text) const
+{
+    auto *button = dialog->addButton(text);
+    button->setBackgroundColor(m_look->ink);
+    button->setPenColor(m_look->ink);
+    button->setTextColor(m_look->surface);
+    button->setBackgroundClickedColor(m_look->faint);
 }
 
 void PanelWindow::setNight(bool is_night)

@@ -35,6 +35,8 @@ public:
     void tell(const QString &text);
     /// A question in the colours of now, deleted when it is answered; open() it.
     vexo::hox::qt::panel::PanelDialog *ask(const QString &question);
+    /// The button of a question that does what it asks for.
+    void addMainButton(vexo::hox::qt::panel::PanelDialog *dialog, const QString &text) const;
 
     const Look &look() const { return *m_look; }
     bool isNight() const { return m_look == &Look::night(); }

@@ -13,7 +13,7 @@ using namespace vexo::hox::qt::ui;
 
 const Look &Look::day()
 {
-    static const Look look{ VexoColors::C0, VexoColors::C1, VexoColors::C3, QColor(100, 100, 100),
+    static const Look look{ VexoColors::C2, VexoColors::C0, VexoColors::C3, QColor(100, 100, 100),
         VexoColors::C13, VexoColors::C4, VexoColors::C0, "day" };
     return look;
 }

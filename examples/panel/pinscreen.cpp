@@ -3,6 +3,7 @@
 
 #include <OnScreenKeyboard>
 #include <PageStack>
+#include <ScalingInfo>
 #include <VexoLineEdit>
 
 #include <QLabel>
@@ -29,8 +30,8 @@ PinScreen::PinScreen(PanelWindow *panel)
     m_field->setInputMethodHints(Qt::ImhDigitsOnly);
     m_field->setDrawPasswordSecured(true);
     m_field->setFixedWidth(mmX(40));
-    m_field->setMmMargin(QSizeF(1, 1));
-    m_field->setMmRadius(4);
+    m_field->setMmMargin(QSizeF(1, 0));
+    m_field->setMmRadius(ScalingInfo::inst()->m_size_mm.height() < 70 ? 4 : 5);
     auto *keyboard = new OnScreenKeyboard;
     keyboard->setReceiver(m_field);
     column()->addStretch(1);
@@ -46,7 +47,7 @@ PinScreen::PinScreen(PanelWindow *panel)
         m_field->setBackgroundColor(look().surface);
         m_field->setBorderColor(look().faint);
         m_field->setTextColor(look().ink);
-        keyboard->setBackgroundColor(look().line);
+        keyboard->setDark(this->panel()->isNight());
     });
 }
 

@@ -4,8 +4,8 @@
 #include <PageStack>
 #include <PanelDialog>
 #include <PanelDimmer>
+#include <ScalingInfo>
 #include <VexoFunctionButton>
-#include <VexoHorizontalTextIconButton>
 #include <VexoIconButton>
 #include <VexoNumericButton>
 #include <VexoPushButton>
@@ -23,7 +23,14 @@ namespace {
 
 const int default_darkness = 70; // percent
 const int default_delay_s = 120;
-const double control_in_mm = 70; // all sliders and steppers begin below each other
+const double stepper_in_mm = 36;
+const float box_gap_in_mm = 0.6F; // a box ends 2.4 mm before its widget, so 3 mm before the edge
+
+// All sliders begin below each other, and leave half of a row to its text.
+double sliderInMm()
+{
+    return qMin(70.0, ScalingInfo::inst()->m_size_mm.width() / 2);
+}
 
 } // namespace
 
@@ -64,6 +71,7 @@ VexoFunctionButton *SettingsScreen::addSwitch(const Text &text, bool is_on)
 {
     auto *row = new Row(nullptr, Row::CheckboxType);
     row->getButtonInstance()->setChecked(is_on);
+    row->setMmRightSpacer(box_gap_in_mm);
     addRow(row);
     follow([=] {
         row->setText(text());
@@ -72,7 +80,7 @@ VexoFunctionButton *SettingsScreen::addSwitch(const Text &text, bool is_on)
     return row;
 }
 
-QWidget *SettingsScreen::createLabelled(const Text &text, QWidget *control)
+QWidget *SettingsScreen::createLabelled(const Text &text, QWidget *control, double mm)
 {
     auto *row = new QWidget;
     row->setFixedHeight(mmY(9.8));
@@ -81,7 +89,7 @@ QWidget *SettingsScreen::createLabelled(const Text &text, QWidget *control)
     layout->setSpacing(mmX(3));
     QLabel *label = createText(9);
     layout->addWidget(label, 1);
-    control->setFixedWidth(mmX(control_in_mm));
+    control->setFixedWidth(mmX(mm));
     layout->addWidget(control);
     follow([=] {
         setGround(row, look().surface);
@@ -109,7 +117,7 @@ VexoSlider *SettingsScreen::addSlider(
     number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     number->setText(QString("%1 %2").arg(value).arg(unit));
     layout->addWidget(number);
-    addRow(createLabelled(text, both));
+    addRow(createLabelled(text, both, sliderInMm()));
     follow([=] { slider->setAccessibleName(text()); });
     connect(slider, &VexoSlider::valueChanged, number,
         [=](int now) { number->setText(QString("%1 %2").arg(now).arg(unit)); });
@@ -132,6 +140,7 @@ void SettingsScreen::addLanguages()
     const auto add = [=](const QString &code, const QString &name) {
         auto *row = new Row(nullptr, Row::RadiobuttonType);
         row->setText(name);
+        row->setMmRightSpacer(box_gap_in_mm);
         group->addButton(row->getButtonInstance());
         row->getButtonInstance()->setChecked(panel()->language() == code);
         addRow(row);
@@ -146,7 +155,22 @@ void SettingsScreen::addLanguages()
 void SettingsScreen::dressRow(Row *row) const
 {
     row->setTextColor(look().ink);
+    row->setTextClickedColor(look().pressed_ink);
+    row->setArrowColor(look().faint);
+    row->setArrowClickedColor(look().pressed_ink);
     row->setBackgroundColor(look().surface);
+    row->setBackgroundClickedColor(look().pressed);
+}
+
+VexoFunctionButton *SettingsScreen::addWay(const Text &text)
+{
+    auto *row = new Row(nullptr, Row::ActionType);
+    addRow(row);
+    follow([=] {
+        row->setText(text());
+        dressRow(row);
+    });
+    return row;
 }
 
 void SettingsScreen::addDimming()
@@ -166,7 +190,8 @@ void SettingsScreen::addDelay()
     stepper->setMinimum(30);
     stepper->setStepSize(30);
     stepper->setValue(dimmer->seconds());
-    addRow(createLabelled([] { return tr("After, seconds"); }, stepper));
+    stepper->setEdgeInMm(0);
+    addRow(createLabelled([] { return tr("After, seconds"); }, stepper, stepper_in_mm));
     connect(stepper, &VexoNumericButton::valueChanged, dimmer, &PanelDimmer::setSeconds);
     follow([=] {
         stepper->setTextColor(look().ink);
@@ -184,18 +209,10 @@ void SettingsScreen::addScreens()
     PageStack *stack = panel()->stack();
     Slider *slider = addSlider([] { return tr("Slide for"); }, "ms", 50, 400, stack->slideMs());
     connect(slider, &VexoSlider::valueChanged, stack, &PageStack::setSlideMs);
-    auto *dim = createRow();
-    addRow(dim);
-    connect(dim, &QAbstractButton::clicked, panel()->dimmer(), &PanelDimmer::dim);
-    auto *reset = createRow();
-    addRow(reset);
-    connect(reset, &QAbstractButton::clicked, this, &SettingsScreen::askForReset);
-    follow([=] {
-        dim->setLeftSideText(tr("Dim now"));
-        reset->setLeftSideText(tr("Reset to factory settings"));
-        dress(dim, look());
-        dress(reset, look());
-    });
+    Row *dim = addWay([] { return tr("Dim now"); });
+    connect(dim, &Row::clicked, panel()->dimmer(), &PanelDimmer::dim);
+    Row *reset = addWay([] { return tr("Reset to factory settings"); });
+    connect(reset, &Row::clicked, this, &SettingsScreen::askForReset);
 }
 
 void SettingsScreen::askForReset()
@@ -203,7 +220,7 @@ void SettingsScreen::askForReset()
     PanelDialog *question = panel()->ask(tr("Reset to factory settings?"));
     question->setExplanation(tr("Look and dimming go back to what they were on the first day."));
     question->addButton(tr("Cancel"));
-    question->addButton(tr("Reset"));
+    panel()->addMainButton(question, tr("Reset"));
     connect(question, &PanelDialog::answered, panel(), [panel = panel()](int button) {
         if (button != 1)
             return;

@@ -24,7 +24,8 @@ private:
     void addRow(QWidget *row);
     void dressRow(Row *row) const;
     Row *addSwitch(const Text &text, bool is_on);
-    QWidget *createLabelled(const Text &text, QWidget *control);
+    QWidget *createLabelled(const Text &text, QWidget *control, double mm);
+    Row *addWay(const Text &text);
     Slider *addSlider(const Text &text, const QString &unit, int step, int maximum, int value);
     void addLook();
     void addLanguages();

@@ -69,19 +69,24 @@ void takeSearch(PanelWindow *panel, Album *album, const QString &suffix)
     album->take("search" + suffix);
 }
 
+void takeQuestion(PanelWindow *panel, Album *album, const QString &suffix)
+{
+    PanelDialog *question = panel->ask("Call Baker, Anna?");
+    question->setExplanation("Telephone 116");
+    question->addButton("Cancel");
+    panel->addMainButton(question, "Call");
+    question->open();
+    album->take("question" + suffix);
+    question->close();
+}
+
 void takeRest(PanelWindow *panel, Album *album)
 {
     album->open("camera");
     qobject_cast<CameraScreen *>(panel->stack()->page())->setZoom(200);
     album->take("camera-zoomed");
     album->open("contacts");
-    PanelDialog *question = panel->ask("Call Baker, Anna?");
-    question->setExplanation("Telephone 116");
-    question->addButton("Cancel");
-    question->addButton("Call");
-    question->open();
-    album->take("question");
-    question->close();
+    takeQuestion(panel, album, QString());
     panel->tell("Calling Baker, Anna ...");
     album->take("notice");
     panel->tell(QString());
@@ -107,6 +112,7 @@ void takeShots(PanelWindow *panel, const QString &folder)
     panel->setNight(true);
     takeScreens(&album, "-night");
     takeSearch(panel, &album, "-night");
+    takeQuestion(panel, &album, "-night");
     panel->setNight(false);
     panel->setLanguage("de");
     takeScreens(&album, "-de");

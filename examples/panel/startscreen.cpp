@@ -16,16 +16,41 @@ using namespace vexo::hox::qt::ui;
 
 namespace {
 
-const int columns = 3;
+const int tiles = 6;
 const double margin_in_mm = 4;
 const double gap_in_mm = 2;
-const double clock_in_mm = 20;
 
-// What the clock leaves, for two rows of tiles.
-double tileHeight()
+/// How a panel is divided, mm and pt.
+struct Plan
 {
-    const double free = ScalingInfo::inst()->m_size_mm.height() - clock_in_mm - margin_in_mm;
-    return qBound(14.5, (free - gap_in_mm) / 2, 36.0);
+    Plan();
+
+    bool is_narrow;
+    bool is_low;
+    int columns;
+    double clock_in_mm;
+    double tile_in_mm;
+    double icon_in_mm;
+};
+
+// A tile is as high as what the clock leaves lets it be.
+Plan::Plan()
+{
+    const QSizeF panel = ScalingInfo::inst()->m_size_mm;
+    is_narrow = panel.width() < 130;
+    is_low = panel.height() < 70;
+    columns = is_narrow ? 2 : 3;
+    clock_in_mm = is_low ? 11 : 20;
+    const int rows = tiles / columns;
+    const double free = panel.height() - clock_in_mm - margin_in_mm - (rows - 1) * gap_in_mm;
+    tile_in_mm = qBound(10.0, free / rows, 44.0);
+    icon_in_mm = qBound(7.0, tile_in_mm / 2, 12.0);
+}
+
+const Plan &plan()
+{
+    static const Plan plan;
+    return plan;
 }
 
 // The toolkit lays out and paints anew for a text that is the same, too.
@@ -39,8 +64,8 @@ void showText(QLabel *label, const QString &text)
 
 StartScreen::StartScreen(PanelWindow *panel)
     : Screen(panel)
-    , m_time(createText(28))
-    , m_date(createText(11, QFont::Normal))
+    , m_time(createText(plan().is_low ? 16 : 28))
+    , m_date(createText(plan().is_narrow ? 9 : 11, QFont::Normal))
     , m_tiles(new QGridLayout)
 {
     setWindowTitle("Start");
@@ -57,9 +82,9 @@ StartScreen::StartScreen(PanelWindow *panel)
 QWidget *StartScreen::createClock()
 {
     auto *clock = new QWidget;
-    clock->setFixedHeight(mmY(clock_in_mm));
+    clock->setFixedHeight(mmY(plan().clock_in_mm));
     auto *row = new QHBoxLayout(clock);
-    row->setContentsMargins(mmX(margin_in_mm + 1), 0, mmX(margin_in_mm + 1), 0);
+    row->setContentsMargins(mmX(margin_in_mm), 0, mmX(margin_in_mm), 0);
     row->addWidget(m_time);
     row->addStretch(1);
     row->addWidget(m_date);
@@ -70,16 +95,16 @@ QWidget *StartScreen::createClock()
 StartScreen::Tile *StartScreen::addTile(const QString &icon, const Text &text, const Text &subtext)
 {
     auto *tile = new Tile;
-    const double height_in_mm = tileHeight();
-    tile->setMmHeight(height_in_mm);
-    tile->setMmIconSize(QSizeF(0, 10));
-    tile->setMmIconPos(QPointF(9, height_in_mm / 2));
-    tile->setMmIndent(17);
-    tile->setPtTextFontSize(10);
+    const double icon_in_mm = plan().icon_in_mm;
+    tile->setMmHeight(plan().tile_in_mm);
+    tile->setMmIconSize(QSizeF(0, icon_in_mm));
+    tile->setMmIconPos(QPointF(4 + icon_in_mm / 2, plan().tile_in_mm / 2));
+    tile->setMmIndent(icon_in_mm + 7);
+    tile->setPtTextFontSize(plan().is_low ? 9 : 10);
     tile->setPtSubtextFontSize(7);
     const int place = m_tiles->count();
-    m_tiles->addWidget(tile, place / columns, place % columns);
-    m_tiles->setColumnStretch(place % columns, 1);
+    m_tiles->addWidget(tile, place / plan().columns, place % plan().columns);
+    m_tiles->setColumnStretch(place % plan().columns, 1);
     follow([=] {
         tile->setText(text());
         tile->setSubtext(subtext());
@@ -89,7 +114,7 @@ StartScreen::Tile *StartScreen::addTile(const QString &icon, const Text &text, c
         tile->setTextClickedColor(look().pressed_ink);
         tile->removeIcons();
         tile->addIcon(ActiveButton::DEFAULT_STATE_NAME, look().icon(icon));
-        tile->createMissingInverseIcons();
+        tile->addInverseIcon(ActiveButton::DEFAULT_STATE_NAME, look().pressedIcon(icon));
     });
     return tile;
 }

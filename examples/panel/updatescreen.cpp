@@ -55,8 +55,11 @@ UpdateScreen::UpdateScreen(PanelWindow *panel)
     column()->addWidget(hint, 0, Qt::AlignHCenter);
     column()->addStretch(4);
     connect(&m_busy, &RotationPixmap::pixmapRotated, m_sign, &QLabel::setPixmap);
+    const QString track
+        = QString("QProgressBar { background: %1; }").arg(Look::night().line.name());
     follow([=] {
         setGround(this, Look::night().ground);
+        m_progress->setStyleSheet(track);
         setInk(text, Look::night().ink);
         setInk(hint, Look::night().faint);
         text->setText(tr("Updating ..."));

@@ -1,8 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "panel/plugin/contentshift.h"
 
+#include <PanelDimmer>
+#include <PanelNotice>
+
 #include <QEvent>
 #include <QLayout>
+
+namespace {
+
+// They find their place themselves.
+bool liesOverAll(const QWidget *child)
+{
+    using namespace vexo::hox::qt::panel;
+    return qobject_cast<const PanelNotice *>(child) || qobject_cast<const PanelDimmer *>(child);
+}
+
+} // namespace
 
 ContentShift::~ContentShift()
 {
@@ -54,7 +68,7 @@ void ContentShift::takeChildren(const QWidget *window)
 {
     const auto children = window->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     for (QWidget *child : children) {
-        if (child == m_stays || child->isWindow())
+        if (child == m_stays || child->isWindow() || liesOverAll(child))
             continue;
         m_children.append(child);
         child->installEventFilter(this);

@@ -13,7 +13,7 @@ class ContentShift : public QObject
 public:
     ~ContentShift() override;
 
-    /// Leaves alone \a stays, and what is added to the window later.
+    /// Leaves alone \a stays, notices, dimmers, and what is added to the window later.
     void setWindow(QWidget *window, const QWidget *stays);
     /// The content lies \a up_px higher than without a shift, and leaves \a below_px of the window
     /// free at its bottom.

@@ -21,7 +21,7 @@ public:
     void showInputPanel() override;
     void hideInputPanel() override;
     bool isInputPanelVisible() const override { return m_dock.isOpen(); }
-    QRectF keyboardRect() const override { return m_dock.screenRect(); }
+    QRectF keyboardRect() const override { return m_dock.placeInWindow(); }
     QLocale locale() const override;
 
 protected:

@@ -2,6 +2,7 @@
 #include "panel/plugin/keyboarddock.h"
 
 #include "panel/mm_p.h"
+#include "panel/over_p.h"
 #include "panel/plugin/keyboardchoice.h"
 
 #include <OnScreenKeyboard>
@@ -16,6 +17,7 @@
 namespace {
 
 using vexo::hox::qt::panel::mmY;
+using vexo::hox::qt::panel::Over;
 
 const double margin_mm = 2; // around the field
 const double largest_part = 0.6; // of the window's height
@@ -55,6 +57,7 @@ void KeyboardDock::open(QWidget *field)
     Keyboard *keyboard = keyboardIn(window);
     m_field = field;
     grow(window, keyboard->sizeHint());
+    keyboard->setDark(window->palette().color(QPalette::Window).lightness() < 128);
     keyboard->show();
     keyboard->raise();
     place();
@@ -71,10 +74,10 @@ void KeyboardDock::close()
     Q_EMIT changed();
 }
 
-QRect KeyboardDock::screenRect() const
+QRect KeyboardDock::placeInWindow() const
 {
     const Keyboard *keyboard = shown();
-    return keyboard ? QRect(keyboard->mapToGlobal(QPoint()), keyboard->size()) : QRect();
+    return keyboard ? keyboard->geometry() : QRect();
 }
 
 void KeyboardDock::follow()
@@ -111,14 +114,14 @@ KeyboardDock::Keyboard *KeyboardDock::keyboardIn(QWidget *window)
     if (!keyboard)
         keyboard = createKeyboard(window);
     else if (keyboard->parentWidget() != window)
-        keyboard->setParent(window);
+        keyboard->setParent(Over(window));
     m_shift.setWindow(window, keyboard);
     return keyboard;
 }
 
 KeyboardDock::Keyboard *KeyboardDock::createKeyboard(QWidget *window)
 {
-    auto *keyboard = new Keyboard(window);
+    auto *keyboard = new Keyboard(Over(window));
     m_keyboard = keyboard;
     keyboard->setHasHideKey(true);
     chooseLanguages(keyboard);

@@ -24,8 +24,8 @@ public:
     void open(QWidget *field);
     void close();
     bool isOpen() const { return shown(); }
-    /// Where it is on the screen, px; null if it is closed.
-    QRect screenRect() const;
+    /// Where it is in its window, px; null if it is closed.
+    QRect placeInWindow() const;
     /// The code of the language that is typed, such as "de"; empty before the first use.
     QString language() const { return m_language; }
     /// The field's hints, its text or its cursor have changed.

@@ -3,6 +3,9 @@
 #include "support/panelscale.h"
 #include "support/virtualclock.h"
 
+#include <PanelDimmer>
+#include <PanelNotice>
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCompleter>
@@ -14,6 +17,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
+#include <QSplitter>
 #include <QTextEdit>
 #include <QVBoxLayout>
 
@@ -45,6 +49,13 @@ void activate(QWidget *window)
 int bottomOf(const QWidget &widget)
 {
     return widget.mapTo(widget.window(), widget.rect().bottomLeft()).y();
+}
+
+QWidget *makeWindow(const QByteArray &kind)
+{
+    if (kind == "QMainWindow")
+        return new QMainWindow;
+    return kind == "QSplitter" ? new QSplitter : new QWidget;
 }
 
 /// A form whose last field lies where the keyboard comes up.
@@ -82,6 +93,7 @@ private Q_SLOTS:
     void contentMovesInAnyWindow_data();
     void contentMovesInAnyWindow();
     void contentStaysUpWhateverTheLayoutDoes();
+    void noticeAndDimmerKeepTheirPlaces();
     void cursorOfALargeFieldStaysVisible();
     void typesAndFollowsHints();
     void staysBesideTheListOfACompleter();
@@ -124,33 +136,39 @@ void TestKeyboardPlugin::comesAndGoesWithTheFocus()
 
 void TestKeyboardPlugin::contentMovesInAnyWindow_data()
 {
-    QTest::addColumn<bool>("is_main_window");
-    QTest::newRow("without a layout") << false;
-    QTest::newRow("main window") << true;
+    QTest::addColumn<QByteArray>("kind");
+    for (const char *kind : { "QWidget", "QMainWindow", "QSplitter" })
+        QTest::newRow(kind) << QByteArray(kind);
 }
 
 void TestKeyboardPlugin::contentMovesInAnyWindow()
 {
-    QFETCH(bool, is_main_window);
+    QFETCH(QByteArray, kind);
     const PanelScale scale(5, 6);
-    auto main = std::make_unique<QMainWindow>();
-    auto *page = new QWidget;
-    if (is_main_window)
+    const std::unique_ptr<QWidget> window(makeWindow(kind));
+    auto *splitter = qobject_cast<QSplitter *>(window.get());
+    auto *main = qobject_cast<QMainWindow *>(window.get());
+    QWidget *page = main || splitter ? new QWidget : window.get();
+    if (main)
         main->setCentralWidget(page);
-    QWidget plain;
-    auto *field = new QLineEdit(is_main_window ? page : &plain);
+    if (splitter)
+        splitter->addWidget(page);
+    auto *field = new QLineEdit(page);
     field->setGeometry(10, 500, 300, 40);
-    QWidget &window = is_main_window ? *main : plain;
-    window.resize(800, 576);
-    activate(&window);
+    window->resize(800, 576);
+    activate(window.get());
     QCOMPARE(bottomOf(*field), 539);
     field->setFocus();
-    QTRY_VERIFY(keyboardOf(window));
-    QCOMPARE(bottomOf(*field), keyboardOf(window)->y() - 1 - 12); // 2 mm above it
+    QTRY_VERIFY(keyboardOf(*window));
+    QCOMPARE(keyboardOf(*window)->geometry().bottomRight(), window->rect().bottomRight());
+    QCOMPARE(bottomOf(*field), keyboardOf(*window)->y() - 1 - 12); // 2 mm above it
+    uitest::Finger finger(window.get());
+    finger.hold(keyOf(*window, text("E")), 700); // its variants lie over the window, too
+    QTRY_VERIFY(keyOf(*window, text("É")));
+    if (splitter)
+        QCOMPARE(splitter->count(), 1);
     field->clearFocus();
     QTRY_COMPARE(bottomOf(*field), 539);
-    if (!is_main_window)
-        delete page;
 }
 
 void TestKeyboardPlugin::contentStaysUpWhateverTheLayoutDoes()
@@ -171,6 +189,26 @@ void TestKeyboardPlugin::contentStaysUpWhateverTheLayoutDoes()
     form.button->setFocus();
     QTRY_VERIFY(!keyboardOf(form));
     QCOMPARE(form.contentsMargins(), QMargins());
+}
+
+void TestKeyboardPlugin::noticeAndDimmerKeepTheirPlaces()
+{
+    Form form;
+    form.move(0, 100);
+    form.setWindowFlag(Qt::FramelessWindowHint);
+    activate(&form);
+    panel::PanelNotice notice(Qt::BottomEdge, &form);
+    notice.tell(text("Saved"));
+    panel::PanelDimmer dimmer(0, &form);
+    const QRect before = notice.geometry();
+    form.last->setFocus();
+    QTRY_VERIFY(keyboardOf(form));
+    const QRect keys = keyboardOf(form)->geometry();
+    QCOMPARE(QGuiApplication::inputMethod()->keyboardRectangle().toRect(), keys); // of the window
+    QTRY_COMPARE(notice.geometry().bottom(), keys.top() - 1 - 24); // 4 mm
+    QCOMPARE(dimmer.geometry(), form.rect());
+    form.button->setFocus();
+    QTRY_COMPARE(notice.geometry(), before);
 }
 
 void TestKeyboardPlugin::cursorOfALargeFieldStaysVisible()

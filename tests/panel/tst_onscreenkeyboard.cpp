@@ -153,6 +153,7 @@ private Q_SLOTS:
     void brokenFileChangesNothing();
     void keysNeverOverlap_data();
     void keysNeverOverlap();
+    void auditFindsNothing_data();
     void auditFindsNothing();
 };
 
@@ -572,9 +573,18 @@ void TestOnScreenKeyboard::keysNeverOverlap()
     }
 }
 
+void TestOnScreenKeyboard::auditFindsNothing_data()
+{
+    QTest::addColumn<bool>("is_dark");
+    QTest::newRow("light") << false;
+    QTest::newRow("dark") << true;
+}
+
 void TestOnScreenKeyboard::auditFindsNothing()
 {
+    QFETCH(bool, is_dark);
     Desk desk;
+    desk.keyboard->setDark(is_dark);
     desk.field->setAccessibleName(text("Name"));
     desk.field->setFixedHeight(60);
     desk.field->setFrame(false);

@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QSplitter>
 #include <QTest>
 
 using namespace vexo::hox::qt::panel;
@@ -48,6 +49,7 @@ class TestPanelDialog : public TestCase
 private Q_SLOTS:
     void buttonAnswers();
     void coversItsScreen();
+    void isNoPaneOfASplitter();
     void answersWithoutAButton_data();
     void answersWithoutAButton();
     void endsATouchBelow_data();
@@ -91,6 +93,20 @@ void TestPanelDialog::coversItsScreen()
     QCOMPARE(dialog.geometry(), screen.window.rect());
     Finger(&screen.window).tap(&screen.below);
     QCOMPARE(clicked.size(), 1);
+}
+
+void TestPanelDialog::isNoPaneOfASplitter()
+{
+    QSplitter splitter;
+    splitter.addWidget(new QWidget);
+    splitter.resize(600, 400);
+    splitter.show();
+    PanelDialog dialog(QStringLiteral("Sure?"), &splitter);
+    dialog.open();
+    QCOMPARE(splitter.count(), 1);
+    QCOMPARE(dialog.geometry(), splitter.rect());
+    splitter.resize(500, 300);
+    QCOMPARE(dialog.geometry(), splitter.rect());
 }
 
 void TestPanelDialog::answersWithoutAButton_data()

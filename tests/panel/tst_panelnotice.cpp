@@ -3,12 +3,14 @@
 #include "support/testcase.h"
 #include "support/touch.h"
 
+#include <OnScreenKeyboard>
 #include <PanelNotice>
 
 #include <QLabel>
 #include <QSignalSpy>
 #include <QTest>
 
+using vexo::hox::qt::panel::OnScreenKeyboard;
 using vexo::hox::qt::panel::PanelNotice;
 
 class TestPanelNotice : public TestCase
@@ -18,6 +20,7 @@ class TestPanelNotice : public TestCase
 private Q_SLOTS:
     void liesAtItsEdge_data();
     void liesAtItsEdge();
+    void staysAboveAKeyboard();
     void comesAndGoes();
     void aTapSendsItAway();
     void mayBeDeletedInItsSignal();
@@ -50,6 +53,36 @@ void TestPanelNotice::liesAtItsEdge()
         QCOMPARE(distance, distance_px);
         QVERIFY(qAbs(place.center().x() - screen.rect().center().x()) <= 1);
     }
+}
+
+// That of the window, whatever lies between it and the notice.
+void TestPanelNotice::staysAboveAKeyboard()
+{
+    const PanelScale scale(5, 10);
+    QWidget window;
+    window.resize(600, 800);
+    QWidget screen(&window);
+    screen.setGeometry(0, 50, 600, 750);
+    OnScreenKeyboard keyboard(&window);
+    keyboard.setGeometry(0, 400, 600, 400);
+    keyboard.hide();
+    window.show();
+    PanelNotice below(Qt::BottomEdge, &screen);
+    PanelNotice above(Qt::TopEdge, &screen);
+    below.tell(QStringLiteral("Saved"));
+    above.tell(QStringLiteral("Saved"));
+    const QRect lowest = below.geometry();
+    const QRect highest = above.geometry();
+    QCOMPARE(lowest.bottom(), 709);
+    keyboard.show();
+    QTRY_COMPARE(below.geometry().bottom(), 309);
+    keyboard.setGeometry(0, 500, 600, 300);
+    QTRY_COMPARE(below.geometry().bottom(), 409);
+    below.tell(QStringLiteral("Saved again"));
+    QCOMPARE(below.geometry().bottom(), 409);
+    keyboard.hide();
+    QTRY_COMPARE(below.geometry().bottom(), 709);
+    QCOMPARE(above.geometry(), highest);
 }
 
 void TestPanelNotice::comesAndGoes()

@@ -31,6 +31,9 @@ VexoFunctionButton::VexoFunctionButton(QWidget *parent, const VexoFunctionButton
     , m_visible_buddies(std::make_unique<VisibleBuddies>())
     , m_tap_limit(std::make_unique<TapLimit>(10))
     , m_button_type(type)
+    , m_arrow_color(ArrowLabel::normalColor())
+    , m_arrow_clicked_color(ArrowLabel::pressedColor())
+    , m_arrow_inactive_color(ArrowLabel::inactiveColor())
 {
     qRegisterMetaType<VexoFunctionButtonType>("VexoFunctionButtonType");
     static const CoverRule cover_rule(staticMetaObject, [](const QWidget &row) {
@@ -89,6 +92,28 @@ void VexoFunctionButton::setTextClickedColor(const QColor &color)
 void VexoFunctionButton::setTextInactiveColor(const QColor &color)
 {
     setColor(&m_text_inactive_color, color);
+}
+
+void VexoFunctionButton::setArrowColor(const QColor &color)
+{
+    m_arrow_color = color;
+    if (!m_arrow_normal.isNull())
+        m_arrow_normal = ArrowLabel::tinted(m_arrow_normal, color);
+    showArrow();
+}
+
+void VexoFunctionButton::setArrowClickedColor(const QColor &color)
+{
+    m_arrow_clicked_color = color;
+    m_arrow_pressed = QPixmap();
+    showArrow();
+}
+
+void VexoFunctionButton::setArrowInactiveColor(const QColor &color)
+{
+    m_arrow_inactive_color = color;
+    m_arrow_inactive = QPixmap();
+    showArrow();
 }
 
 void VexoFunctionButton::setBackgroundColor(const QColor &color)
@@ -284,6 +309,8 @@ void VexoFunctionButton::setupArrow()
     m_arrow_inactive = QPixmap();
     m_last_down = false;
     m_inactive_shown = false;
+    if (m_arrow_color != ArrowLabel::normalColor())
+        setArrowColor(m_arrow_color);
 }
 
 // The toolkit lets a disabled button come up; a chosen row stays dark nevertheless.
@@ -344,13 +371,23 @@ void VexoFunctionButton::applyArrow(const QRegion &painted)
     auto *arrow = is_same ? nullptr : dynamic_cast<ArrowLabel *>(m_right_widget.data());
     if (!arrow)
         return;
+    arrow->showArrow(this->arrow(), painted);
+}
+
+const QPixmap &VexoFunctionButton::arrow()
+{
     if (m_inactive_shown)
-        arrow->showArrow(
-            ArrowLabel::rendered(&m_arrow_inactive, "RGB220", m_arrow_normal), painted);
-    else if (m_last_down)
-        arrow->showArrow(ArrowLabel::rendered(&m_arrow_pressed, "C0", m_arrow_normal), painted);
-    else
-        arrow->showArrow(m_arrow_normal, painted);
+        return ArrowLabel::rendered(&m_arrow_inactive, m_arrow_inactive_color, m_arrow_normal);
+    if (m_last_down)
+        return ArrowLabel::rendered(&m_arrow_pressed, m_arrow_clicked_color, m_arrow_normal);
+    return m_arrow_normal;
+}
+
+// In the state that was painted last.
+void VexoFunctionButton::showArrow()
+{
+    if (auto *label = dynamic_cast<ArrowLabel *>(m_right_widget.data()))
+        label->setPixmap(arrow());
 }
 
 } // namespace vexo::hox::qt::ui

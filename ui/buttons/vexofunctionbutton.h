@@ -57,6 +57,12 @@ class HOXQUI_EXPORT VexoFunctionButton // clazy:exclude=copyable-polymorphic
     Q_PROPERTY(QColor m_text_clicked_color READ textClickedColor WRITE setTextClickedColor)
     /// While disabled. Default C6. On a row with an arrow a change shows when it is next disabled.
     Q_PROPERTY(QColor m_text_inactive_color READ textInactiveColor WRITE setTextInactiveColor)
+    /// Of an arrow. Default C3.
+    Q_PROPERTY(QColor m_arrow_color READ arrowColor WRITE setArrowColor)
+    /// Of an arrow while down or checked. Default C0.
+    Q_PROPERTY(QColor m_arrow_clicked_color READ arrowClickedColor WRITE setArrowClickedColor)
+    /// Of an arrow while disabled. Default the grey 220.
+    Q_PROPERTY(QColor m_arrow_inactive_color READ arrowInactiveColor WRITE setArrowInactiveColor)
     /// Default C1.
     Q_PROPERTY(QColor m_background_color READ backgroundColor WRITE setBackgroundColor)
     /// Of a row with an arrow while down or checked. Default C4.
@@ -94,6 +100,12 @@ public:
     void setTextClickedColor(const QColor &color);
     QColor textInactiveColor() const { return m_text_inactive_color; }
     void setTextInactiveColor(const QColor &color);
+    QColor arrowColor() const { return m_arrow_color; }
+    void setArrowColor(const QColor &color);
+    QColor arrowClickedColor() const { return m_arrow_clicked_color; }
+    void setArrowClickedColor(const QColor &color);
+    QColor arrowInactiveColor() const { return m_arrow_inactive_color; }
+    void setArrowInactiveColor(const QColor &color);
     QColor backgroundColor() const { return m_background_color; }
     void setBackgroundColor(const QColor &color);
     QColor backgroundClickedColor() const { return m_background_clicked_color; }
@@ -157,6 +169,8 @@ private:
     bool coversAll() const;
     void applyLook(const QRegion &painted);
     void applyArrow(const QRegion &painted);
+    const QPixmap &arrow();
+    void showArrow();
 
     const ScalingInfo *const m_scaling;
     const QPointer<VexoFeedbackDelegator> m_tone_delegator;
@@ -176,6 +190,9 @@ private:
     QColor m_text_color = VexoColors::C3;
     QColor m_text_clicked_color = VexoColors::C0;
     QColor m_text_inactive_color = VexoColors::C6;
+    QColor m_arrow_color;
+    QColor m_arrow_clicked_color;
+    QColor m_arrow_inactive_color;
     QColor m_background_color = VexoColors::C1;
     QColor m_background_clicked_color = VexoColors::C4;
     double m_mm_indent = 3.0;

@@ -32,6 +32,17 @@ void VexoNumericButton::setTextColor(const QColor &color)
                                       .arg(color.blue()));
 }
 
+void VexoNumericButton::setEdgeInMm(double mm)
+{
+    if (!isMeasure(mm))
+        return;
+    m_edge_mm = mm;
+    const int px = widgetPx(pxX(*ScalingInfo::inst(), mm));
+    for (const int end : { 0, layout()->count() - 1 })
+        layout()->itemAt(end)->spacerItem()->changeSize(px, 0);
+    layout()->invalidate();
+}
+
 void VexoNumericButton::setValue(int value)
 {
     if (value >= m_maximum)
@@ -117,16 +128,16 @@ void VexoNumericButton::setupUi()
     m_number_label->setFont(panelFont(13.0, QFont::Medium));
     setTextColor(m_text_color);
 
-    const int edge_px = widgetPx(pxX(*ScalingInfo::inst(), 18.0));
     auto *row = new QHBoxLayout(this);
     tighten(row);
-    row->addItem(new QSpacerItem(edge_px, 0));
+    row->addItem(new QSpacerItem(0, 0));
     row->addWidget(m_decrease_button);
     row->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding, QSizePolicy::Expanding));
     row->addWidget(m_number_label);
     row->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding, QSizePolicy::Expanding));
     row->addWidget(m_increase_button);
-    row->addItem(new QSpacerItem(edge_px, 0));
+    row->addItem(new QSpacerItem(0, 0));
+    setEdgeInMm(m_edge_mm);
 }
 
 VexoIconButton *VexoNumericButton::createRoundButton(const QString &image)

@@ -33,6 +33,9 @@ class HOXQUI_EXPORT VexoNumericButton : public QWidget
     Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
     /// Default 1. Holds from the next press on.
     Q_PROPERTY(int step_size READ stepSize WRITE setStepSize)
+    /// Space before the minus and behind the plus, mm. Default 18.0. Negative ones and NaN are
+    /// ignored.
+    Q_PROPERTY(double edge_in_mm READ edgeInMm WRITE setEdgeInMm)
 
 public:
     explicit VexoNumericButton(QWidget *parent = nullptr);
@@ -47,6 +50,8 @@ public:
     void setMaximum(int maximum);
     int stepSize() const { return m_step_size; }
     void setStepSize(int step_size);
+    double edgeInMm() const { return m_edge_mm; }
+    void setEdgeInMm(double mm);
     /// As a press does: sets the value and emits valueChanged().
     void changeValue(int value);
 
@@ -71,6 +76,7 @@ private:
     int m_minimum = 0;
     int m_maximum = 1;
     int m_step_size = 1;
+    double m_edge_mm = 18.0;
     bool m_is_waiting = false; // for the number to reach the screen
 };
 

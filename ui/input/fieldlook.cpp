@@ -20,10 +20,20 @@ QRectF FieldLook::textRect(const TextRun &run, std::optional<int> placeholder_wi
         const int behind_cursor = has_cursor ? (cursor.width() + indent) / 2 : 0;
         const int behind_text = placeholder_width ? (indent + *placeholder_width) / 2 : 0;
         left = middle - behind_cursor - behind_text;
+    } else if (icon_start) {
+        left = leftBeforeIcon(run, placeholder_width.value_or(0));
     } else if (run.isTurned()) {
         left = qMin(left, size.width() - inset - run.advance());
     }
     return QRectF(left, margin.y(), run.advance(), size.height() - 2 * margin.y());
+}
+
+// The place of the cursor stays free, so that nothing moves as it blinks.
+double FieldLook::leftBeforeIcon(const TextRun &run, int placeholder_width) const
+{
+    const int behind = indent + qMax(placeholder_width, cursor.width());
+    const double left = *icon_start - offset - behind - run.advance();
+    return run.isTurned() ? left : qMax(left, corner + margin.x());
 }
 
 int FieldLook::cursorX(const QRectF &text_rect) const

@@ -30,7 +30,8 @@ struct FieldLook
     double dots_left = 0; // free at both ends of the dots
     int indent = 0; // from the text to the cursor
     int offset = 0; // of a text that is not centred
-    std::optional<int> icon_end; // right of the leading icon, if there is one
+    std::optional<int> icon_end; // right of the leading icon, if there is one at the left
+    std::optional<int> icon_start; // left of the leading icon, if there is one at the right
     bool is_centered = false;
     bool has_centered_dots = true;
 
@@ -44,10 +45,14 @@ struct FieldLook
 
     Qt::Alignment alignment() const;
     /// One that runs from right to left and is too long keeps its beginning in sight. A placeholder
-    /// that is shown takes \a placeholder_width.
+    /// that is shown takes \a placeholder_width. With the leading icon at the right all of it ends
+    /// there.
     QRectF textRect(const TextRun &run, std::optional<int> placeholder_width) const;
     int cursorX(const QRectF &text_rect) const;
     QLine cursorLine(int x) const { return QLine(x, cursor_top, x, cursor_bottom); }
+
+private:
+    double leftBeforeIcon(const TextRun &run, int placeholder_width) const;
 };
 
 } // namespace vexo::hox::qt::ui

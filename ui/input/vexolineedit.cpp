@@ -328,8 +328,11 @@ FieldLook VexoLineEdit::fieldLook() const
     look.dots_left = finitePx(m_scaling->mm2px_X(float(dots_mm))) + m_px_margin.x();
     look.indent = pxX(*m_scaling, m_cursor_mm_indent);
     look.offset = pxX(*m_scaling, m_left_offset_mm);
-    if (m_leading_action && m_leading_label)
-        look.icon_end = m_leading_label->x() + pxX(*m_scaling, m_mm_leading_icon_size.width());
+    const QLabel *const icon = m_leading_action ? m_leading_label.data() : nullptr;
+    if (icon && isRightToLeft())
+        look.icon_start = icon->x();
+    else if (icon)
+        look.icon_end = icon->x() + pxX(*m_scaling, m_mm_leading_icon_size.width());
     look.is_centered = m_draw_centered;
     look.has_centered_dots = m_draw_secured_centered;
     look.ink = isEnabled() ? m_text_color : m_text_inactive_color;

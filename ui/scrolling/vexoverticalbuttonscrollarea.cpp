@@ -3,6 +3,7 @@
 
 #include "ui/files/imagefile_p.h"
 #include "ui/foundation/languagefollower_p.h"
+#include "ui/foundation/pixels_p.h"
 #include "ui/foundation/tightlayout_p.h"
 #include "ui/scrolling/vexoverticalscrollarea.h"
 #include "ui/scrolling/vexoverticalscrollcontent.h"
@@ -18,8 +19,7 @@ namespace vexo::hox::qt::ui {
 
 namespace {
 
-const int button_px = 60;
-const int page_px = 150;
+const int usual_px = 60;
 
 /// A stock button, but for the ends of a press.
 class JumpButton : public QPushButton
@@ -71,7 +71,7 @@ void VexoVerticalButtonScrollArea::addButton(const QString &text)
     if (!column)
         return;
     auto *button = new JumpButton(tr(text.toUtf8().constData()));
-    button->setFixedSize(button_px, button_px);
+    button->setFixedSize(m_button_px);
     button->setObjectName(QStringLiteral("letterButton"));
     column->addWidget(button);
 }
@@ -149,22 +149,41 @@ void VexoVerticalButtonScrollArea::setNavigationButtonVisibility(bool visible)
     m_down_button->setVisible(visible);
 }
 
+void VexoVerticalButtonScrollArea::setMmButtonSize(const QSizeF &mm)
+{
+    if (!isMeasure(mm))
+        return;
+    m_mm_button_size = mm;
+    const QSize px = pxSize(*ScalingInfo::inst(), mm);
+    m_button_px = px.isEmpty() ? QSize(usual_px, usual_px) : px;
+    setFixedWidth(m_button_px.width());
+    const double icon_mm = qMin(mm.width(), mm.height()) / 2;
+    const QSize icon_px = pxSize(*ScalingInfo::inst(), QSizeF(icon_mm, icon_mm));
+    for (QPushButton *button : { m_up_button, m_down_button }) {
+        button->setFixedSize(m_button_px);
+        button->setIconSize(icon_px.isEmpty() ? QSize() : icon_px); // that of the style
+    }
+    const auto letters = findChildren<QPushButton *>(QStringLiteral("letterButton"));
+    for (QPushButton *button : letters)
+        button->setFixedSize(m_button_px);
+}
+
 void VexoVerticalButtonScrollArea::onUpButtonClicked()
 {
-    page(-page_px);
+    page(-1);
 }
 
 void VexoVerticalButtonScrollArea::onDownButtonClicked()
 {
-    page(page_px);
+    page(1);
 }
 
-void VexoVerticalButtonScrollArea::page(int px)
+void VexoVerticalButtonScrollArea::page(int direction)
 {
     if (!m_scroll_area)
         return;
     QScrollBar *bar = m_scroll_area->verticalScrollBar();
-    bar->setValue(bar->value() + px);
+    bar->setValue(bar->value() + direction * m_button_px.height() * 5 / 2);
 }
 
 // Null when an application, which is handed the scroll area, deleted it or what it shows.
@@ -175,7 +194,7 @@ QLayout *VexoVerticalButtonScrollArea::column() const
 
 void VexoVerticalButtonScrollArea::setupUi()
 {
-    setFixedWidth(button_px);
+    setFixedWidth(usual_px);
     auto *outer = new QVBoxLayout(this);
     tighten(outer);
     tighten(new QVBoxLayout(m_scroll_area));
@@ -190,8 +209,8 @@ void VexoVerticalButtonScrollArea::setupUi()
     followLanguage(m_up_button, "accessibleName", [] { return tr("Up"); });
     m_down_button->setObjectName(QStringLiteral("downButton"));
     followLanguage(m_down_button, "accessibleName", [] { return tr("Down"); });
-    m_up_button->setFixedSize(button_px, button_px);
-    m_down_button->setFixedSize(button_px, button_px);
+    m_up_button->setFixedSize(m_button_px);
+    m_down_button->setFixedSize(m_button_px);
     addScrollAreaContent();
     connect(
         m_up_button, &QPushButton::clicked, this, &VexoVerticalButtonScrollArea::onUpButtonClicked);

@@ -5,6 +5,7 @@
 
 #include <QIcon>
 #include <QPointer>
+#include <QSizeF>
 #include <QWidget>
 
 #include <functional>
@@ -15,9 +16,9 @@ namespace vexo::hox::qt::ui {
 
 class VexoVerticalScrollArea;
 
-/// A jump bar of 60 px beside a long list: a column of letters or digits that scrolls by a finger,
-/// between an up and a down button that page it. What a letter does is up to the application, see
-/// setButtonConnection().
+/// A jump bar beside a long list: a column of letters or digits that scrolls by a finger, between
+/// an up and a down button that page it. It is 60 px wide, or what m_mm_button_size says. What a
+/// letter does is up to the application, see setButtonConnection().
 ///
 /// A handler may delete the letter that was touched; to delete the bar use deleteLater() there,
 /// since the toolkit is still at the gesture.
@@ -36,6 +37,10 @@ class HOXQUI_EXPORT VexoVerticalButtonScrollArea : public QWidget
     Q_PROPERTY(QIcon m_up_icon MEMBER m_up_icon WRITE setUpIcon)
     /// Of the down button. Default forward.svg of the library.
     Q_PROPERTY(QIcon m_down_icon MEMBER m_down_icon WRITE setDownIcon)
+    /// Size of each button, mm, those to come too; the bar is as wide, and icons are half as high.
+    /// Up and down move the column by two and a half buttons. Default 0 x 0, as for any other size
+    /// without an area: 60 x 60 px on each panel. Negative ones and NaN are ignored.
+    Q_PROPERTY(QSizeF m_mm_button_size READ mmButtonSize WRITE setMmButtonSize)
 
 public:
     enum class VexoVerticalButtonScrollAreaType {
@@ -59,7 +64,9 @@ public:
         VexoVerticalButtonScrollAreaType type = VexoVerticalButtonScrollAreaType::Alphabetic);
 
     void setType(VexoVerticalButtonScrollAreaType type);
-    /// Appends a button of 60 x 60 px with \a text, translated in the context of this class.
+    QSizeF mmButtonSize() const { return m_mm_button_size; }
+    void setMmButtonSize(const QSizeF &mm);
+    /// Appends a button with \a text, translated in the context of this class.
     void addButton(const QString &text);
     /// Appends the buttons A to Z, behind one of # if \a with_hash.
     void addAlphabeticButtons(bool with_hash);
@@ -87,7 +94,7 @@ private Q_SLOTS:
 
 private:
     void setupUi();
-    void page(int px);
+    void page(int direction);
     QLayout *column() const;
 
     const QPointer<VexoVerticalScrollArea> m_scroll_area;
@@ -96,6 +103,8 @@ private:
     QIcon m_up_icon;
     QIcon m_down_icon;
     VexoVerticalButtonScrollAreaType m_type;
+    QSizeF m_mm_button_size = QSizeF(0, 0);
+    QSize m_button_px = QSize(60, 60);
 };
 
 } // namespace vexo::hox::qt::ui

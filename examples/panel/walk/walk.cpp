@@ -6,7 +6,6 @@
 #include <Finger>
 #include <PageStack>
 #include <PanelDialog>
-#include <PanelNotice>
 #include <RowList>
 #include <VexoDesignVectorButton>
 #include <VexoFunctionButton>
@@ -176,8 +175,6 @@ void Visitor::changeTheLook()
 
 void Visitor::update()
 {
-    const auto *notice = m_panel->findChild<PanelNotice *>();
-    expect([=] { return !notice->isVisible(); }, "that the notice goes, which lies over keys");
     openTile("Update", "pin");
     const auto *field = page()->findChild<VexoLineEdit *>();
     type("1234");

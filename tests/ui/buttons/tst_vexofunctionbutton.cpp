@@ -67,6 +67,7 @@ private Q_SLOTS:
     void everyTypeTellsATapFromASwipe();
     void fullRowsExcludeEachOther();
     void looksFollowTheState();
+    void arrowIsRecoloured();
     void eachPartIsPaintedOncePerChange();
     void measuresAreMillimetres();
     void typeMayChangeInAnyState_data();
@@ -157,6 +158,35 @@ void TestVexoFunctionButton::looksFollowTheState()
         QCOMPARE(lookOf(&row), off);
         row.setEnabled(true);
         QCOMPARE(lookOf(&row), up);
+    }
+}
+
+void TestVexoFunctionButton::arrowIsRecoloured()
+{
+    const QColor colors[] = { Qt::red, Qt::magenta, QColor(0, 60, 90) }; // up, down, disabled
+    for (const Type type : { Row::ActionType, Row::FullsizeRadiobuttonType }) {
+        LoudRow row(Row::CheckboxType);
+        row.setArrowColor(colors[0]);
+        row.setButtonType(type);
+        const auto shows = [&](int color) {
+            const QImage image = row.grab().toImage();
+            for (int i = 0; i < 3; ++i) {
+                if (boxOf(image, colors[i]).isEmpty() == (i == color))
+                    return false;
+            }
+            return true;
+        };
+        QVERIFY(shows(0));
+        row.setDown(true);
+        QCOMPARE(lookOf(&row), DARK);
+        row.setArrowClickedColor(colors[1]); // while it is down
+        row.setArrowInactiveColor(colors[2]);
+        QVERIFY(shows(1));
+        row.setEnabled(false);
+        QVERIFY(shows(2));
+        row.setEnabled(true);
+        row.setArrowColor(VexoColors::C3);
+        QCOMPARE(lookOf(&row), UP);
     }
 }
 

@@ -164,6 +164,14 @@ void TestVexoNumericButton::partsArePlacedInMillimetres()
     QCOMPARE(stepper.minus->geometry().left(), 180);
     QCOMPARE(stepper.minus->width(), 70);
     QCOMPARE(stepper.plus->geometry().right(), 900 - 180 - 1);
+    stepper.widget->setEdgeInMm(-1);
+    stepper.widget->setEdgeInMm(2.5);
+    stepper.widget->setEdgeInMm(qQNaN());
+    stepper.widget->grab();
+    QCOMPARE(stepper.minus->geometry().left(), 25);
+    QCOMPARE(stepper.plus->geometry().right(), 900 - 25 - 1);
+    stepper.widget->setEdgeInMm(18);
+    stepper.widget->grab();
     QCOMPARE(stepper.label->font().pixelSize(), 91); // 13 pt = 91.7 px
     QCOMPARE(stepper.label->font().weight(), 57);
     for (QAbstractButton *button : { stepper.minus, stepper.plus }) {

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void textLeavesRoom_data();
     void textLeavesRoom();
     void tooLongKeepsItsBeginning();
+    void endsBeforeAnIconAtTheRight();
 };
 
 namespace {
@@ -78,6 +79,24 @@ void TestFieldLook::tooLongKeepsItsBeginning()
     QCOMPARE(look.textRect(run, {}).left(), 37.0);
     run.set(QString(200, QChar(0x05d0)), QFont());
     QCOMPARE(look.textRect(run, {}).right(), 363.0);
+}
+
+// That is where a layout from right to left puts it.
+void TestFieldLook::endsBeforeAnIconAtTheRight()
+{
+    FieldLook look = wideLook();
+    look.offset = 3;
+    look.icon_start = 350;
+    TextRun run;
+    run.set(QStringLiteral("123"), QFont());
+    QCOMPARE(look.textRect(run, {}).right(), 338.0); // 5 px and the cursor before the offset
+    QCOMPARE(look.textRect(run, 20).right(), 322.0);
+    look.has_cursor = true;
+    QCOMPARE(look.textRect(run, {}).right(), 338.0);
+    run.set(QString(200, QLatin1Char('W')), QFont());
+    QCOMPARE(look.textRect(run, {}).left(), 37.0);
+    run.set(QString(200, QChar(0x05d0)), QFont());
+    QCOMPARE(look.textRect(run, {}).right(), 338.0);
 }
 
 QTEST_MAIN(TestFieldLook)

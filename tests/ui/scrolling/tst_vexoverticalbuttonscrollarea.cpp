@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/panelscale.h"
 #include "support/testcase.h"
 
 #include <VexoVerticalButtonScrollArea>
@@ -37,6 +38,7 @@ private Q_SLOTS:
     void holdsTheButtonsOfItsType_data();
     void holdsTheButtonsOfItsType();
     void pagesWithinItsEnds();
+    void buttonsAreAsLargeOnEachPanel();
     void handlersGoWithButtonsAndReceiver();
     void handlerMayChangeTheType();
 };
@@ -87,6 +89,31 @@ void TestVexoVerticalButtonScrollArea::pagesWithinItsEnds()
         left_px += scrolled->maximum() - scrolled->value();
     }
     QCOMPARE(left_px, (QVector<int>{ 50, 0, 0, 150 }));
+}
+
+void TestVexoVerticalButtonScrollArea::buttonsAreAsLargeOnEachPanel()
+{
+    const PanelScale scale(5, 10);
+    QWidget window;
+    VexoVerticalButtonScrollArea bar(&window);
+    bar.setMmButtonSize(QSizeF(10, 8));
+    bar.addButton("#");
+    bar.setMmButtonSize(QSizeF(-1, 8));
+    bar.setMmButtonSize(QSizeF(qQNaN(), 8));
+    bar.resize(bar.width(), 600);
+    window.show();
+    QCOMPARE(bar.width(), 50);
+    const auto buttons = bar.findChildren<QPushButton *>();
+    QCOMPARE(buttons.size(), 29);
+    for (const QPushButton *button : buttons)
+        QCOMPARE(button->size(), QSize(50, 80));
+    QCOMPARE(buttonOf(bar, "upButton")->iconSize(), QSize(20, 40));
+    buttonOf(bar, "downButton")->click();
+    QCOMPARE(bar.verticalScrollArea()->verticalScrollBar()->value(), 200);
+    bar.setMmButtonSize(QSizeF(0, 8));
+    QCOMPARE(bar.width(), 60);
+    QCOMPARE(buttonOf(bar, "letterButton")->size(), QSize(60, 60));
+    QCOMPARE(buttonOf(bar, "upButton")->iconSize(), QPushButton().iconSize());
 }
 
 void TestVexoVerticalButtonScrollArea::handlersGoWithButtonsAndReceiver()

@@ -7,6 +7,7 @@
 #include "ui/foundation/cachedvectoricon.h"
 #include "ui/foundation/plainlabel_p.h"
 #include "ui/painting/iconpixmap_p.h"
+#include "ui/painting/renderingcache_p.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -31,14 +32,29 @@ ArrowLabel::ArrowLabel(QWidget *row)
     setPixmap(CachedVectorIcon(arrowFile("C3"), VexoFunctionButton::ICON_SIZE).toPixmap());
 }
 
-const QPixmap &ArrowLabel::rendered(QPixmap *arrow, const char *color, const QPixmap &normal)
+const QPixmap &ArrowLabel::rendered(QPixmap *arrow, const QColor &color, const QPixmap &normal)
 {
-    if (arrow->isNull()) {
-        ImageFile file(arrowFile(color), ImageFile::Kind::Vector);
-        *arrow = file.pixmap(normal.size());
-        arrow->setDevicePixelRatio(normal.devicePixelRatio());
+    if (!arrow->isNull())
+        return *arrow;
+    if (color != pressedColor() && color != inactiveColor()) {
+        *arrow = tinted(normal, color);
+        return *arrow;
     }
+    ImageFile file(arrowFile(color == pressedColor() ? "C0" : "RGB220"), ImageFile::Kind::Vector);
+    *arrow = file.pixmap(normal.size());
+    arrow->setDevicePixelRatio(normal.devicePixelRatio());
     return *arrow;
+}
+
+QPixmap ArrowLabel::tinted(const QPixmap &arrow, const QColor &color)
+{
+    return RenderingCache::shared(RenderingCache::name("arrow ", arrow.cacheKey(), color), [&] {
+        QPixmap tinted(arrow);
+        QPainter painter(&tinted);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(tinted.rect(), color);
+        return tinted;
+    });
 }
 
 void ArrowLabel::showArrow(const QPixmap &arrow, const QRegion &painted)
