@@ -14,16 +14,16 @@ enum Kind { Brace = 1, Colon = 2, Semicolon = 4, Blank = 8, Quote = 16, Other = 
 constexpr std::array<char, 128> kindsOfAscii()
 {
     std::array<char, 128> kinds{};
-    for (const char c : { '{', '}' })
-        kinds[std::size_t(c)] = Brace;
-    for (const char c : { ' ', '\t', '\n', '\v', '\f', '\r' })
-        kinds[std::size_t(c)] = Blank;
-    for (const char c : { '"', '\'' })
-        kinds[std::size_t(c)] = Quote;
-    for (const char c : { '/', '\\', '(', ')' })
-        kinds[std::size_t(c)] = Other;
-    kinds[':'] = Colon;
-    kinds[';'] = Semicolon;
+    for (const char16_t c : { u'{', u'}' })
+        kinds[c] = Brace;
+    for (const char16_t c : { u' ', u'\t', u'\n', u'\v', u'\f', u'\r' })
+        kinds[c] = Blank;
+    for (const char16_t c : { u'"', u'\'' })
+        kinds[c] = Quote;
+    for (const char16_t c : { u'/', u'\\', u'(', u')' })
+        kinds[c] = Other;
+    kinds[u':'] = Colon;
+    kinds[u';'] = Semicolon;
     return kinds;
 }
 
