@@ -51,8 +51,9 @@ QRect roomAboveKeyboards(const QWidget &screen)
 void tellOfKeyboard(const QWidget &keyboard)
 {
     const auto notices = keyboard.window()->findChildren<PanelNotice *>();
+    QEvent request(QEvent::LayoutRequest);
     for (PanelNotice *notice : notices)
-        QCoreApplication::postEvent(notice, new QEvent(QEvent::LayoutRequest));
+        QCoreApplication::sendEvent(notice, &request);
 }
 
 } // namespace vexo::hox::qt::panel

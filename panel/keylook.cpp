@@ -43,6 +43,8 @@ QString objectNameOf(KeyboardKey::Function function)
         return Button::SPACE_BUTTON_OBJECT_NAME;
     case KeyboardKey::Shift:
         return Button::SHIFT_LEFT_BUTTON_OBJECT_NAME;
+    case KeyboardKey::Enter:
+        return QStringLiteral("enterKey");
     default:
         return QStringLiteral("specialKey");
     }

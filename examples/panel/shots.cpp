@@ -112,8 +112,9 @@ void takeShots(PanelWindow *panel, const QString &folder)
     panel->setNight(true);
     takeScreens(&album, "-night");
     takeSearch(panel, &album, "-night");
-    takeQuestion(panel, &album, "-night");
     panel->setNight(false);
     panel->setLanguage("de");
     takeScreens(&album, "-de");
+    panel->setNight(true);
+    takeQuestion(panel, &album, "-night");
 }

@@ -24,6 +24,7 @@ using namespace vexo::hox::qt::ui;
 namespace {
 
 const double indent_in_mm = 3; // of all texts, as of the rows
+const double bar_in_mm = 12;
 
 QLabel *createIndentedText(const QString &text, double pt, int weight)
 {
@@ -55,7 +56,7 @@ QWidget *createSeparator()
 QIcon arrow(double degrees)
 {
     CachedVectorIcon icon(":/widgetimages/VexoIconGeneralArrowListRight_44px_C0.svg");
-    icon.setPxSize(QSize(mmY(3), mmX(6.6)));
+    icon.setPxSize(QSize(mmY(2.7), mmX(bar_in_mm / 2)));
     return icon.toPixmap().transformed(QTransform().rotate(degrees));
 }
 
@@ -63,11 +64,9 @@ QIcon arrow(double degrees)
 // inherit a font where there is a sheet.
 QString barSheet()
 {
-    const QString sheet = "QPushButton { background: %1; icon-size: %3px; font-size: %4px; "
-                          "font-weight: %5; }"
+    const QString sheet = "QPushButton { background: %1; font-size: %3px; font-weight: %4; }"
                           "QPushButton:pressed { background: %2; }";
     return sheet.arg(VexoColors::C4.name(), VexoColors::C3.name())
-        .arg(mmX(6.6))
         .arg(ptFont(9).pixelSize())
         .arg(8 * QFont::Medium); // what the toolkit makes of a weight in a sheet
 }
@@ -142,6 +141,7 @@ QWidget *ListsPage::createFoot()
 
 void ListsPage::setUpBar()
 {
+    m_bar->setMmButtonSize(QSizeF(bar_in_mm, bar_in_mm)); // else 60 px on each panel
     setGround(m_bar, VexoColors::C4); // also below the last button
     m_bar->setStyleSheet(barSheet());
     m_bar->setUpIcon(arrow(-90));
