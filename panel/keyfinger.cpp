@@ -15,9 +15,6 @@ namespace {
 
 const QPoint far_away(-QWIDGETSIZE_MAX, -QWIDGETSIZE_MAX); // a release that takes the press back
 const float slack_mm = 4; // beside its key, where a lift still clicks
-const float bounce_mm = 5;
-const ulong shortest_bounce_ms = 4; // no panel reports as often
-const ulong longest_bounce_ms = 40;
 
 bool isWithin(const QPoint &px, float mm)
 {
@@ -93,7 +90,7 @@ bool KeyFinger::takeTouch(const QTouchEvent &event)
         } else {
             move(place);
             if (self && point.state() == Qt::TouchPointReleased)
-                lift(ms);
+                lift();
         }
         if (!self)
             break;
@@ -121,7 +118,7 @@ bool KeyFinger::takeMouse(QWidget *widget, const QMouseEvent &event)
     const QPointer<KeyFinger> self(this);
     move(place);
     if (self)
-        lift(event.timestamp());
+        lift();
     return true;
 }
 
@@ -129,9 +126,7 @@ void KeyFinger::press(QAbstractButton *key, const QPoint &place, ulong ms)
 {
     const QPointer<KeyFinger> self(this);
     const QPointer<QAbstractButton> found(key);
-    if (!m_key && isBounce(place, ms))
-        return;
-    lift(ms); // the finger before
+    lift(); // the finger before
     QAbstractButton *pressed = found;
     if (!self || !pressed || !pressed->isEnabled())
         return;
@@ -151,12 +146,10 @@ void KeyFinger::move(const QPoint &place)
     Q_EMIT moved(place - m_press_place);
 }
 
-void KeyFinger::lift(ulong ms)
+void KeyFinger::lift()
 {
     if (!m_key)
         return;
-    m_lift_ms = ms;
-    m_lift_place = m_place;
     const QPointer<KeyFinger> self(this);
     Q_EMIT lifting(m_place - m_press_place);
     if (self)
@@ -193,13 +186,6 @@ void KeyFinger::send(QAbstractButton *key, QEvent::Type type, const QPoint &plac
     QCoreApplication::sendEvent(key, &event);
     if (self)
         m_sent = nullptr;
-}
-
-bool KeyFinger::isBounce(const QPoint &place, ulong ms) const
-{
-    const ulong pause_ms = ms - m_lift_ms;
-    return pause_ms >= shortest_bounce_ms && pause_ms <= longest_bounce_ms
-        && isWithin(place - m_lift_place, bounce_mm);
 }
 
 } // namespace vexo::hox::qt::panel

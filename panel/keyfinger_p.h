@@ -16,7 +16,7 @@ namespace vexo::hox::qt::panel {
 /// The finger on the keys of a keyboard. It makes a press and a release of what touches and mouse
 /// report, so that nothing is lost which a typist means: a press in a gap counts for the next key,
 /// a lift somewhat beside the key still clicks it, and a second finger that comes before the first
-/// one has left lifts that. A second contact of a finger that bounces counts for nothing.
+/// one has left lifts that.
 class KeyFinger : public QObject
 {
     Q_OBJECT
@@ -55,10 +55,9 @@ private:
     bool takeMouse(QWidget *widget, const QMouseEvent &event);
     void press(QAbstractButton *key, const QPoint &place, ulong ms);
     void move(const QPoint &place);
-    void lift(ulong ms);
+    void lift();
     void release(const QPoint &place);
     void send(QAbstractButton *key, QEvent::Type type, const QPoint &place);
-    bool isBounce(const QPoint &place, ulong ms) const;
 
     QWidget *const m_keyboard;
     const std::function<QAbstractButton *(const QPoint &)> m_find;
@@ -68,8 +67,6 @@ private:
     QPoint m_press_place; // px of the keyboard
     QPoint m_place;
     ulong m_press_ms = 0;
-    ulong m_lift_ms = 0;
-    QPoint m_lift_place;
     const QEvent *m_sent = nullptr; // to a key
 };
 

@@ -9,6 +9,7 @@
 #include "panel/mm_p.h"
 #include "panel/textsender_p.h"
 
+#include <BounceFilter>
 #include <ScalingInfo>
 #include <VexoKeyboardButton>
 
@@ -67,6 +68,7 @@ OnScreenKeyboard::OnScreenKeyboard(QWidget *parent)
     setAttribute(Qt::WA_AcceptTouchEvents);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAccessibleName(tr("Keyboard"));
+    ui::BounceFilter::install(); // also for the touch that brings the keyboard up
     watchFinger();
     setLanguages(usualLanguages());
     // A touch on a key is none on what lies around the keyboard and would take the focus.

@@ -118,6 +118,7 @@ void PageStack::leave(bool is_back)
         return;
     left.widget = nullptr;
     left.is_replaced = false;
+    last->move(width(), 0); // the toolkit repaints what lay below a widget that is deleted
     last->deleteLater();
 }
 

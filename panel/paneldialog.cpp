@@ -69,7 +69,12 @@ PanelDialog::PanelDialog(const QString &question, QWidget *screen)
     new CoverFollower(this);
 }
 
-PanelDialog::~PanelDialog() = default;
+// The toolkit repaints what lay below a widget that is deleted, also long after it was hidden.
+PanelDialog::~PanelDialog()
+{
+    if (isHidden())
+        move(-width(), 0);
+}
 
 QString PanelDialog::question() const
 {

@@ -3,6 +3,8 @@
 
 #include "panel/coverfollower_p.h"
 
+#include <BounceFilter>
+
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -12,8 +14,6 @@
 namespace vexo::hox::qt::panel {
 
 namespace {
-
-const qint64 bounce_ms = 100;
 
 qint64 msOf(int seconds)
 {
@@ -54,6 +54,7 @@ PanelDimmer::PanelDimmer(int seconds, QWidget *screen)
     hide();
     new CoverFollower(this);
     QCoreApplication::instance()->installEventFilter(this);
+    ui::BounceFilter::install(); // in front, for the finger that wakes
     waitAnew();
 }
 
@@ -133,19 +134,14 @@ bool PanelDimmer::eventFilter(QObject *, QEvent *event)
 
 bool PanelDimmer::takes(const QEvent &event)
 {
-    const bool is_bounce = m_since_taken.isValid() && m_since_taken.elapsed() < bounce_ms;
-    if (isBegin(event.type()) && m_is_dimmed)
-        m_since_taken.invalidate();
-    if (isBegin(event.type()) && (m_is_dimmed || is_bounce)) {
+    if (isBegin(event.type()) && m_is_dimmed) {
         m_is_taking = event.type() != QEvent::Wheel; // which has no end
         return true;
     }
-    if (!isEnd(event) || !m_is_taking)
-        return m_is_taking;
-    m_is_taking = false;
-    if (!m_since_taken.isValid())
-        m_since_taken.start();
-    return true;
+    const bool takes = m_is_taking;
+    if (isEnd(event))
+        m_is_taking = false;
+    return takes;
 }
 
 void PanelDimmer::paintEvent(QPaintEvent *)

@@ -63,7 +63,6 @@ private:
     bool m_is_taking = false; // what follows from the touch that woke
     QBasicTimer m_timer;
     QElapsedTimer m_since_touch;
-    QElapsedTimer m_since_taken; // since the end of the touch that woke
 };
 
 } // namespace vexo::hox::qt::panel

@@ -13,7 +13,7 @@ STYLE_PACKAGES=(clang-format python3)
 # The tests read symbols with binutils, link through pkg-config and fall back to DejaVu.
 TEST_PACKAGES=("${PANEL_PACKAGES[@]}" "${DESIGNER_PACKAGES[@]}"
     "${STYLE_PACKAGES[@]}" binutils pkg-config fonts-dejavu-core)
-BENCHMARK_PACKAGES=("${BUILD_PACKAGES[@]}" libbenchmark-dev valgrind fonts-dejavu-core)
+BENCHMARK_PACKAGES=("${PANEL_PACKAGES[@]}" libbenchmark-dev valgrind fonts-dejavu-core)
 FUZZ_PACKAGES=("${BUILD_PACKAGES[@]}" clang libclang-rt-14-dev)
 LINT_PACKAGES=("${TEST_PACKAGES[@]}" "${BENCHMARK_PACKAGES[@]}" clang-tidy clazy)
 

@@ -144,7 +144,8 @@ void sendMouse(QWidget *widget, QEvent::Type type)
 {
     const QPointF middle = QRectF(widget->rect()).center();
     const auto buttons = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-    QMouseEvent event(type, middle, Qt::LeftButton, buttons, Qt::NoModifier);
+    const QPointF place = widget->mapToGlobal(middle.toPoint());
+    QMouseEvent event(type, middle, place, place, Qt::LeftButton, buttons, Qt::NoModifier);
     QCoreApplication::sendEvent(widget, &event);
     QCoreApplication::processEvents();
 }

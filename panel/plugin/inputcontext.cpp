@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "panel/plugin/inputcontext.h"
 
+#include <BounceFilter>
+
 #include <QApplication>
 #include <QInputMethodQueryEvent>
 #include <QLocale>
@@ -26,6 +28,8 @@ QWidget *focusedField()
 
 InputContext::InputContext()
 {
+    // The first touch of the application may bring a keyboard up where the finger is.
+    vexo::hox::qt::ui::BounceFilter::install();
     connect(&m_dock, &KeyboardDock::changed, this, &InputContext::emitKeyboardRectChanged);
     connect(&m_dock, &KeyboardDock::changed, this, &InputContext::emitInputPanelVisibleChanged);
     connect(&m_dock, &KeyboardDock::languageChanged, this, &InputContext::emitLocaleChanged);

@@ -10,6 +10,7 @@
 #include <QCompleter>
 #include <QIntValidator>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRegularExpressionValidator>
 #include <QScrollArea>
 #include <QShortcut>
@@ -145,6 +146,7 @@ private Q_SLOTS:
     void followsHints();
     void secretIsNotAskedFor();
     void twoThumbsOverlap();
+    void bounceOfWhatOpensItTypesNothing();
     void touchInAGapCounts();
     void takesNoFocus();
     void fieldMayEndTheKeyboard();
@@ -430,6 +432,25 @@ void TestOnScreenKeyboard::twoThumbsOverlap()
     hand.liftBeside(0, keys[2], 1, keys[1]);
     hand.lift(0, keys[2]);
     QCOMPARE(desk.field->text(), text("the"));
+}
+
+void TestOnScreenKeyboard::bounceOfWhatOpensItTypesNothing()
+{
+    Desk desk;
+    QPushButton opener(&desk.window);
+    opener.setGeometry(desk.keyboard->geometry());
+    opener.show();
+    desk.keyboard->hide();
+    connect(&opener, &QPushButton::clicked, desk.keyboard, [&] {
+        opener.hide();
+        desk.keyboard->show();
+    });
+    desk.finger.setBounce(30);
+    desk.finger.tap(&opener);
+    QVERIFY(desk.keyboard->isVisible());
+    QCOMPARE(desk.field->text(), QString());
+    desk.typist.type(text("A"));
+    QCOMPARE(desk.field->text(), text("A"));
 }
 
 void TestOnScreenKeyboard::touchInAGapCounts()

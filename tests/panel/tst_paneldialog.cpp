@@ -58,6 +58,7 @@ private Q_SLOTS:
     void boxFitsTheScreen_data();
     void boxFitsTheScreen();
     void idleDialogPaintsNothing();
+    void thatGoesIsRepaintedOnce();
 };
 
 void TestPanelDialog::buttonAnswers()
@@ -243,6 +244,21 @@ void TestPanelDialog::idleDialogPaintsNothing()
     paints.watch(&dialog);
     paints.take(&dialog);
     QCOMPARE(paints.take(&dialog), 0);
+}
+
+void TestPanelDialog::thatGoesIsRepaintedOnce()
+{
+    Screen screen;
+    const QPointer<PanelDialog> dialog(new PanelDialog(QStringLiteral("Restart?"), &screen.window));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+    QVERIFY(QTest::qWaitForWindowExposed(&screen.window));
+    PaintCounter paints;
+    paints.watch(&screen.window);
+    paints.take(&screen.window);
+    dialog->close();
+    QTRY_VERIFY(!dialog);
+    QCOMPARE(paints.take(&screen.window), 1);
 }
 
 QTEST_MAIN(TestPanelDialog)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/buttons/vexoiconbutton.h"
 
+#include "ui/foundation/withoutrepaint_p.h"
 #include "ui/painting/iconpixmap_p.h"
 #include "ui/painting/styledbackground_p.h"
 #include "ui/touch/press_p.h"
@@ -39,8 +40,12 @@ void VexoIconButton::initialize(const QString &state)
 {
     if (m_is_initialized && currentState() == state)
         return;
-    setState(state);
+    // Called while it paints: with the same icon there is nothing to paint anew.
+    const qint64 shown = icon().cacheKey();
+    withoutRepaint(this, [&] { setState(state); });
     m_is_initialized = true;
+    if (icon().cacheKey() != shown)
+        update();
 }
 
 bool VexoIconButton::event(QEvent *event)

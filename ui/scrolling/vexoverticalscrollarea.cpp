@@ -2,6 +2,7 @@
 #include "ui/scrolling/vexoverticalscrollarea.h"
 
 #include "ui/foundation/tapdistance_p.h"
+#include "ui/foundation/viewport_p.h"
 #include "ui/sliders/vexoslider.h"
 #include "ui/touch/press_p.h"
 #include "ui/touch/touchwatch_p.h"
@@ -59,6 +60,7 @@ VexoVerticalScrollArea::VexoVerticalScrollArea(QWidget *parent, bool scroll_bar_
     , m_scroller(QScroller::scroller(this))
     , m_scroll_bar_enabled(scroll_bar_enabled)
 {
+    setViewport(new Viewport);
     setScrollBarEnabled(m_scroll_bar_enabled);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::WheelFocus);

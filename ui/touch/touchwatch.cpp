@@ -2,7 +2,7 @@
 #include "ui/touch/touchwatch_p.h"
 
 #include "ui/foundation/tapdistance_p.h"
-#include "ui/touch/bouncefilter_p.h"
+#include "ui/touch/bouncefilter.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -81,7 +81,7 @@ TouchWatch::TouchWatch(QWidget *widget, std::function<void()> lost)
     : m_widget(widget)
     , m_lost(std::move(lost))
 {
-    BounceFilter::watch();
+    BounceFilter::install();
     QCoreApplication::instance()->installEventFilter(this);
 }
 

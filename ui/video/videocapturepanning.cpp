@@ -2,6 +2,7 @@
 #include "ui/video/videocapturepanning.h"
 
 #include "ui/foundation/scalinginfo.h"
+#include "ui/foundation/viewport_p.h"
 #include "ui/touch/press_p.h"
 
 #include <QMouseEvent>
@@ -29,6 +30,7 @@ VideoCapturePanning::VideoCapturePanning(QWidget *parent)
     : QScrollArea(parent)
     , VexoLogging("P")
 {
+    setViewport(new Viewport);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFrameShape(QFrame::NoFrame);

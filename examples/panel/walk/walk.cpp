@@ -178,10 +178,7 @@ void Visitor::update()
 {
     const auto *notice = m_panel->findChild<PanelNotice *>();
     expect([=] { return !notice->isVisible(); }, "that the notice goes, which lies over keys");
-    // A keyboard that has just come up takes the bounce of the finger that opened it for a key.
-    m_finger.setBounce(0);
     openTile("Update", "pin");
-    m_finger.setBounce(bounce_ms);
     const auto *field = page()->findChild<VexoLineEdit *>();
     type("1234");
     expect([=] { return field->text().isEmpty(); }, "a refusal, not " + field->text());

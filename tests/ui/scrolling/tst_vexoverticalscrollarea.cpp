@@ -7,7 +7,11 @@
 #include <VexoRuler>
 #include <VexoSlider>
 
+#include <QSet>
 #include <QVBoxLayout>
+
+#include <memory>
+#include <vector>
 
 using namespace vexo::hox::qt::ui;
 
@@ -145,6 +149,7 @@ private Q_SLOTS:
     void scrollMovesWhatIsSeen();
     void whatNoRowHidesAnyMoreIsPainted_data();
     void whatNoRowHidesAnyMoreIsPainted();
+    void viewportsTakeTheirAddressesInTurn();
 };
 
 void TestVexoVerticalScrollArea::tellsATapFromAScroll_data()
@@ -374,6 +379,19 @@ void TestVexoVerticalScrollArea::whatNoRowHidesAnyMoreIsPainted()
     settle();
     QVERIFY(!list.isContentOpaque());
     QCOMPARE(wrongPixels(list.area), QRect());
+}
+
+// The toolkit never forgets the address of a viewport that it painted under a stylesheet.
+void TestVexoVerticalScrollArea::viewportsTakeTheirAddressesInTurn()
+{
+    QSet<const QWidget *> viewports;
+    std::vector<std::unique_ptr<QWidget>> others; // that would take the place of one
+    for (int i = 0; i < 20; ++i) {
+        const VexoVerticalScrollArea area;
+        viewports += area.viewport();
+        others.push_back(std::make_unique<QWidget>());
+    }
+    QCOMPARE(viewports.size(), 1);
 }
 
 QTEST_MAIN(TestVexoVerticalScrollArea)
