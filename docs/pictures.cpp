@@ -89,7 +89,7 @@ QImage placing()
     return pictureOf(screen);
 }
 
-using vexo::hox::qt::panel::PageStack;
+using namespace vexo::hox::qt::panel;
 
 QImage shown(QWidget *window)
 {

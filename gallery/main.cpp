@@ -13,6 +13,7 @@
 #include <cstdio>
 #include <stdexcept>
 
+using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::ui;
 
 namespace {

@@ -3,7 +3,9 @@
 
 #include <ScalingInfo>
 
-#include <QRegularExpression>
+#include <QStringList>
+
+#include <algorithm>
 
 namespace vexo::hox::qt::panel {
 
@@ -26,10 +28,48 @@ double pxPerMm(const ui::ScalingInfo &scaling, Direction direction)
         direction == Direction::LeftRight ? scaling.m_px_per_mm_x : scaling.m_px_per_mm_y);
 }
 
+bool isDigit(QChar c)
+{
+    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+}
+
+// From \a pos on.
+int digits(const QString &word, int pos)
+{
+    const auto begin = word.begin() + pos;
+    return int(std::find_if_not(begin, word.end(), isDigit) - begin);
+}
+
+int skipSign(const QString &word)
+{
+    return word.startsWith(QLatin1Char('+')) || word.startsWith(QLatin1Char('-')) ? 1 : 0;
+}
+
+bool isPoint(const QString &word, int pos)
+{
+    return pos < word.size() && word.at(pos) == QLatin1Char('.');
+}
+
 bool isNumeric(const QString &word)
 {
-    static const QRegularExpression head(QStringLiteral(R"(\A[+-]?\.?\d)"));
-    return head.match(word).hasMatch();
+    const int pos = skipSign(word);
+    return digits(word, isPoint(word, pos) ? pos + 1 : pos) > 0;
+}
+
+// Length of the number that \a word begins with, 0 if it has too many digits or is none.
+int numberLength(const QString &word)
+{
+    const int most_digits = 9;
+    int pos = skipSign(word);
+    const int whole = digits(word, pos);
+    pos += whole;
+    int fraction = 0;
+    if (isPoint(word, pos)) {
+        fraction = digits(word, pos + 1);
+        pos += 1 + fraction;
+    }
+    const bool is_number = whole + fraction > 0 && qMax(whole, fraction) <= most_digits;
+    return is_number && !isPoint(word, pos) ? pos : 0;
 }
 
 } // namespace
@@ -41,30 +81,38 @@ std::variant<MmLength, QString> MmLength::read(const QString &word)
     if (!isNumeric(word))
         return word;
     const Term term = readTerm(word);
-    static const QStringList left_alone{ QString(), QStringLiteral("%"), QStringLiteral("em"),
-        QStringLiteral("ex") };
-    if (left_alone.contains(term.unit))
+    if (term.unit == NoLength)
         return word;
     MmLength length;
-    length.m_terms = { term };
+    length.m_terms += term;
     return length;
 }
 
 MmLength::Term MmLength::readTerm(const QString &word)
 {
-    static const QRegularExpression form(
-        QStringLiteral(R"(\A([+-]?(?:\d{1,9}(?:\.\d{0,9})?|\.\d{1,9}))([^\d.].*)?\z)"));
-    static const QStringList units{ QString(), QStringLiteral("mm"), QStringLiteral("pt"),
-        QStringLiteral("px"), QStringLiteral("%"), QStringLiteral("em"), QStringLiteral("ex") };
-    const QRegularExpressionMatch match = form.match(word);
-    if (!match.hasMatch())
+    const int length = numberLength(word);
+    if (length == 0)
         throw SheetFault{ QStringLiteral("'%1' is no number").arg(word) };
-    const QString unit = match.captured(2).toLower();
-    if (!units.contains(unit))
-        throw SheetFault{ QStringLiteral("unknown unit '%1' in '%2'; there is mm, pt, px, em, ex "
-                                         "and %")
-                              .arg(match.captured(2), word) };
-    return { match.captured(1).toDouble(), unit };
+    return { word.leftRef(length).toDouble(), unitOf(word, length) };
+}
+
+MmLength::Unit MmLength::unitOf(const QString &word, int pos)
+{
+    const struct
+    {
+        QLatin1String name;
+        Unit unit;
+    } known[]
+        = { { QLatin1String("mm"), Mm }, { QLatin1String("px"), Px }, { QLatin1String("pt"), Pt },
+              { QLatin1String(""), NoLength }, { QLatin1String("%"), NoLength },
+              { QLatin1String("em"), NoLength }, { QLatin1String("ex"), NoLength } };
+    const QStringRef unit = word.midRef(pos);
+    for (const auto &one : known) {
+        if (unit.compare(one.name, Qt::CaseInsensitive) == 0)
+            return one.unit;
+    }
+    throw SheetFault{ QStringLiteral("unknown unit '%1' in '%2'; there is mm, pt, px, em, ex and %")
+                          .arg(unit, word) };
 }
 
 MmLength MmLength::readSum(const QString &word)
@@ -81,7 +129,7 @@ MmLength MmLength::readSum(const QString &word)
         if (!is_sum || !isNumeric(parts.at(i)))
             throw fault;
         Term term = readTerm(parts.at(i));
-        if (term.unit.size() != 2 || term.unit.startsWith(QLatin1Char('e')))
+        if (term.unit == NoLength)
             throw fault;
         term.number *= sign == QLatin1String("-") ? -1 : 1;
         sum.m_terms += term;
@@ -97,9 +145,9 @@ int MmLength::px(const ui::ScalingInfo &scaling, Direction direction) const
     int sum = 0;
     for (const Term &term : m_terms) {
         double px = qAbs(term.number);
-        if (term.unit == QLatin1String("pt"))
+        if (term.unit == Pt)
             px *= mm_per_pt;
-        if (term.unit != QLatin1String("px"))
+        if (term.unit != Px)
             px *= pxPerMm(scaling, direction);
         sum += term.number < 0 ? -wholePx(px) : wholePx(px);
     }

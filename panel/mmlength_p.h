@@ -27,13 +27,15 @@ public:
     int px(const ui::ScalingInfo &scaling, Direction direction) const;
 
 private:
+    enum Unit { NoLength, Mm, Pt, Px };
     struct Term
     {
         double number;
-        QString unit; // mm, pt or px
+        Unit unit;
     };
 
     static Term readTerm(const QString &word);
+    static Unit unitOf(const QString &word, int pos);
     static MmLength readSum(const QString &word);
 
     QVector<Term> m_terms;

@@ -3,7 +3,9 @@
 
 #include "panel/rulebox_p.h"
 
-#include <QRegularExpression>
+#include <QSet>
+
+#include <algorithm>
 
 namespace vexo::hox::qt::panel {
 
@@ -28,12 +30,19 @@ bool isOneOf(const QString &property, std::initializer_list<const char *> names)
     return false;
 }
 
+// Such as the second part of padding-left and border-left-width.
+bool hasPart(const QString &property, QLatin1String part)
+{
+    const int begin = property.indexOf(part);
+    const int end = begin + part.size();
+    return begin > 0 && (end == property.size() || property.at(end) == QLatin1Char('-'));
+}
+
 Ways waysOf(const QString &property)
 {
-    static const QRegularExpression side(QStringLiteral("-(left|right)\\b"));
     if (property.endsWith(QLatin1String("radius")))
         return Ways::Corner;
-    if (side.match(property).hasMatch()
+    if (hasPart(property, QLatin1String("-left")) || hasPart(property, QLatin1String("-right"))
         || isOneOf(property,
             { "left", "right", "width", "min-width", "max-width", "spacing", "letter-spacing",
                 "word-spacing", "text-indent" }))
@@ -65,45 +74,78 @@ Direction directionOf(Ways ways, int index, int count)
     }
 }
 
+bool hasLength(const SheetDeclaration &declaration)
+{
+    return std::any_of(declaration.words.begin(), declaration.words.end(),
+        [](const SheetWord &word) { return std::holds_alternative<MmLength>(word); });
+}
+
 class RulePrinter
 {
 public:
-    explicit RulePrinter(const ui::ScalingInfo &scaling)
+    RulePrinter(const ui::ScalingInfo &scaling, QString *text)
         : m_scaling(scaling)
+        , m_text(*text)
     {
     }
 
     // What a radius may be is known behind all others.
-    QString text(const SheetRule &rule)
+    void print(const SheetRule &rule)
     {
-        QString declarations;
+        if (rule.selector.isEmpty())
+            return;
+        m_text += rule.selector;
+        m_text += QLatin1String(" {\n");
         for (const bool is_for_radii : { false, true }) {
             for (const SheetDeclaration &declaration : rule.declarations) {
-                const Ways ways = waysOf(declaration.property.toLower());
-                if ((ways == Ways::Corner) == is_for_radii)
-                    declarations += text(declaration, ways);
+                if (declaration.name.endsWith(QLatin1String("radius")) == is_for_radii)
+                    print(declaration);
             }
         }
-        return QStringLiteral("%1 {\n%2}\n").arg(rule.selector, declarations);
+        m_text += QLatin1String("}\n");
     }
 
 private:
-    QString text(const SheetDeclaration &declaration, Ways ways)
+    void print(const SheetDeclaration &declaration)
     {
+        m_text += QLatin1String("    ");
+        m_text += declaration.property;
+        m_text += QLatin1Char(':');
+        if (hasLength(declaration))
+            printLengths(declaration);
+        else
+            printWords(declaration);
+        m_text += QLatin1String(";\n");
+    }
+
+    void printWords(const SheetDeclaration &declaration)
+    {
+        for (const SheetWord &word : declaration.words) {
+            m_text += QLatin1Char(' ');
+            m_text += *std::get_if<QString>(&word);
+        }
+        m_box.learn(declaration.name, QVector<int>(declaration.words.size()));
+    }
+
+    void printLengths(const SheetDeclaration &declaration)
+    {
+        const Ways ways = waysOf(declaration.name);
         auto words = declaration.words;
         if ((ways == Ways::Sides || ways == Ways::Corner) && words.size() == 1)
-            words += words.first();
+            words += words.constFirst();
         QVector<int> px;
-        QStringList texts;
+        px.reserve(words.size());
         for (int i = 0; i < words.size(); ++i) {
-            const Direction direction = directionOf(ways, i, words.size());
-            px += pxOf(words.at(i), ways, direction);
-            const QString *plain = std::get_if<QString>(&words.at(i));
-            texts += plain ? *plain : QStringLiteral("%1px").arg(px.last());
+            px += pxOf(words.at(i), ways, directionOf(ways, i, words.size()));
+            m_text += QLatin1Char(' ');
+            if (const QString *plain = std::get_if<QString>(&words.at(i)))
+                m_text += *plain;
+            else
+                printPx(px.constLast());
         }
-        m_box.learn(declaration.property.toLower(), px);
-        return line(declaration.property, texts)
-            + (ways == Ways::Border ? borderWidths(words, px) : QString());
+        m_box.learn(declaration.name, px);
+        if (ways == Ways::Border)
+            printBorderWidths(words, px);
     }
 
     int pxOf(const SheetWord &word, Ways ways, Direction direction) const
@@ -114,7 +156,7 @@ private:
     }
 
     // The toolkit knows one width only for the short form, which has been taken as a height.
-    QString borderWidths(const QVector<SheetWord> &words, const QVector<int> &px_up_down)
+    void printBorderWidths(const QVector<SheetWord> &words, const QVector<int> &px_up_down)
     {
         QVector<int> px{ 0, 0 };
         for (int i = 0; i < words.size(); ++i) {
@@ -123,25 +165,53 @@ private:
         }
         m_box.learn(QStringLiteral("border-width"), px);
         if (px.at(0) == px.at(1))
-            return QString();
-        return line(QStringLiteral("border-width"),
-            { QStringLiteral("%1px").arg(px.at(0)), QStringLiteral("%1px").arg(px.at(1)) });
+            return;
+        m_text += QLatin1String(";\n    border-width: ");
+        printPx(px.at(0));
+        m_text += QLatin1Char(' ');
+        printPx(px.at(1));
     }
 
-    static QString line(const QString &property, const QStringList &words)
+    void printPx(int px)
     {
-        return QStringLiteral("    %1: %2;\n").arg(property, words.join(QLatin1Char(' ')));
+        m_text += QString::number(px);
+        m_text += QLatin1String("px");
     }
 
     const ui::ScalingInfo &m_scaling;
+    QString &m_text;
     RuleBox m_box;
 };
 
+bool isImportant(const SheetDeclaration &declaration)
+{
+    return std::any_of(
+        declaration.words.begin(), declaration.words.end(), [](const SheetWord &word) {
+            const QString *plain = std::get_if<QString>(&word);
+            return plain && plain->startsWith(QLatin1Char('!'));
+        });
+}
+
 } // namespace
 
-QString ruleInPixels(const SheetRule &rule, const ui::ScalingInfo &scaling)
+void printInPixels(const SheetRule &rule, const ui::ScalingInfo &scaling, QString *text)
 {
-    return RulePrinter(scaling).text(rule);
+    RulePrinter(scaling, text).print(rule);
+}
+
+void dropReplaced(SheetRule *former, const SheetRule &later)
+{
+    QSet<QString> said;
+    for (const SheetDeclaration &declaration : later.declarations)
+        said += declaration.property;
+    QVector<SheetDeclaration> &left = former->declarations;
+    const bool was_empty = left.isEmpty();
+    const auto end = std::remove_if(left.begin(), left.end(), [&](const SheetDeclaration &one) {
+        return said.contains(one.property) && !isImportant(one);
+    });
+    left.erase(end, left.end());
+    if (left.isEmpty() && !was_empty)
+        former->selector.clear();
 }
 
 } // namespace vexo::hox::qt::panel

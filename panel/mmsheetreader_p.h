@@ -17,6 +17,7 @@ using SheetWord = std::variant<MmLength, QString>;
 struct SheetDeclaration
 {
     QString property;
+    QString name; // of the property, in lower case
     QVector<SheetWord> words;
 };
 
@@ -40,15 +41,17 @@ private:
     void readRules();
     SheetRule readRule(const QString &selector);
     SheetDeclaration readValue(const QStringList &property);
-    QStringList readWords(const char *stops);
-    void readPiece(QStringList *words);
-    void readQuotation(QString *word);
-    void readUrl(QString *word);
-    void readCharacter(QString *word);
-    void skipBlank();
+    void countCost(const SheetRule &rule);
+    QStringList readWords(int stops);
+    QString readWord(int stops);
+    void skipPiece();
+    void skipBlanks();
+    void skipQuotation();
+    void skipParenthesis();
+    void skipUrl();
     void skipComment();
-    bool isAt(const char *text) const;
-    bool isAtOneOf(const char *characters) const;
+    bool isAtComment() const;
+    int kindAt(int pos) const;
     QChar takeStop();
 
     const QString m_text;
@@ -56,6 +59,7 @@ private:
     int m_line = 1;
     int m_part_line = 1; // where the part that is read began
     int m_depth = 0; // of parentheses
+    qint64 m_cost = 0; // for the toolkit
     QVector<SheetRule> m_rules;
     QString m_fault;
 };

@@ -2,6 +2,7 @@
 #include "panel/mmstylesheet.h"
 
 #include "panel/mmrule_p.h"
+#include "panel/paneloptions.h"
 
 #include <ScalingInfo>
 #include <VexoColors>
@@ -49,8 +50,8 @@ MmStylesheet::~MmStylesheet() = default;
 
 QStringList MmStylesheet::files(Look look)
 {
-    QStringList names{ QStringLiteral(":/css/vexo-AAL.qs"), QStringLiteral(":/css/hoxq.qs"),
-        QStringLiteral(":/sheets/panel.qs") };
+    QStringList names = PanelOptions().sheets;
+    names += QStringLiteral(":/sheets/panel.qs");
     if (look == Night)
         names += QStringLiteral(":/sheets/night.qs");
     return names;
@@ -91,9 +92,19 @@ bool MmStylesheet::addText(const QString &rules, const QString &name)
     const MmSheetReader reader(rules);
     if (!reader.fault().isEmpty())
         return refuse(name + QLatin1Char(':') + reader.fault());
-    const QVector<SheetRule> read = reader.rules();
-    m_rules.insert(m_rules.end(), read.begin(), read.end());
+    const QVector<SheetRule> rules_read = reader.rules();
+    for (const SheetRule &rule : rules_read)
+        append(rule);
     return true;
+}
+
+void MmStylesheet::append(const SheetRule &rule)
+{
+    const auto former = m_places.constFind(rule.selector);
+    if (former != m_places.constEnd())
+        dropReplaced(&m_rules[*former], rule);
+    m_places.insert(rule.selector, m_rules.size());
+    m_rules.push_back(rule);
 }
 
 bool MmStylesheet::refuse(const QString &fault)
@@ -108,7 +119,7 @@ QString MmStylesheet::inPixels() const
     const ScalingInfo &scaling = *ScalingInfo::inst();
     QString text;
     for (const SheetRule &rule : m_rules)
-        text += ruleInPixels(rule, scaling);
+        printInPixels(rule, scaling, &text);
     return text;
 }
 

@@ -3,6 +3,7 @@
 
 #include "panel/hoxqpanel_export.h"
 
+#include <QHash>
 #include <QObject>
 #include <QStringList>
 
@@ -24,9 +25,11 @@ struct SheetRule;
 /// larger one the toolkit draws a square. So a circle is "width: 4mm; height: 4mm; border-radius:
 /// 2mm" at each density.
 ///
-/// Files in pixels may stand in front of those in millimetres, and come out as they are. A file
-/// with a fault adds nothing and is named in a warning with the line: a unit that is none, a brace,
-/// quotation or comment without its end, a declaration without value.
+/// Files in pixels may stand in front of those in millimetres. What a later rule of the same
+/// selector says anew is left out: it would never show, but the toolkit would load its images. A
+/// file with a fault adds nothing and is named in a warning with the line: a unit that is none, a
+/// brace, quotation or comment without its end, a declaration without value, hundreds of selectors
+/// in one rule.
 ///
 /// Keep the object: as long as the application shows what set() gave it, that follows the
 /// ScalingInfo within the event loop. Widgets of the library take a new scale with their next
@@ -36,8 +39,8 @@ class HOXQPANEL_EXPORT MmStylesheet : public QObject
     Q_OBJECT
 
 public:
-    /// The ready sheets. They dress sliders, check boxes, radio buttons, combo boxes, spin boxes,
-    /// progress bars, tab bars, lists, trees, tables and scroll bars.
+    /// The ready sheets: sliders, check boxes and radio buttons as Panel::setUp() dresses them, and
+    /// combo boxes, spin boxes, progress bars, tab bars, lists, trees, tables and scroll bars.
     enum Look {
         Day, ///< dark on white
         Night ///< light on black
@@ -49,9 +52,11 @@ public:
     explicit MmStylesheet(const QStringList &files = QStringList(), QObject *parent = nullptr);
     ~MmStylesheet() override;
 
-    /// The files of a ready look, those of the widgets' library in front. Append your own to it.
+    /// The files of a ready look: those of the widgets' library, ":/sheets/controls.qs",
+    /// ":/sheets/panel.qs" and, by night, ":/sheets/night.qs". Append your own, here or in
+    /// PanelOptions::sheets.
     static QStringList files(Look look);
-    /// The palette that goes with it, for what has no rule.
+    /// The palette that goes with it, for what has no rule; Panel::setUp() takes that of the day.
     static QPalette palette(Look look);
 
     /// Appends the file \a name, a resource, path or name in a search path. False, with a warning
@@ -70,10 +75,12 @@ public:
     void set();
 
 private:
+    void append(const SheetRule &rule);
     bool refuse(const QString &fault);
     void followScale();
 
     std::vector<SheetRule> m_rules;
+    QHash<QString, std::size_t> m_places; // of the last rule of each selector
     QStringList m_faults;
     QString m_shown; // what the application was given
     float m_px_per_mm_x = 0; // for which it was made

@@ -67,7 +67,7 @@ OnScreenKeyboard::OnScreenKeyboard(QWidget *parent)
 {
     setAttribute(Qt::WA_AcceptTouchEvents);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setAccessibleName(tr("Keyboard"));
+    nameItself();
     ui::BounceFilter::install(); // also for the touch that brings the keyboard up
     watchFinger();
     setLanguages(usualLanguages());
@@ -215,8 +215,10 @@ void OnScreenKeyboard::hideEvent(QHideEvent *)
 
 void OnScreenKeyboard::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
+        nameItself();
         nameKeys();
+    }
     QWidget::changeEvent(event);
 }
 
@@ -421,6 +423,13 @@ void OnScreenKeyboard::showKeys()
         m_grid->place(keyArea());
     showShift();
     nameKeys();
+}
+
+void OnScreenKeyboard::nameItself()
+{
+    if (accessibleName() == m_own_name)
+        setAccessibleName(tr("Keyboard"));
+    m_own_name = tr("Keyboard");
 }
 
 void OnScreenKeyboard::nameKeys()

@@ -138,6 +138,7 @@ private:
     void showLayer(const QString &layer);
     void showLayout();
     void showKeys();
+    void nameItself();
     void nameKeys();
     QString labelOf(const KeyboardKey &key) const;
     QString commaText() const;
@@ -157,6 +158,7 @@ private:
     const std::unique_ptr<KeyGrid> m_grid;
     const std::unique_ptr<KeyFinger> m_finger;
     QPointer<KeyVariants> m_variants; // owned by the window
+    QString m_own_name; // unless the application gave another
     QString m_pad; // name of the block of digits; empty for letters
     QString m_layer;
     Qt::InputMethodHints m_hints;

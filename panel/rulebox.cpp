@@ -9,7 +9,10 @@ namespace vexo::hox::qt::panel {
 void RuleBox::Sides::learn(const QString &property, const QVector<int> &px)
 {
     const int sum = std::accumulate(px.begin(), px.end(), 0); // one of a side is a length
-    const QString name = property.section(QLatin1Char('-'), 1, 1);
+    const int begin = property.indexOf(QLatin1Char('-')) + 1;
+    const int end = property.indexOf(QLatin1Char('-'), begin);
+    const QStringRef name
+        = begin > 0 ? property.midRef(begin, end < 0 ? -1 : end - begin) : QStringRef();
     if (name == QLatin1String("top"))
         top = sum;
     else if (name == QLatin1String("right"))

@@ -3,6 +3,7 @@
 
 #include <ScalingInfo>
 
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QStringList>
@@ -12,6 +13,11 @@
 namespace vexo::hox::qt::panel {
 
 namespace {
+
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(ScreenDoctor)
+};
 
 const double mm_per_inch = 25.4;
 
@@ -56,37 +62,36 @@ bool isOne(double px_per_mm)
 QString platformsCure(const QString &platform)
 {
     if (platform == QLatin1String("eglfs"))
-        return QStringLiteral(
+        return Words::tr(
             "QT_QPA_EGLFS_PHYSICAL_WIDTH=160 and QT_QPA_EGLFS_PHYSICAL_HEIGHT=100 in the "
             "environment (pixels: QT_QPA_EGLFS_WIDTH and QT_QPA_EGLFS_HEIGHT), or physicalWidth "
             "and physicalHeight in the file that QT_QPA_EGLFS_KMS_CONFIG names");
     if (platform == QLatin1String("linuxfb"))
-        return QStringLiteral("QT_QPA_PLATFORM=linuxfb:mmsize=160x100 in the environment (pixels: "
-                              "linuxfb:size=1280x800:mmsize=160x100)");
+        return Words::tr("QT_QPA_PLATFORM=linuxfb:mmsize=160x100 in the environment (pixels: "
+                         "linuxfb:size=1280x800:mmsize=160x100)");
     if (platform.startsWith(QLatin1String("wayland")))
-        return QStringLiteral("the size of the output in the set-up of the compositor, which no "
-                              "variable of the application changes");
+        return Words::tr("the size of the output in the set-up of the compositor, which no "
+                         "variable of the application changes");
     if (platform == QLatin1String("xcb"))
-        return QStringLiteral("DisplaySize 160 100 in the section Monitor of xorg.conf (a server "
-                              "without one: its option -dpi)");
+        return Words::tr("DisplaySize 160 100 in the section Monitor of xorg.conf (a server "
+                         "without one: its option -dpi)");
     return QString();
 }
 
 QString cureOn(const QString &platform)
 {
     const QString cure = platformsCure(platform);
-    const QString call = QStringLiteral("PanelOptions::mm = QSizeF(160, 100) for Panel::setUp() in "
-                                        "the application (pixels: PanelOptions::px)");
-    const QString head = QStringLiteral("For a panel of 160 x 100 mm: ");
-    return head + (cure.isEmpty() ? call : cure + QStringLiteral("; or ") + call)
-        + QLatin1Char('.');
+    const QString call = Words::tr("PanelOptions::mm = QSizeF(160, 100) for Panel::setUp() in "
+                                   "the application (pixels: PanelOptions::px)");
+    const QString way = cure.isEmpty() ? call : Words::tr("%1; or %2").arg(cure, call);
+    return Words::tr("For a panel of 160 x 100 mm: %1.").arg(way);
 }
 
 ScreenFinding withoutSize(const ScreenFacts &facts)
 {
     const QString what = facts.px.isEmpty()
-        ? QStringLiteral("There is no screen, or it tells no size in pixels.")
-        : QStringLiteral("The screen tells no size in millimetres.");
+        ? Words::tr("There is no screen, or it tells no size in pixels.")
+        : Words::tr("The screen tells no size in millimetres.");
     return { ScreenFinding::NoSize, what, cureOn(facts.platform) };
 }
 
@@ -94,8 +99,8 @@ QString invented(const ScreenFacts &facts)
 {
     for (const int dpi : { 100, 96 }) {
         if (isDensityOf(facts, dpi))
-            return QStringLiteral("%1 are exactly %2 dpi in both directions: that is made up where "
-                                  "the size is not known.")
+            return Words::tr("%1 are exactly %2 dpi in both directions: that is made up where "
+                             "the size is not known.")
                 .arg(facts.text())
                 .arg(dpi);
     }
@@ -109,11 +114,11 @@ QString uneven(const ScreenFacts &facts)
         return QString();
     const double turned = densityX({ {}, facts.px, facts.mm.transposed() })
         / densityY({ {}, facts.px, facts.mm.transposed() });
-    const QString text = QStringLiteral("%1: a pixel is %2 times as high as wide%3.");
-    return text.arg(facts.text())
-        .arg(ratio, 0, 'g', 3)
-        .arg(
-            isUneven(turned) ? QString() : QStringLiteral("; width and height in mm look swapped"));
+    const QString text = isUneven(turned)
+        ? Words::tr("%1: a pixel is %2 times as high as wide.")
+        : Words::tr("%1: a pixel is %2 times as high as wide; width and height in mm look "
+                    "swapped.");
+    return text.arg(facts.text()).arg(ratio, 0, 'g', 3);
 }
 
 } // namespace
@@ -135,7 +140,7 @@ ScreenFacts ScreenFacts::inUse()
 
 QString ScreenFacts::text() const
 {
-    QString text = QStringLiteral("%1 x %2 px on %3 x %4 mm")
+    QString text = Words::tr("%1 x %2 px on %3 x %4 mm")
                        .arg(px.width())
                        .arg(px.height())
                        .arg(mm.width())
@@ -165,10 +170,10 @@ QVector<ScreenFinding> ScreenDoctor::findings(const ScreenFacts &facts)
     const double up = densityY(facts);
     if (isOne(across) || isOne(up))
         add(ScreenFinding::PixelsAsMillimetres,
-            QStringLiteral("%1: the millimetres look like pixels.").arg(facts.text()));
+            Words::tr("%1: the millimetres look like pixels.").arg(facts.text()));
     else if (isUnlikely(across) || isUnlikely(up))
         add(ScreenFinding::UnlikelyDensity,
-            QStringLiteral("%1: panels have 2 to 25 px/mm.").arg(facts.text()));
+            Words::tr("%1: panels have 2 to 25 px/mm.").arg(facts.text()));
     add(ScreenFinding::UnevenPixels, uneven(facts));
     return found;
 }

@@ -23,7 +23,7 @@ struct HOXQPANEL_EXPORT ScreenFacts
     static ScreenFacts of(const QScreen *screen);
     /// The scale in use: what ScalingInfo was told, or else what the primary screen tells.
     static ScreenFacts inUse();
-    /// "1280 x 800 px on 160 x 100 mm, 8 x 8 px/mm".
+    /// "1280 x 800 px on 160 x 100 mm, 8 x 8 px/mm", in the language of PanelTranslations.
     QString text() const;
 };
 
@@ -46,7 +46,8 @@ struct HOXQPANEL_EXPORT ScreenFinding
 
 /// Says whether a panel's size looks wrong. All measures of all widgets hang on it, and platforms
 /// that do not know it make one up. It compares figures only: whether 50 mm are 50 mm tells a ruler
-/// on the page "screen" of the gallery. The program hoxqui-panel prints the same.
+/// on the page "screen" of the gallery. The program hoxqui-panel prints the same, in English; here
+/// it is in the language of PanelTranslations.
 class HOXQPANEL_EXPORT ScreenDoctor
 {
 public:

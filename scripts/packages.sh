@@ -3,17 +3,14 @@
 # Sourced by the scripts beside it: which Debian packages each purpose needs, and need_packages,
 # which installs those that are missing.
 
-# Touches with a time of their own, and input methods, are private to the toolkit.
+# Touches with a time of their own, and input methods, are private to the toolkit; catalogues of
+# texts are compiled by lrelease.
 BUILD_PACKAGES=(g++ cmake ninja-build ccache qtbase5-dev qtbase5-private-dev libqt5svg5-dev
-    librsvg2-bin zlib1g-dev fonts-inter fonts-droid-fallback)
-# Its catalogues are compiled by lrelease.
-PANEL_PACKAGES=("${BUILD_PACKAGES[@]}" qttools5-dev qttools5-dev-tools)
-DESIGNER_PACKAGES=(qttools5-dev)
+    qttools5-dev qttools5-dev-tools librsvg2-bin zlib1g-dev fonts-inter fonts-droid-fallback)
 STYLE_PACKAGES=(clang-format python3)
 # The tests read symbols with binutils, link through pkg-config and fall back to DejaVu.
-TEST_PACKAGES=("${PANEL_PACKAGES[@]}" "${DESIGNER_PACKAGES[@]}"
-    "${STYLE_PACKAGES[@]}" binutils pkg-config fonts-dejavu-core)
-BENCHMARK_PACKAGES=("${PANEL_PACKAGES[@]}" libbenchmark-dev valgrind fonts-dejavu-core)
+TEST_PACKAGES=("${BUILD_PACKAGES[@]}" "${STYLE_PACKAGES[@]}" binutils pkg-config fonts-dejavu-core)
+BENCHMARK_PACKAGES=("${BUILD_PACKAGES[@]}" libbenchmark-dev valgrind fonts-dejavu-core)
 FUZZ_PACKAGES=("${BUILD_PACKAGES[@]}" clang libclang-rt-14-dev)
 LINT_PACKAGES=("${TEST_PACKAGES[@]}" "${BENCHMARK_PACKAGES[@]}" clang-tidy clazy)
 

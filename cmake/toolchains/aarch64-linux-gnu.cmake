@@ -18,7 +18,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH)
 set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64;-L;${CMAKE_SYSROOT})
 # Qt's own tools of the build machine; its package files keep a target that exists.
-foreach(tool moc rcc uic qmake)
+foreach(tool moc rcc uic qmake lrelease lupdate lconvert)
   if(NOT TARGET Qt5::${tool})
     add_executable(Qt5::${tool} IMPORTED GLOBAL)
     set_target_properties(Qt5::${tool} PROPERTIES IMPORTED_LOCATION /usr/lib/qt5/bin/${tool})

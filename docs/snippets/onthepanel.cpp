@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <Panel>
 
-using namespace vexo::hox::qt::ui;
+using namespace vexo::hox::qt::panel;
 
 void setUpPanel(QApplication &application)
 {

@@ -5,7 +5,7 @@
 #include <QApplication>
 #include <QStackedWidget>
 
-using namespace vexo::hox::qt::ui;
+using namespace vexo::hox::qt::panel;
 
 int main(int argc, char *argv[])
 {

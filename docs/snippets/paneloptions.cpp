@@ -2,7 +2,7 @@
 //! [page]
 #include <Panel>
 
-using namespace vexo::hox::qt::ui;
+using namespace vexo::hox::qt::panel;
 
 // A panel whose screen tells wrong millimetres, and whose application has a sheet and fonts of its
 // own.

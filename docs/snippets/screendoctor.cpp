@@ -10,7 +10,7 @@ using namespace vexo::hox::qt;
 // For the log of a device in the field: what looks wrong, and what mends it.
 void setUpAndTell(QApplication &application)
 {
-    ui::Panel::setUp(application);
+    panel::Panel::setUp(application);
     const auto findings = panel::ScreenDoctor::findings();
     if (!findings.isEmpty())
         qWarning().noquote() << panel::ScreenDoctor::report(findings);

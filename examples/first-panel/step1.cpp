@@ -7,7 +7,9 @@
 #include <QApplication>
 #include <QVBoxLayout>
 
+using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::ui;
+using namespace vexo::hox::qt::panel;
 
 namespace {
 

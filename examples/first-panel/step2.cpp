@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 using namespace vexo::hox::qt::ui;
+using namespace vexo::hox::qt::panel;
 
 namespace {
 

@@ -8,7 +8,7 @@
 
 #include <stdexcept>
 
-using namespace vexo::hox::qt::ui;
+using namespace vexo::hox::qt::panel;
 
 namespace {
 
@@ -68,7 +68,6 @@ void setUpPanel(QApplication *application, const Options &options)
     panel.px = options.px;
     panel.mm = options.mm;
     panel.use_palette = false; // the window has its own, for day and night
-    panel.use_mm_sheet = false;
     panel.sheets.clear();
     Panel::setUp(*application, panel);
 }

@@ -14,6 +14,7 @@
 #include <PanelDialog>
 #include <PanelDimmer>
 #include <PanelNotice>
+#include <PanelTranslations>
 
 #include <QApplication>
 
@@ -96,6 +97,7 @@ void PanelWindow::setLanguage(const QString &code)
     if (code == m_language)
         return;
     m_language = code;
+    PanelTranslations::setLocale(QLocale(code)); // what the libraries themselves say
     QCoreApplication::removeTranslator(&m_translator);
     if (code == "de" && m_translator.load(":/panel/panel_de.qm"))
         QCoreApplication::installTranslator(&m_translator);

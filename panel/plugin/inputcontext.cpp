@@ -2,6 +2,7 @@
 #include "panel/plugin/inputcontext.h"
 
 #include <BounceFilter>
+#include <PanelTranslations>
 
 #include <QApplication>
 #include <QInputMethodQueryEvent>
@@ -26,10 +27,12 @@ QWidget *focusedField()
 
 } // namespace
 
+// Before there are widgets, whose texts a change of the language would set anew.
 InputContext::InputContext()
 {
     // The first touch of the application may bring a keyboard up where the finger is.
     vexo::hox::qt::ui::BounceFilter::install();
+    vexo::hox::qt::panel::PanelTranslations::setLocale();
     connect(&m_dock, &KeyboardDock::changed, this, &InputContext::emitKeyboardRectChanged);
     connect(&m_dock, &KeyboardDock::changed, this, &InputContext::emitInputPanelVisibleChanged);
     connect(&m_dock, &KeyboardDock::languageChanged, this, &InputContext::emitLocaleChanged);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/testcase.h"
 
-#include <Panel>
 #include <VexoFunctionButton>
 #include <VexoPushButton>
 

@@ -51,10 +51,10 @@ void TestPageSoak::leavesNothingBehind()
 {
     QFETCH(int, page);
     const int rounds = asked("HOXQ_SOAK_ROUNDS", 30);
-    ui::PanelOptions options;
+    panel::PanelOptions options;
     options.px = QSize(800, 480);
     options.mm = QSizeF(152, 91);
-    ui::Panel::setUp(*qApp, options);
+    panel::Panel::setUp(*qApp, options);
     QWidget window;
     window.resize(*options.px);
     QScrollArea area(&window);

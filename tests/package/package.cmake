@@ -10,6 +10,8 @@ function(hoxq_package_test name)
   add_executable(${name} package/${name}.cpp)
   hoxq_compile(${name})
   target_link_libraries(${name} PRIVATE Qt5::Test)
+  target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+  target_compile_definitions(${name} PRIVATE HOXQ_STAGE="${stage}")
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
     FIXTURES_REQUIRED installed ENVIRONMENT "${HOXQ_TEST_ENVIRONMENT}" TIMEOUT 600)
@@ -57,6 +59,19 @@ target_compile_definitions(packagesupport PUBLIC
   HOXQ_CMAKE="${CMAKE_COMMAND}" HOXQ_GENERATOR="${CMAKE_GENERATOR}"
   HOXQ_COMPILER="${CMAKE_CXX_COMPILER}" HOXQ_LAUNCHER="${CMAKE_CXX_COMPILER_LAUNCHER}"
   HOXQ_FLAGS="${consumer_flags}" HOXQ_NM="${CMAKE_NM}" HOXQ_READELF="${CMAKE_READELF}")
+
+# These are the applications themselves into which plugins are loaded, so both may have sanitizers.
+hoxq_package_test(tst_stockkeyboard)
+set_property(TEST tst_stockkeyboard APPEND PROPERTY ENVIRONMENT
+  QT_PLUGIN_PATH=${stage}/${CMAKE_INSTALL_LIBDIR}/qt5/plugins QT_IM_MODULE=hoxqui
+  LC_ALL=de_DE.UTF-8 LANGUAGE=)
+target_link_libraries(tst_stockkeyboard PRIVATE Qt5::Widgets)
+if(HOXQ_DESIGNER)
+  hoxq_require(Qt5UiTools qttools5-dev 5.15)
+  hoxq_package_test(tst_stockforms)
+  target_link_libraries(tst_stockforms PRIVATE Qt5::UiTools)
+  target_compile_definitions(tst_stockforms PRIVATE HOXQ_LIBDIR="${CMAKE_INSTALL_LIBDIR}")
+endif()
 
 foreach(name IN ITEMS tst_library tst_consumer tst_configuration)
   hoxq_package_test(${name})

@@ -20,6 +20,8 @@ void TestConfiguration::missingPackageIsNamedInOneLine_data()
     QTest::addColumn<QString>("message");
     QTest::newRow("HOXQ_FONT_LIGHT=/none.otf")
         << "font file /none.otf not found: install the package fonts-inter, or set HOXQ_FONT_LIGHT";
+    QTest::newRow("CMAKE_DISABLE_FIND_PACKAGE_Qt5LinguistTools=ON")
+        << "Qt5LinguistTools not found: install the package qttools5-dev";
     QTest::newRow("HOXQ_RSVG_CONVERT=OFF")
         << "rsvg-convert not found: install the package librsvg2-bin";
 }

@@ -34,6 +34,19 @@ Finished compile(const QStringList &arguments)
         QString(), { QStringLiteral("PKG_CONFIG_PATH=" HOXQ_STAGE "/" HOXQ_LIBDIR "/pkgconfig") });
 }
 
+/// Our libraries that \a program takes from anywhere but the installed tree; itself if from
+/// nowhere.
+QStringList librariesElsewhere(const QString &program)
+{
+    const QStringList lines = run("ldd", { program }).output.split('\n').filter("libhoxq");
+    QStringList elsewhere;
+    for (const QString &line : lines) {
+        if (!line.contains("=> " HOXQ_STAGE "/"))
+            elsewhere += line;
+    }
+    return lines.isEmpty() ? QStringList(program) : elsewhere;
+}
+
 } // namespace
 
 class TestConsumer : public QObject
@@ -41,9 +54,13 @@ class TestConsumer : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { qunsetenv("LD_LIBRARY_PATH"); }
     void findsThePackageWithCMake();
     void buildsTheExample();
     void picturesThePanelApplication();
+    void saysItInTheLanguageOfTheLocale_data();
+    void saysItInTheLanguageOfTheLocale();
+    void catalogueIsFoundInAMovedTree();
     void testsItsScreenWithTheKit();
     void findsThePackageWithPkgConfig();
     void laterMajorVersionIsRefused();
@@ -52,6 +69,8 @@ private Q_SLOTS:
 private:
     void verifyBuilds(const QString &folder, const QString &source);
     void verifyRuns(const QString &program, const QStringList &environment = QStringList());
+    /// Builds tests/consumer/texts first.
+    Finished runTexts(const QStringList &arguments, const QStringList &environment);
 
     QTemporaryDir m_dir;
 };
@@ -64,6 +83,14 @@ void TestConsumer::verifyRuns(const QString &program, const QStringList &environ
     QCOMPARE(QString(result.output).remove("hoxq.consumer: done\n"), expected);
     QVERIFY(result.output.contains("hoxq.consumer: done\n"));
     QCOMPARE(result.exit_code, 0);
+}
+
+Finished TestConsumer::runTexts(const QStringList &arguments, const QStringList &environment)
+{
+    const QString program = m_dir.filePath("texts/texts");
+    if (!QFile::exists(program))
+        verifyBuilds(m_dir.filePath("texts"), QStringLiteral(HOXQ_CONSUMER "/texts"));
+    return run(program, arguments, QString(), environment);
 }
 
 void TestConsumer::verifyBuilds(const QString &folder, const QString &source)
@@ -92,10 +119,59 @@ void TestConsumer::picturesThePanelApplication()
     verifyBuilds(folder, QStringLiteral(HOXQ_SOURCE "/examples/panel"));
     const QStringList panel{ "--panel", "640x400@160x80" };
     const QString shots = folder + "/shots";
-    const Finished result = run(folder + "/panel", panel + QStringList{ "--shots", shots });
+    const Finished result = run(folder + "/panel", panel + QStringList{ "--shots", shots }, {},
+        { "QT_LOGGING_RULES=hoxq.translations.debug=true" });
     QVERIFY2(result.exit_code == 0, qPrintable(result.output));
+    QVERIFY2(
+        result.output.contains("de_DE: " HOXQ_STAGE "/share/hoxqui/translations/hoxqui_de.qm\n"),
+        qPrintable(result.output));
+    QCOMPARE(librariesElsewhere(folder + "/panel"), QStringList());
     QVERIFY(QDir(shots).entryList({ "*.png" }).contains("27-update-de.png"));
     QCOMPARE(run(folder + "/panel", { "--panel", "640x400" }).exit_code, 2);
+}
+
+void TestConsumer::saysItInTheLanguageOfTheLocale_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("environment");
+    QTest::addColumn<QString>("expected");
+    const QString german = "de\nTastatur\nVerringern\n";
+    const QString english = "en\nKeyboard\nDecrease\n";
+    QTest::newRow("German") << "de_DE"
+                            << "C" << german;
+    QTest::newRow("English, in a German system") << "en_GB"
+                                                 << "de_DE.UTF-8" << english;
+    QTest::newRow("without a catalogue") << "th_TH"
+                                         << "de_DE.UTF-8" << english;
+    QTest::newRow("the system's") << ""
+                                  << "de_AT.UTF-8" << german;
+}
+
+void TestConsumer::saysItInTheLanguageOfTheLocale()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, environment);
+    const Finished result = runTexts({ locale }, { "LANGUAGE=", "LC_ALL=" + environment });
+    QCOMPARE(result.output.section('\n', 0, 0), QString(HOXQ_STAGE "/share/hoxqui/translations"));
+    QTEST(result.output.section('\n', 1), "expected");
+}
+
+/// As the loader finds the library there, also by a link.
+void TestConsumer::catalogueIsFoundInAMovedTree()
+{
+    const QString moved = m_dir.filePath("moved to");
+    QCOMPARE(run("cp", { "-a", QStringLiteral(HOXQ_STAGE), moved }).exit_code, 0);
+    const QString library = moved + "/" HOXQ_LIBDIR;
+    const QString links = m_dir.filePath("links");
+    QVERIFY(QDir().mkdir(links));
+    for (const char *name : { "/libhoxqpanel.so.1", "/libhoxqui.so.1", "/libhoxqsystem.so.1" })
+        QVERIFY(QFile::link(library + name, links + name));
+    const QString german = moved + "/share/hoxqui/translations\nde\nTastatur\nVerringern\n";
+    for (const QString &place : { library, links })
+        QCOMPARE(runTexts({ "de" }, { "LD_LIBRARY_PATH=" + place }).output, german);
+    QVERIFY(QDir(moved + "/share/hoxqui").removeRecursively());
+    const Finished without = runTexts({ "de" }, { "LD_LIBRARY_PATH=" + library });
+    QCOMPARE(without.output.section('\n', 1), QString("en\nKeyboard\nDecrease\n"));
 }
 
 void TestConsumer::testsItsScreenWithTheKit()

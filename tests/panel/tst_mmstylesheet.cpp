@@ -3,10 +3,7 @@
 #include "support/testcase.h"
 
 #include <MmStylesheet>
-#include <Panel>
 #include <ScalingInfo>
-#include <VexoSlider>
-#include <VexoSliderDecoration>
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -52,14 +49,13 @@ private Q_SLOTS:
     void faultIsNamedWithItsLine_data();
     void faultIsNamedWithItsLine();
     void faultyFileAddsNothing();
+    void onlyWhatShowsIsKept();
     void shownSheetFollowsTheScale();
     void anotherSheetIsLeftAlone();
     void readySheetFitsEachDensity_data();
     void readySheetFitsEachDensity();
     void readySliderIsRoundAndFilledFromItsMinimum_data();
     void readySliderIsRoundAndFilledFromItsMinimum();
-    void readySliderBesideAScaleIsThatOfTheSetUp_data();
-    void readySliderBesideAScaleIsThatOfTheSetUp();
 };
 
 void TestMmStylesheet::cleanup()
@@ -93,8 +89,7 @@ void TestMmStylesheet::lengthsAreConverted_data()
     row("width: 7.2pt;", "width: 25px;");
     row("width: 0.001mm; height: 0mm;", "width: 1px; height: 0px;");
     row("width: 99999999mm;", "width: 32767px;");
-    row("width: 12px; font-size: 120%; margin: 2em;",
-        "width: 12px; font-size: 120%; margin: 2em 2em;");
+    row("width: 12px; font-size: 120%; margin: 2em;", "width: 12px; font-size: 120%; margin: 2em;");
     row("width: calc(6.4mm - 0.41mm - 3px + 1mm);", "width: 67px;");
     row("qproperty-iconSize: 3mm 3mm; qproperty-minimumSectionSize: 3mm; qproperty-flat: 1;",
         "qproperty-iconSize: 30px 60px; qproperty-minimumSectionSize: 60px; qproperty-flat: 1;");
@@ -103,6 +98,7 @@ void TestMmStylesheet::lengthsAreConverted_data()
     row("background: qlineargradient(x1:0, y1: 0.5, stop:0 #3a3a3a);",
         "background: qlineargradient(x1:0, y1: 0.5, stop:0 #3a3a3a);");
     row("/* 3mm } */ color: red /* ; */; ;", "color: red;");
+    row("/*a*//*b*/ color: rgb(1, /* ) */2,\n3) /*c*//*d*/;", "color: rgb(1, 2, 3);");
     // A radius beyond half of what is sure would be drawn as a square.
     row("width: 3mm; height: 3mm; border-radius: 2mm;",
         "width: 30px; height: 60px; border-radius: 15px 30px;");
@@ -149,6 +145,10 @@ void TestMmStylesheet::faultIsNamedWithItsLine_data()
     row("@media print { }", "1: '@media print': rules with @ are not known");
     row("A { color: \\", "1: the rule of 'A' has no }");
     row("A { color: 'a\\", "1: a quotation that does not end on its line");
+    const QByteArray selectors = "A" + QByteArray(", A").repeated(200);
+    row(selectors + " { color: red }", "1: too many selectors and declarations for the toolkit");
+    row("A" + QByteArray("\\2c A").repeated(200) + " { color: red }",
+        "1: too many selectors and declarations for the toolkit");
 }
 
 void TestMmStylesheet::faultIsNamedWithItsLine()
@@ -179,6 +179,19 @@ void TestMmStylesheet::faultyFileAddsNothing()
     QCOMPARE(sheet.faults().size(), 4);
     QVERIFY(sheet.faults().constFirst().startsWith(name + QStringLiteral(":2: ")));
     QCOMPARE(sheet.inPixels(), QString());
+}
+
+void TestMmStylesheet::onlyWhatShowsIsKept()
+{
+    MmStylesheet sheet;
+    sheet.addText(QStringLiteral("A { image: url(a); color: red } B { color: red } C { }"));
+    sheet.addText(QStringLiteral("D { color: red ! important } A:on { color: red }"));
+    sheet.addText(QStringLiteral("A { color: blue } B { color: blue } C { color: blue }"));
+    sheet.addText(QStringLiteral("D { color: blue } A { color: black }"));
+    QCOMPARE(sheet.inPixels().simplified(),
+        QStringLiteral("A { image: url(a); } C { } D { color: red ! important; } "
+                       "A:on { color: red; } B { color: blue; } C { color: blue; } "
+                       "D { color: blue; } A { color: black; }"));
 }
 
 void TestMmStylesheet::shownSheetFollowsTheScale()
@@ -272,39 +285,6 @@ void TestMmStylesheet::readySliderIsRoundAndFilledFromItsMinimum()
         QCOMPARE(at(0, 0), QColor(Qt::white)); // the handle
         QCOMPARE(at(2.7, 2.7), QColor(Qt::white)); // beside it, if it is round
     }
-}
-
-void TestMmStylesheet::readySliderBesideAScaleIsThatOfTheSetUp_data()
-{
-    QTest::addColumn<double>("density");
-    QTest::addColumn<bool>("is_level");
-    for (const double density : { 4.0, 7.3, 11.0, 20.0 }) {
-        QTest::addRow("level, %g px/mm", density) << density << true;
-        QTest::addRow("upright, %g px/mm", density) << density << false;
-    }
-}
-
-void TestMmStylesheet::readySliderBesideAScaleIsThatOfTheSetUp()
-{
-    QFETCH(double, density);
-    QFETCH(bool, is_level);
-    const PanelScale scale(density, density);
-    QWidget window;
-    VexoSliderDecoration decoration;
-    auto *slider = new VexoSlider(is_level ? Qt::Horizontal : Qt::Vertical);
-    slider->setMaximum(100);
-    slider->setValue(100); // to its end, where the mark is
-    decoration.setSliderWidget(slider);
-    decoration.setDecoStyle(is_level ? VexoSliderDecoration::HorizontalWithScale
-                                     : VexoSliderDecoration::VerticalWithScale);
-    decoration.setScaleText({ QStringLiteral("0"), QStringLiteral("1") });
-    decoration.setParent(&window);
-    decoration.resize(decoration.sizeHint());
-    window.show();
-    decoration.setStyleSheet(Panel::mmSheet());
-    const QImage expected = picture(&decoration);
-    decoration.setStyleSheet(MmStylesheet(MmStylesheet::files(MmStylesheet::Day)).inPixels());
-    QCOMPARE(picture(&decoration), expected);
 }
 
 QTEST_MAIN(TestMmStylesheet)

@@ -14,6 +14,7 @@
 #include <QAbstractButton>
 #include <QPointer>
 
+using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::ui;
 using namespace vexo::hox::qt::uitest;
 
@@ -66,6 +67,7 @@ private Q_SLOTS:
     void screensAreGood();
     void eachAcceptedLineIsNeeded();
     void languageChangesWhatIsShown();
+    void languageChangesWhatTheLibrariesSay();
     void changeOfThePagePaintsItOnce_data();
     void changeOfThePagePaintsItOnce();
     void leavesNothingBehind_data();
@@ -90,7 +92,6 @@ void TestPanelExample::initTestCase()
     options.px = QSize(800, 480);
     options.mm = QSizeF(160, 96);
     options.use_palette = false;
-    options.use_mm_sheet = false;
     options.sheets.clear();
     Panel::setUp(*qobject_cast<QApplication *>(qApp), options);
     QVERIFY(m_accepted.read(QStringLiteral(HOXQ_ACCEPTED_EXAMPLE)));
@@ -164,6 +165,27 @@ void TestPanelExample::languageChangesWhatIsShown()
     QVERIFY(!texts().contains("Settings"));
     m_panel->setLanguage("en");
     QVERIFY(texts().contains("Settings"));
+}
+
+// The keyboard in the search, and the number of seconds in the settings.
+void TestPanelExample::languageChangesWhatTheLibrariesSay()
+{
+    const auto says = [this](const QString &name) {
+        for (const QWidget *widget : m_panel->findChildren<QWidget *>()) {
+            if (widget->accessibleName() == name)
+                return true;
+        }
+        return false;
+    };
+    for (const char *screen : { "contacts", "settings" }) {
+        const bool is_search = qstrcmp(screen, "contacts") == 0;
+        m_panel->stack()->open(screen);
+        QVERIFY(says(is_search ? "Hide keyboard" : "Decrease"));
+        m_panel->setLanguage("de");
+        QTRY_VERIFY(says(is_search ? "Tastatur ausblenden" : "Verringern"));
+        m_panel->setLanguage("en");
+        QTRY_VERIFY(says(is_search ? "Hide keyboard" : "Decrease"));
+    }
 }
 
 void TestPanelExample::changeOfThePagePaintsItOnce_data()

@@ -23,6 +23,7 @@
 #include <QPushButton>
 #include <QSvgRenderer>
 
+using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::ui;
 
 namespace {
@@ -402,7 +403,6 @@ int main(int argc, char **argv)
     PanelOptions options;
     options.px = QSize(1000, 1000); // a scale that needs no warning
     options.mm = QSizeF(100, 100);
-    options.use_mm_sheet = false;
     options.sheets.clear();
     Panel::setUp(application, options);
     TestPixelRatio test;

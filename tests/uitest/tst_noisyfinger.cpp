@@ -14,6 +14,7 @@
 
 #include <QRandomGenerator>
 
+using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::ui;
 using vexo::hox::qt::uitest::Finger;
 

@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 
 using namespace auditing;
+using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::ui;
 
 namespace {

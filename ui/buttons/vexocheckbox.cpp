@@ -9,7 +9,7 @@ namespace vexo::hox::qt::ui {
 VexoCheckBox::VexoCheckBox(QWidget *parent)
     : QCheckBox(parent)
     , m_delegator(VexoFeedbackDelegator::tone_delegator)
-    , m_distance(std::make_unique<TapDistance>(8))
+    , m_tap_limit(std::make_unique<TapLimit>(8))
 {
     setupConnections();
 }
@@ -18,12 +18,12 @@ VexoCheckBox::~VexoCheckBox() = default;
 
 int VexoCheckBox::mouseMoveDelta() const
 {
-    return m_distance->px();
+    return m_tap_limit->px();
 }
 
 void VexoCheckBox::setMouseMoveDelta(int px)
 {
-    m_distance->setPx(px);
+    m_tap_limit->setPx(px);
 }
 
 void VexoCheckBox::setupConnections()
@@ -48,7 +48,7 @@ void VexoCheckBox::mouseReleaseEvent(QMouseEvent *event)
 
 void VexoCheckBox::mouseMoveEvent(QMouseEvent *event)
 {
-    Press::move(this, event->globalPos(), *m_distance);
+    Press::move(this, event->globalPos(), *m_tap_limit);
 }
 
 } // namespace vexo::hox::qt::ui

@@ -29,7 +29,7 @@ VexoFunctionButton::VexoFunctionButton(QWidget *parent, const VexoFunctionButton
     , m_layout(new RowLayout)
     , m_label(new RowLabel(this))
     , m_visible_buddies(std::make_unique<VisibleBuddies>())
-    , m_distance(std::make_unique<TapDistance>(10))
+    , m_tap_limit(std::make_unique<TapLimit>(10))
     , m_button_type(type)
 {
     qRegisterMetaType<VexoFunctionButtonType>("VexoFunctionButtonType");
@@ -142,13 +142,13 @@ QAbstractButton *VexoFunctionButton::getButtonInstance() const
 
 int VexoFunctionButton::getMouseMoveDelta() const
 {
-    return m_distance->px();
+    return m_tap_limit->px();
 }
 
 void VexoFunctionButton::setMouseMoveDelta(int px)
 {
     if (px >= 3 && px <= 24)
-        m_distance->setPx(px);
+        m_tap_limit->setPx(px);
 }
 
 QWidget *VexoFunctionButton::addVisibleBuddy(QWidget *buddy)
@@ -187,7 +187,7 @@ void VexoFunctionButton::mouseReleaseEvent(QMouseEvent *event)
 
 void VexoFunctionButton::mouseMoveEvent(QMouseEvent *event)
 {
-    Press::move(this, event->pos(), *m_distance);
+    Press::move(this, event->pos(), *m_tap_limit);
 }
 
 void VexoFunctionButton::paintEvent(QPaintEvent *event)

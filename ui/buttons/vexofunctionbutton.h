@@ -19,7 +19,7 @@ namespace vexo::hox::qt::ui {
 class RowLabel;
 class RowLayout;
 class ScalingInfo;
-class TapDistance;
+class TapLimit;
 class VexoFeedbackDelegator;
 class VisibleBuddies;
 
@@ -115,8 +115,8 @@ public:
     /// What holds the checked state: check box, radio button or tick box, with an arrow the row
     /// itself. Valid until the next setButtonType().
     QAbstractButton *getButtonInstance() const;
-    /// How far the finger may move in x or y while down, px. Default 10; where Panel::setUp() has
-    /// set the application up, 5 mm hold in its place until a distance is set.
+    /// How far the finger may move in x or y while down, px. Default 10; where TapDistance::mm()
+    /// is set (by Panel::setUp() to 5 mm), that holds in its place until a distance is set here.
     int getMouseMoveDelta() const;
     /// Ignored below 3 and above 24.
     void setMouseMoveDelta(int px);
@@ -168,7 +168,7 @@ private:
     QPixmap m_arrow_normal;
     QPixmap m_arrow_pressed; // null until it is first shown
     QPixmap m_arrow_inactive; // null until it is first shown
-    const std::unique_ptr<TapDistance> m_distance;
+    const std::unique_ptr<TapLimit> m_tap_limit;
     bool m_last_checked = false;
     bool m_inactive_shown = false;
     bool m_last_down = false;

@@ -2,6 +2,7 @@
 #include "ui/buttons/vexonumericbutton.h"
 
 #include "ui/buttons/vexoiconbutton.h"
+#include "ui/foundation/languagefollower_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/foundation/pixels_p.h"
 #include "ui/foundation/plainlabel_p.h"
@@ -101,12 +102,12 @@ void VexoNumericButton::setupUi()
 {
     m_decrease_button = createRoundButton(QStringLiteral("Minus"));
     m_decrease_button->setObjectName(QStringLiteral("decreaseButton"));
-    m_decrease_button->setAccessibleName(tr("Decrease"));
+    followLanguage(m_decrease_button, "accessibleName", [] { return tr("Decrease"); });
     connect(m_decrease_button, &QAbstractButton::clicked, this,
         &VexoNumericButton::onDecreaseButtonClicked);
     m_increase_button = createRoundButton(QStringLiteral("Plus"));
     m_increase_button->setObjectName(QStringLiteral("increaseButton"));
-    m_increase_button->setAccessibleName(tr("Increase"));
+    followLanguage(m_increase_button, "accessibleName", [] { return tr("Increase"); });
     connect(m_increase_button, &QAbstractButton::clicked, this,
         &VexoNumericButton::onIncreaseButtonClicked);
 

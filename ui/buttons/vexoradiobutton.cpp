@@ -9,7 +9,7 @@ namespace vexo::hox::qt::ui {
 VexoRadioButton::VexoRadioButton(QWidget *parent)
     : QRadioButton(parent)
     , m_delegator(VexoFeedbackDelegator::tone_delegator)
-    , m_distance(std::make_unique<TapDistance>(8))
+    , m_tap_limit(std::make_unique<TapLimit>(8))
 {
     setupConnections();
 }
@@ -38,7 +38,7 @@ void VexoRadioButton::mouseReleaseEvent(QMouseEvent *event)
 
 void VexoRadioButton::mouseMoveEvent(QMouseEvent *event)
 {
-    Press::move(this, event->globalPos(), *m_distance);
+    Press::move(this, event->globalPos(), *m_tap_limit);
 }
 
 } // namespace vexo::hox::qt::ui

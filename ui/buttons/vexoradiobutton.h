@@ -10,15 +10,15 @@
 
 namespace vexo::hox::qt::ui {
 
-class TapDistance;
+class TapLimit;
 class VexoFeedbackDelegator;
 
 /// A radio button for lists that are scrolled by swiping: it is chosen at the release instead of
-/// the press, and only if the finger has not wandered more than 8 px in x or y meanwhile, or 5 mm
-/// where Panel::setUp() has set the application up. It looks like the toolkit's; the library's
-/// stylesheets bring larger indicators, in pixels made for 11 px/mm, Panel::mmSheet() in
-/// millimetres. It reacts wherever it is touched, shows no pressed look, and rings the feedback
-/// delegator that was installed when it was constructed.
+/// the press, and only if the finger has not wandered more than 8 px in x or y meanwhile, or
+/// TapDistance::mm() where that is set; Panel::setUp() sets 5 mm. It looks like the toolkit's; the
+/// library's stylesheets bring larger indicators, in pixels made for 11 px/mm, and Panel::setUp()
+/// those in millimetres. It reacts wherever it is touched, shows no pressed look, and rings the
+/// feedback delegator that was installed when it was constructed.
 ///
 /// It may be deleted in its pressed() and clicked(), but not in toggled(), after which the toolkit
 /// goes on with it.
@@ -43,7 +43,7 @@ protected:
 
 private:
     const QPointer<VexoFeedbackDelegator> m_delegator;
-    const std::unique_ptr<TapDistance> m_distance;
+    const std::unique_ptr<TapLimit> m_tap_limit;
 };
 
 } // namespace vexo::hox::qt::ui

@@ -10,8 +10,9 @@ namespace vexo::hox::qt::ui {
 
 /// Reads stylesheet files and gives their joined text to the application. The library brings
 /// ":/css/vexo-AAL.qs" and ":/css/hoxq.qs". Construct one after the application object; the object
-/// need not be kept. Both give their sizes in pixels made for 11 px/mm; Panel::mmSheet() has what
-/// is wrong on other panels in millimetres, and Panel::setUp() applies all three.
+/// need not be kept. Both give their sizes in pixels made for 11 px/mm; what is wrong on other
+/// panels ":/sheets/controls.qs" of libhoxqpanel has in millimetres, and Panel::setUp() applies all
+/// three.
 class HOXQUI_EXPORT VexoStylesheet
 {
 public:

@@ -82,15 +82,13 @@ void showIcon(QLabel *label, const QIcon &icon, const QSize &px)
     label->setPixmap(is_sane ? iconPixmap(icon, size, sharpestRatio()) : QPixmap());
 }
 
-VexoIconButton *makeTrailingButton(
-    QLineEdit *field, VexoFeedbackDelegator *tone, const QString &accessible_name)
+VexoIconButton *makeTrailingButton(QLineEdit *field, VexoFeedbackDelegator *tone)
 {
     const QScopedValueRollback<VexoFeedbackDelegator *> installed(
         VexoFeedbackDelegator::tone_delegator, tone);
     auto *button = new SideWidget<VexoIconButton>(field);
     button->setObjectName(QStringLiteral("trailingButton"));
     button->setAttribute(Qt::WA_NoMousePropagation); // a release beside it is not the field's
-    button->setAccessibleName(accessible_name);
     button->setCanChangeBackgroundColor(false);
     QObject::connect(
         button, &VexoIconButton::sizeChanged, button, &SideWidget<VexoIconButton>::fit);

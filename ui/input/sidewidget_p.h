@@ -21,8 +21,7 @@ QLabel *makeLeadingLabel(QLineEdit *field);
 void showIcon(QLabel *label, const QIcon &icon, const QSize &px);
 
 /// A button called "trailingButton" that rings \a tone, whatever is installed now.
-VexoIconButton *makeTrailingButton(
-    QLineEdit *field, VexoFeedbackDelegator *tone, const QString &accessible_name);
+VexoIconButton *makeTrailingButton(QLineEdit *field, VexoFeedbackDelegator *tone);
 
 /// Shows \a widget at an end of \a field through a further action, a child of the field.
 QWidgetAction *addSideWidget(

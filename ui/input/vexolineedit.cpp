@@ -4,6 +4,7 @@
 #include "ui/buttons/tone_p.h"
 #include "ui/buttons/vexoiconbutton.h"
 #include "ui/foundation/accessible_p.h"
+#include "ui/foundation/languagefollower_p.h"
 #include "ui/foundation/panelfont_p.h"
 #include "ui/input/cursorblink_p.h"
 #include "ui/input/fieldcontent_p.h"
@@ -305,7 +306,8 @@ void VexoLineEdit::calculateCursorPosition()
 VexoIconButton *VexoLineEdit::trailingButton()
 {
     if (!m_trailing_button) {
-        m_trailing_button = makeTrailingButton(this, m_tone_delegator, tr("Delete"));
+        m_trailing_button = makeTrailingButton(this, m_tone_delegator);
+        followLanguage(m_trailing_button, "accessibleName", [] { return tr("Delete"); });
         m_trailing_button->setIcon(m_trailing_icon);
         m_trailing_button->setMmIconSize(m_mm_trailing_icon_size);
     }

@@ -2,6 +2,7 @@
 #include "ui/scrolling/vexoverticalbuttonscrollarea.h"
 
 #include "ui/files/imagefile_p.h"
+#include "ui/foundation/languagefollower_p.h"
 #include "ui/foundation/tightlayout_p.h"
 #include "ui/scrolling/vexoverticalscrollarea.h"
 #include "ui/scrolling/vexoverticalscrollcontent.h"
@@ -186,9 +187,9 @@ void VexoVerticalButtonScrollArea::setupUi()
     setUpIcon(ImageFile(QStringLiteral(":widgetimages/back.svg"), kind).icon());
     setDownIcon(ImageFile(QStringLiteral(":widgetimages/forward.svg"), kind).icon());
     m_up_button->setObjectName(QStringLiteral("upButton"));
-    m_up_button->setAccessibleName(tr("Up"));
+    followLanguage(m_up_button, "accessibleName", [] { return tr("Up"); });
     m_down_button->setObjectName(QStringLiteral("downButton"));
-    m_down_button->setAccessibleName(tr("Down"));
+    followLanguage(m_down_button, "accessibleName", [] { return tr("Down"); });
     m_up_button->setFixedSize(button_px, button_px);
     m_down_button->setFixedSize(button_px, button_px);
     addScrollAreaContent();

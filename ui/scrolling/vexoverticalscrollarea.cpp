@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/scrolling/vexoverticalscrollarea.h"
 
-#include "ui/foundation/tapdistance_p.h"
 #include "ui/foundation/viewport_p.h"
 #include "ui/sliders/vexoslider.h"
 #include "ui/touch/press_p.h"
+#include "ui/touch/taplimit_p.h"
 #include "ui/touch/touchwatch_p.h"
 
 #include <QEasingCurve>

@@ -21,9 +21,9 @@ namespace vexo::hox::qt::ui {
 ///
 /// The look is that of the stylesheets; to draw is left to QSlider. ":/css/vexo-AAL.qs" draws it in
 /// pixels made for 11 px/mm: with less the handle is cut and stands beside its mark, and a level
-/// slider is filled from its maximum. Panel::mmSheet(), which Panel::setUp() applies, mends all
-/// three. It may be deleted in its own signals and in sliderPressed(), but not in other ones, after
-/// which the toolkit goes on with it.
+/// slider is filled from its maximum. ":/sheets/controls.qs", which Panel::setUp() applies too,
+/// mends all three. It may be deleted in its own signals and in sliderPressed(), but not in other
+/// ones, after which the toolkit goes on with it.
 class HOXQUI_EXPORT VexoSlider : public QSlider
 {
     Q_OBJECT

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/touch/bouncefilter.h"
 
-#include "ui/foundation/tapdistance_p.h"
+#include "ui/touch/taplimit_p.h"
 
 #include <QCoreApplication>
 #include <QMouseEvent>

@@ -110,9 +110,9 @@ void Press::move(const QWidget *widget)
         state().has_moved = true;
 }
 
-void Press::move(const QWidget *widget, const QPoint &position, const TapDistance &distance)
+void Press::move(const QWidget *widget, const QPoint &position, const TapLimit &limit)
 {
-    if (isOn(widget) && distance.isExceededBy(position - state().position))
+    if (isOn(widget) && limit.isExceededBy(position - state().position))
         state().is_swipe = true;
 }
 

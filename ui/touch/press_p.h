@@ -1,7 +1,7 @@
 #pragma once
 // SPDX-License-Identifier: MIT
 
-#include "ui/foundation/tapdistance_p.h"
+#include "ui/touch/taplimit_p.h"
 
 #include <QPoint>
 
@@ -40,9 +40,9 @@ public:
 
     /// The finger has moved.
     static void move(const QWidget *widget);
-    /// The finger has moved to \a position. Beyond \a distance it is a swipe, even if it comes
+    /// The finger has moved to \a position. Beyond \a limit it is a swipe, even if it comes
     /// back.
-    static void move(const QWidget *widget, const QPoint &position, const TapDistance &distance);
+    static void move(const QWidget *widget, const QPoint &position, const TapLimit &limit);
 
     /// Whether a list held the press back, and so all moves before the release; they count now.
     static bool missedMoves(const QWidget *widget);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/touch/touchwatch_p.h"
 
-#include "ui/foundation/tapdistance_p.h"
 #include "ui/touch/bouncefilter.h"
+#include "ui/touch/taplimit_p.h"
 
 #include <QApplication>
 #include <QMouseEvent>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/update/updatemainwindow.h"
 
+#include "ui/foundation/languagefollower_p.h"
 #include "ui/foundation/pixels_p.h"
 #include "ui/foundation/tightlayout_p.h"
 #include "ui/update/updatepage.h"
@@ -33,7 +34,8 @@ void UpdateMainWindow::setupUi()
     m_update_page->setObjectName(QStringLiteral("UpdatePage"));
     m_layout->addWidget(m_update_page);
     setCentralWidget(m_central_widget);
-    setWindowTitle(QCoreApplication::translate("UpdateMainWindow", "MainWindow"));
+    followLanguage(this, "windowTitle",
+        [] { return QCoreApplication::translate("UpdateMainWindow", "MainWindow"); });
     QMetaObject::connectSlotsByName(this);
 
     const QSize px = pxSize(*ScalingInfo::inst(), QSizeF(double(m_width_mm), double(m_height_mm)));

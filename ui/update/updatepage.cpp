@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/update/updatepage.h"
 
+#include "ui/foundation/languagefollower_p.h"
 #include "ui/foundation/pixels_p.h"
 #include "ui/ui_updatepage.h"
 
@@ -19,6 +20,8 @@ void UpdatePage::setupUi()
 {
     const ScalingInfo &scaling = *ScalingInfo::inst();
     m_ui->setupUi(this);
+    followLanguage(m_ui->VexoSubTextLabel, "text",
+        [] { return QCoreApplication::translate("UpdatePage", "Updating ..."); });
     m_ui->VexoIconLabel->setPixmap(QStringLiteral(":/widgetimages/vexo-inverted.png"));
     m_ui->VexoIconLabel->setAccessibleName(QStringLiteral("vexo"));
     fixHeight(m_ui->VexoIconLabel, scaling, 7.0);

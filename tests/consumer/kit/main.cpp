@@ -34,10 +34,10 @@ class TestScreen : public QObject
 private slots:
     void initTestCase()
     {
-        ui::PanelOptions options;
+        panel::PanelOptions options;
         options.px = QSize(800, 480);
         options.mm = QSizeF(152.4, 91.4);
-        ui::Panel::setUp(*qApp, options);
+        panel::Panel::setUp(*qApp, options);
     }
 
     void tapClicksOnce() // of a thumb that trembles, on a panel that bounces

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "ui/foundation/scalecheck_p.h"
-
 #include "support/panelscale.h"
 #include "support/testcase.h"
-#include "support/touch.h"
 
+#include <MmStylesheet>
 #include <Panel>
+#include <PanelTranslations>
 #include <ScaleDisplayWidget>
 #include <ScalingInfo>
+#include <TapDistance>
 #include <VexoCheckBox>
 #include <VexoColors>
-#include <VexoFunctionButton>
 #include <VexoSlider>
 #include <VexoSliderDecoration>
 
@@ -18,11 +17,13 @@
 #include <QStackedWidget>
 #include <QStyleFactory>
 #include <QStyleOptionSlider>
+#include <QTemporaryDir>
+#include <qpa/qwindowsysteminterface.h>
 
 #include <cmath>
-#include <limits>
 #include <stdexcept>
 
+using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::ui;
 
 namespace {
@@ -33,7 +34,7 @@ const QColor EMPTY(0xc8, 0xc8, 0xc8);
 PanelOptions none()
 {
     PanelOptions options;
-    options.use_style = options.use_palette = options.use_fonts = options.use_mm_sheet = false;
+    options.use_style = options.use_palette = options.use_fonts = options.use_translations = false;
     options.sheets.clear();
     options.tap_mm = 0;
     return options;
@@ -51,15 +52,48 @@ QByteArray looks()
 {
     const QString sheet = qApp->styleSheet();
     const bool has_sheets = sheet.contains("VexoAlerMessageFrame")
-        && sheet.indexOf("VexoAlerMessageFrame") < sheet.indexOf("VexoCenteredVectorButton");
+        && sheet.indexOf("VexoAlerMessageFrame") < sheet.indexOf("VexoCenteredVectorButton")
+        && sheet.indexOf("VexoCenteredVectorButton") < sheet.indexOf("QFrame:window");
     QByteArray found;
     found += isFusion() ? "style " : "";
-    found += QApplication::palette() == Panel::palette() ? "palette " : "";
+    found += QApplication::palette() == MmStylesheet::palette(MmStylesheet::Day) ? "palette " : "";
     found += QApplication::font().weight() == QFont::Light ? "font " : "";
     found += has_sheets ? "sheets " : "";
-    found += sheet.endsWith(Panel::mmSheet()) ? "mm " : "";
+    found += TapDistance::mm() == 5 ? "tap " : "";
+    found += PanelTranslations::language() == "de" ? "texts " : "";
     return found;
 }
+
+/// The screen with other pixels, as long as it lives, and no scale yet.
+class ScreenOf
+{
+public:
+    explicit ScreenOf(const QSize &px)
+        : m_scaling(std::move(ScalingInfo::instance))
+    {
+        setPixels(px);
+    }
+
+    ~ScreenOf()
+    {
+        setPixels(m_px);
+        ScalingInfo::instance = std::move(m_scaling);
+    }
+    ScreenOf(const ScreenOf &) = delete;
+    ScreenOf &operator=(const ScreenOf &) = delete;
+
+private:
+    static void setPixels(const QSize &px)
+    {
+        const QRect area(QPoint(), px);
+        QWindowSystemInterface::handleScreenGeometryChange(
+            QGuiApplication::primaryScreen(), area, area);
+        QCoreApplication::processEvents();
+    }
+
+    const QSize m_px = QGuiApplication::primaryScreen()->size();
+    std::unique_ptr<ScalingInfo> m_scaling;
+};
 
 /// A shown decoration with a slider from 0 to 10.
 struct Scaled
@@ -140,16 +174,20 @@ private Q_SLOTS:
     void refusesSizesThatAreNone();
     void namesAnUnlikelyScale_data();
     void namesAnUnlikelyScale();
+    void givenScaleIsNotExamined();
+    void sheetsFollowTheScale();
+    void faultySheetsAreNamedAndTheOthersApply();
     void framesThatAreWindowsHaveAGround();
     void handleStandsAtItsMark_data();
     void handleStandsAtItsMark();
     void slidersAreFilledFromTheirMinimum_data();
     void slidersAreFilledFromTheirMinimum();
     void indicatorsHaveTheirSize();
-    void tapMayWanderTheSameMillimetres_data();
-    void tapMayWanderTheSameMillimetres();
 
 private:
+    QString written(const char *name, const QByteArray &rules) const;
+
+    const QTemporaryDir m_dir;
     const QFont m_font = QApplication::font();
 };
 
@@ -160,6 +198,7 @@ void TestPanel::cleanup()
     QApplication::setStyle("windows");
     QApplication::setPalette(QPalette());
     QApplication::setFont(m_font);
+    PanelTranslations::setLocale(QLocale(QLocale::English));
     QApplication::setLayoutDirection(Qt::LeftToRight);
     TestCase::cleanup();
 }
@@ -174,12 +213,14 @@ void TestPanel::doesWhatItIsAskedFor_data()
         QTest::newRow(name) << options << expected;
     };
     using Options = PanelOptions;
-    row("all", "style palette font sheets mm ", [](Options &) {});
-    row("no style", "palette font sheets mm ", [](Options &o) { o.use_style = false; });
-    row("no palette", "style font sheets mm ", [](Options &o) { o.use_palette = false; });
-    row("no fonts", "style palette sheets mm ", [](Options &o) { o.use_fonts = false; });
-    row("no sheets", "style palette font mm ", [](Options &o) { o.sheets.clear(); });
-    row("no mm", "style palette font sheets ", [](Options &o) { o.use_mm_sheet = false; });
+    row("all", "style palette font sheets tap texts ", [](Options &) {});
+    row("no style", "palette font sheets tap texts ", [](Options &o) { o.use_style = false; });
+    row("no palette", "style font sheets tap texts ", [](Options &o) { o.use_palette = false; });
+    row("no fonts", "style palette sheets tap texts ", [](Options &o) { o.use_fonts = false; });
+    row("no sheets", "style palette font tap texts ", [](Options &o) { o.sheets.clear(); });
+    row("no distance", "style palette font sheets texts ", [](Options &o) { o.tap_mm = -1; });
+    row("no texts", "style palette font sheets tap ",
+        [](Options &o) { o.use_translations = false; });
     row("nothing", "", [](Options &o) { o = none(); });
 }
 
@@ -188,7 +229,10 @@ void TestPanel::doesWhatItIsAskedFor()
     QFETCH(PanelOptions, options);
     QFETCH(QByteArray, expected);
     QApplication::setStyle("windows");
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German));
     Panel::setUp(*qApp, options);
+    QLocale::setDefault(before);
     QCOMPARE(looks(), expected);
 }
 
@@ -228,22 +272,82 @@ void TestPanel::refusesSizesThatAreNone()
 
 void TestPanel::namesAnUnlikelyScale_data()
 {
-    QTest::addColumn<QSizeF>("density");
+    QTest::addColumn<QSize>("px"); // on 203.2 x 152.4 mm
     QTest::addColumn<QString>("figures");
-    QTest::newRow("likely") << QSizeF(10, 10.4) << QString();
-    QTest::newRow("coarse") << QSizeF(1, 1) << "1 x 1 px/mm";
-    QTest::newRow("fine") << QSizeF(26, 26) << "26 x 26 px/mm";
-    QTest::newRow("not square") << QSizeF(10, 12) << "10 x 12 px/mm";
+    QTest::newRow("likely") << QSize(2032, 1585) << QString();
+    QTest::newRow("made up, and may be right") << QSize(800, 600) << QString();
+    QTest::newRow("coarse") << QSize(203, 152) << "203.2 x 152.4 mm, 0.999 x 0.997 px/mm";
+    QTest::newRow("fine") << QSize(5283, 3962) << "26 x 26 px/mm";
+    QTest::newRow("not square") << QSize(2032, 1829) << "10 x 12 px/mm";
 }
 
 void TestPanel::namesAnUnlikelyScale()
 {
-    QFETCH(QSizeF, density);
+    QFETCH(QSize, px);
     QFETCH(QString, figures);
-    const PanelScale scale(density.width(), density.height());
-    const QString fault = scaleFault(*ScalingInfo::inst());
-    QCOMPARE(fault.section("which is ", 1), figures);
+    const ScreenOf screen(px);
+    const Messages messages;
+    Panel::setUp(*qApp, none());
+    QCOMPARE(ScalingInfo::inst()->m_pixels, px); // all the same
+    QCOMPARE(messages.lines().size(), figures.isEmpty() ? 0 : 1);
+    const QString line = messages.lines().value(0);
+    QVERIFY2(line.contains(figures), qPrintable(line));
+    QCOMPARE(line.count("PanelOptions::mm"), messages.lines().size()); // what mends it
+}
+
+void TestPanel::givenScaleIsNotExamined()
+{
+    const PanelScale scale(1, 1);
     Panel::setUp(*qApp, none()); // no warning: the screen does not tell this
+    PanelOptions options = none();
+    options.px = QSize(100, 100);
+    options.mm = QSizeF(100, 100);
+    Panel::setUp(*qApp, options);
+}
+
+QString TestPanel::written(const char *name, const QByteArray &rules) const
+{
+    QFile file(m_dir.filePath(name));
+    file.open(QIODevice::WriteOnly);
+    file.write(rules);
+    return file.fileName();
+}
+
+void TestPanel::sheetsFollowTheScale()
+{
+    const PanelScale scale(10, 10);
+    PanelOptions options = none();
+    options.sheets = QStringList(written("1.qs", "A { width: 1mm }"));
+    Panel::setUp(*qApp, options);
+    options.sheets = QStringList(written("2.qs", "A { width: 2mm }")); // in its place
+    Panel::setUp(*qApp, options);
+    Panel::setUp(*qApp, none()); // leaves them alone
+    QCOMPARE(qApp->styleSheet().simplified(), "A { width: 20px; }");
+    QCOMPARE(qApp->findChildren<MmStylesheet *>().size(), 1);
+    {
+        const PanelScale another(7, 10);
+        QTRY_COMPARE(qApp->styleSheet().simplified(), "A { width: 14px; }");
+    }
+    QTRY_COMPARE(qApp->styleSheet().simplified(), "A { width: 20px; }");
+}
+
+void TestPanel::faultySheetsAreNamedAndTheOthersApply()
+{
+    PanelOptions options = none();
+    options.sheets = QStringList{ "none.qs", m_dir.path(), written("open.qs", "A { color: red\n"),
+        written("good.qs", "QLabel { color: blue }") };
+    {
+        const Messages messages;
+        Panel::setUp(*qApp, options);
+        QCOMPARE(messages.lines().size(), 3);
+        QVERIFY(messages.lines().at(0).contains("none.qs: does not exist"));
+        QVERIFY(messages.lines().at(1).contains(m_dir.path()));
+        QVERIFY(messages.lines().at(2).contains("open.qs:1: the rule of 'A' has no }"));
+    }
+    QCOMPARE(qApp->styleSheet().simplified(), "QLabel { color: blue; }");
+    QLabel label;
+    label.ensurePolished(); // the toolkit has nothing to complain about
+    QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::blue));
 }
 
 // The panel's sheet makes every frame transparent, and what lies behind a window is black.
@@ -279,7 +383,7 @@ void TestPanel::handleStandsAtItsMark()
     QFETCH(QSizeF, px_per_mm);
     const PanelScale scale(px_per_mm.width(), px_per_mm.height());
     PanelOptions options = none();
-    options.use_mm_sheet = true;
+    options.sheets = QStringList(":/sheets/controls.qs");
     Panel::setUp(*qApp, options);
     Scaled scaled(is_level ? VexoSliderDecoration::HorizontalWithScale
                            : VexoSliderDecoration::VerticalWithScale);
@@ -338,40 +442,9 @@ void TestPanel::indicatorsHaveTheirSize()
     QCOMPARE(box.style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, &box), 142);
     QCOMPARE(box.style()->pixelMetric(QStyle::PM_IndicatorHeight, nullptr, &box), 40);
     box.resize(box.sizeHint());
-    const QImage image = box.grab().toImage(); // the image is stretched beyond its 78 px
+    const QImage image = box.grab().toImage(); // not only 44 px of its 78 x 44
     QVERIFY(image.pixelColor(70, box.height() / 2 - 15) == VexoColors::C3);
     QVERIFY(image.pixelColor(70, box.height() / 2 + 15) == VexoColors::C3);
-}
-
-void TestPanel::tapMayWanderTheSameMillimetres_data()
-{
-    QTest::addColumn<double>("tap_mm");
-    QTest::addColumn<QPoint>("way"); // px, on a panel of 4 x 8 px/mm
-    QTest::addColumn<int>("clicks");
-    QTest::newRow("pixels") << 0.0 << QPoint(10, 10) << 1;
-    QTest::newRow("beyond the pixels") << 0.0 << QPoint(0, 11) << 0;
-    QTest::newRow("5 mm") << 5.0 << QPoint(20, 40) << 1;
-    QTest::newRow("beyond 5 mm across") << 5.0 << QPoint(21, 0) << 0;
-    QTest::newRow("beyond 5 mm along") << 5.0 << QPoint(0, 41) << 0;
-}
-
-void TestPanel::tapMayWanderTheSameMillimetres()
-{
-    QFETCH(double, tap_mm);
-    QFETCH(QPoint, way);
-    QFETCH(int, clicks);
-    const PanelScale scale(4, 8);
-    PanelOptions options = none();
-    options.tap_mm = tap_mm;
-    Panel::setUp(*qApp, options);
-    VexoFunctionButton row(nullptr, VexoFunctionButton::ActionType);
-    QSignalSpy clicked(&row, &QAbstractButton::clicked);
-    touch(&row, { { 20, 15 }, QPoint(20, 15) + way, { 20, 15 } });
-    QCOMPARE(clicked.count(), clicks);
-    row.setMouseMoveDelta(3); // pixels that are given count
-    touch(&row, { { 20, 15 }, { 20, 18 } });
-    touch(&row, { { 20, 15 }, { 20, 19 } });
-    QCOMPARE(clicked.count(), clicks + 1);
 }
 
 QTEST_MAIN(TestPanel)

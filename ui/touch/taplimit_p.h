@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "ui/foundation/pixels_p.h"
+#include "ui/touch/tapdistance.h"
 
 #include <QPoint>
 #include <QSize>
@@ -25,21 +26,17 @@ inline bool leadsBeyondDragStart(const QPoint &way_px)
     return leadsBeyond(way_px, pxSize(*ScalingInfo::inst(), QSizeF(DRAG_START_MM, DRAG_START_MM)));
 }
 
-/// How far a finger may wander in x and y for a tap.
-class TapDistance
+/// How far a finger may wander in x and y for a tap on one widget.
+class TapLimit
 {
 public:
-    /// From now on all that are constructed take \a mm in place of their pixels; 0 or less: their
-    /// pixels.
-    static void setCommon(double mm) { common_mm = mm > 0 ? mm : 0; }
-
-    explicit TapDistance(int px)
+    /// \a px, or TapDistance::mm() in their place.
+    explicit TapLimit(int px)
         : m_px(px)
     {
     }
 
     int px() const { return m_px; }
-    /// Takes the place of a common distance.
     void setPx(int px)
     {
         m_px = px;
@@ -55,10 +52,8 @@ private:
         return m_mm > 0 ? pxSize(*ScalingInfo::inst(), QSizeF(m_mm, m_mm)) : QSize(m_px, m_px);
     }
 
-    inline static double common_mm = 0;
-
     int m_px;
-    double m_mm = common_mm; // in place of the pixels when above 0
+    double m_mm = TapDistance::mm(); // in place of the pixels when above 0
 };
 
 } // namespace vexo::hox::qt::ui
