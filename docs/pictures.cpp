@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include "docs/firststeps.h"
 #include "docs/snippets/placing.cpp"
 
-#define main runFirstPanel
-#include "examples/first-panel/main.cpp"
-#undef main
-
+#include <PageStack>
 #include <Panel>
+#include <VexoLineEdit>
 
 #include <QApplication>
 #include <QDir>
 #include <QPainter>
+#include <QSettings>
+#include <QTemporaryDir>
 
 #include <cstdio>
 
@@ -75,25 +76,6 @@ QImage pictureOf(QWidget &screen)
     return screen.grab().toImage();
 }
 
-QImage firstPanel()
-{
-    QStackedWidget pages;
-    pages.resize(ScalingInfo::inst()->m_pixels);
-    addSettings(&pages);
-    addPinEntry(&pages);
-    const QImage settings = pictureOf(pages);
-    pages.setCurrentIndex(1);
-    pages.findChild<VexoLineEdit *>()->setText("20");
-    const QImage pin_entry = pictureOf(pages);
-    const int gap_px = mmX(4);
-    QImage both(2 * settings.width() + gap_px, settings.height(), settings.format());
-    both.fill(VexoColors::C4);
-    QPainter painter(&both);
-    painter.drawImage(0, 0, settings);
-    painter.drawImage(settings.width() + gap_px, 0, pin_entry);
-    return both;
-}
-
 QImage placing()
 {
     QWidget screen;
@@ -107,20 +89,101 @@ QImage placing()
     return pictureOf(screen);
 }
 
+using namespace vexo::hox::qt::panel;
+
+QImage shown(QWidget *window)
+{
+    QApplication::processEvents();
+    return window->grab().toImage();
+}
+
+QImage namePage(PageStack *pages)
+{
+    pages->open("Your name");
+    pages->findChild<VexoLineEdit *>()->setText("Anna");
+    return shown(pages);
+}
+
+QImage question(PageStack *pages)
+{
+    pages->open("Settings");
+    for (auto *row : pages->findChildren<VexoDesignVectorButton *>()) {
+        if (row->text() == "Reset ...")
+            row->click();
+    }
+    return shown(pages);
+}
+
+QImage dayAndNight(PageStack *pages)
+{
+    const QImage day = shown(pages);
+    pages->open("Settings");
+    for (auto *row : pages->findChildren<VexoFunctionButton *>()) {
+        if (row->text() == "Night look")
+            row->getButtonInstance()->click();
+    }
+    const QImage night = shown(pages);
+    const int gap_px = mmX(4);
+    QImage both(2 * day.width() + gap_px, day.height(), day.format());
+    both.fill(VexoColors::C4);
+    QPainter painter(&both);
+    painter.drawImage(0, 0, day);
+    painter.drawImage(day.width() + gap_px, 0, night);
+    return both;
+}
+
+// What the page says of a step.
+QImage pictureOfStep(int number, QWidget *window)
+{
+    auto *pages = qobject_cast<PageStack *>(window);
+    switch (number) {
+    case 4:
+        return namePage(pages);
+    case 5:
+        return question(pages);
+    case 6:
+        return dayAndNight(pages);
+    default:
+        return shown(window);
+    }
+}
+
+// The last one is shown on the sheet of panels.
+bool saveSteps(const QDir &folder)
+{
+    const QTemporaryDir settings; // not those of whoever calls this
+    qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
+    for (int number = 1; number < first_steps; ++number) {
+        if (number == 6)
+            QSettings("first-panel", "step").setValue("Name", "Anna");
+        const QString file = folder.filePath(QString("first-panel-%1.png").arg(number));
+        const auto save = [&](QWidget *window) {
+            return pictureOfStep(number, window).save(file) ? EXIT_SUCCESS : EXIT_FAILURE;
+        };
+        if (runFirstStep(number, (panel_in_mm * px_per_mm).toSize(), panel_in_mm, save) != 0)
+            return false;
+    }
+    return true;
+}
+
+bool savePlacing(int argc, char **argv, const QDir &folder)
+{
+    QApplication application(argc, argv);
+    PanelOptions options;
+    options.mm = panel_in_mm;
+    options.px = (panel_in_mm * px_per_mm).toSize();
+    Panel::setUp(application, options);
+    return placing().save(folder.filePath("placing.png"));
+}
+
 } // namespace
 
 // Renders what the pages beside those of the classes show into the folder that is given.
 int main(int argc, char *argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    PanelOptions options;
-    options.mm = panel_in_mm;
-    options.px = (panel_in_mm * px_per_mm).toSize();
-    Panel::setUp(application, options);
-    const QDir folder(application.arguments().value(1, "."));
-    if (placing().save(folder.filePath("placing.png"))
-        && firstPanel().save(folder.filePath("first-panel.png")))
+    const QDir folder(argc > 1 ? QString::fromLocal8Bit(argv[1]) : ".");
+    if (saveSteps(folder) && savePlacing(argc, argv, folder))
         return EXIT_SUCCESS;
     std::fprintf(stderr, "hoxqpictures: cannot write to %s\n", qPrintable(folder.path()));
     return EXIT_FAILURE;

@@ -1,21 +1,20 @@
 // SPDX-License-Identifier: MIT
-#define main runFirstPanel
-#include "examples/first-panel/main.cpp"
+#define main firstStep
+#include "examples/first-panel/step7.cpp"
 #undef main
 
-#include <MmStylesheet>
 #include <PanelSheet>
 
 #include <cstdio>
 
 namespace {
 
-QWidget *createSettings()
+QWidget *createPanel()
 {
-    MmStylesheet(PanelOptions().sheets).set();
-    auto *pages = new QStackedWidget;
-    addSettings(pages);
-    pages->layout()->setSizeConstraint(QLayout::SetNoConstraint); // as large as the panel
+    auto *pages = new PageStack;
+    addPages(pages);
+    pages->open("Settings");
+    showLook(pages); // in the millimetres of this panel
     return pages;
 }
 
@@ -27,9 +26,10 @@ int main(int argc, char *argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     Panel::setUp(application);
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QString()); // none
     const double px_per_mm = 2.5; // the rows can be read, and the picture stays small
     const QString file = application.arguments().value(1, "sheet.png");
-    if (vexo::hox::qt::uitest::PanelSheet().sheet(createSettings, px_per_mm).save(file))
+    if (vexo::hox::qt::uitest::PanelSheet().sheet(createPanel, px_per_mm).save(file))
         return EXIT_SUCCESS;
     std::fprintf(stderr, "hoxqsheetpicture: cannot write %s\n", qPrintable(file));
     return EXIT_FAILURE;

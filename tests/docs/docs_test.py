@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """What scripts/docs.py makes of a header: python3 -B tests/docs/docs_test.py"""
 
+import re
 import sys
 import tempfile
 import unittest
@@ -84,6 +85,31 @@ class DocsTest(unittest.TestCase):
                          "// Does b.\nint b(int x,\n    int y)\n{\n    {\n    }\n}\n")
         with self.assertRaises(ValueError):
             docs.function_in(code, "d")
+
+
+class TutorialTest(unittest.TestCase):
+    """The page shows of each step what the one before does not have, and nothing is lost on the way."""
+    ROOT = Path(__file__).parents[2]
+    STEPS = range(1, 8)
+
+    def functions(self, step):
+        text = (self.ROOT / f"examples/first-panel/step{step}.cpp").read_text()
+        names = re.findall(r"^\w[^\n;=]*?\b(\w+)\([^\n]*$", text, re.M)
+        return {name: docs.function_in(text, name) for name in names}
+
+    def shown(self, step):
+        page = (self.ROOT / "docs/first-panel-screen.md").read_text()
+        blocks = re.findall(rf"<!-- code: examples/first-panel/step{step}.cpp ([\w ]+) -->", page)
+        return [name for block in blocks for name in block.split()]
+
+    def test_page_shows_what_is_new(self):
+        before = {}
+        for step in self.STEPS:
+            now = self.functions(step)
+            new = [name for name, code in now.items() if before.get(name) != code]
+            self.assertGreater(len(new), 0)
+            self.assertEqual(sorted(self.shown(step)), sorted(new), f"step {step}")
+            before = now | {name: code for name, code in before.items() if name not in now}
 
 
 if __name__ == "__main__":
