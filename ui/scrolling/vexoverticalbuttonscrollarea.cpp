@@ -20,6 +20,7 @@ namespace vexo::hox::qt::ui {
 namespace {
 
 const int usual_px = 60;
+const int most_px = 1024; // of a side; a bar of such buttons is larger than any screen
 
 /// A stock button, but for the ends of a press.
 class JumpButton : public QPushButton
@@ -154,11 +155,12 @@ void VexoVerticalButtonScrollArea::setMmButtonSize(const QSizeF &mm)
     if (!isMeasure(mm))
         return;
     m_mm_button_size = mm;
-    const QSize px = pxSize(*ScalingInfo::inst(), mm);
+    const QSize px = pxSize(*ScalingInfo::inst(), mm).boundedTo(QSize(most_px, most_px));
     m_button_px = px.isEmpty() ? QSize(usual_px, usual_px) : px;
     setFixedWidth(m_button_px.width());
     const double icon_mm = qMin(mm.width(), mm.height()) / 2;
-    const QSize icon_px = pxSize(*ScalingInfo::inst(), QSizeF(icon_mm, icon_mm));
+    const QSize icon_px
+        = pxSize(*ScalingInfo::inst(), QSizeF(icon_mm, icon_mm)).boundedTo(m_button_px / 2);
     for (QPushButton *button : { m_up_button, m_down_button }) {
         button->setFixedSize(m_button_px);
         button->setIconSize(icon_px.isEmpty() ? QSize() : icon_px); // that of the style

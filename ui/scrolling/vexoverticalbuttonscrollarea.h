@@ -39,7 +39,8 @@ class HOXQUI_EXPORT VexoVerticalButtonScrollArea : public QWidget
     Q_PROPERTY(QIcon m_down_icon MEMBER m_down_icon WRITE setDownIcon)
     /// Size of each button, mm, those to come too; the bar is as wide, and icons are half as high.
     /// Up and down move the column by two and a half buttons. Default 0 x 0, as for any other size
-    /// without an area: 60 x 60 px on each panel. Negative ones and NaN are ignored.
+    /// without an area: 60 x 60 px on each panel. Negative ones and NaN are ignored, and a side
+    /// has at most 1024 px.
     Q_PROPERTY(QSizeF m_mm_button_size READ mmButtonSize WRITE setMmButtonSize)
 
 public:
