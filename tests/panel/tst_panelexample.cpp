@@ -221,15 +221,21 @@ void TestPanelExample::leavesNothingBehind()
     QFETCH(QString, screen);
     m_panel->stack()->open(screen);
     const int scrollers = m_panel->findChildren<VexoVerticalScrollArea *>().size();
-    SoakResult result = soak(
-        [&] {
-            m_panel->stack()->open(screen);
-            QCoreApplication::processEvents();
-            m_panel->stack()->home();
-            QCoreApplication::processEvents();
-        },
-        asked("HOXQ_PAGE_CHANGES", 500) / 2);
-    result.growth.heap_bytes -= 32 * scrollers;
+    const auto round = [&] {
+        m_panel->stack()->open(screen);
+        QCoreApplication::processEvents();
+        m_panel->stack()->home();
+        QCoreApplication::processEvents();
+    };
+    const int rounds = asked("HOXQ_PAGE_CHANGES", 500) / 2;
+    SoakResult result;
+    // What fills a cache of the toolkit ends, a leak does not.
+    for (const int longer : { 1, 3 }) {
+        result = soak(round, longer * rounds);
+        result.growth.heap_bytes -= 32 * scrollers;
+        if (!result.isLeaking())
+            break;
+    }
     QVERIFY2(!result.isLeaking(), qPrintable(result.text()));
 }
 
