@@ -2,6 +2,7 @@
 #include "panelwindow.h"
 #include "walk/walk.h"
 
+#include "support/onscreen.h"
 #include "support/testcase.h"
 #include "uitest/acceptedfindings.h"
 
@@ -196,15 +197,16 @@ void TestPanelExample::changeOfThePagePaintsItOnce_data()
 void TestPanelExample::changeOfThePagePaintsItOnce()
 {
     QFETCH(QString, screen);
-    QTest::qWait(50); // until the start has come up
+    settle();
     const Paints there;
     m_panel->stack()->open(screen);
-    QTest::qWait(50);
+    settle();
     QVERIFY(there.count() > 0);
     QCOMPARE(there.repeated(m_panel->stack()->page()), QStringList());
     const Paints back;
     m_panel->stack()->back();
-    QTest::qWait(50);
+    QCoreApplication::processEvents(); // it is painted before the other one is deleted
+    settle();
     QVERIFY(back.count() > 0);
     QCOMPARE(back.repeated(m_panel->stack()->page()), QStringList());
 }
