@@ -9,7 +9,6 @@
 
 using namespace vexo::hox::qt::panel;
 using namespace vexo::hox::qt::ui;
-using namespace vexo::hox::qt::panel;
 
 namespace {
 
